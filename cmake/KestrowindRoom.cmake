@@ -1,0 +1,27 @@
+# How every target of the project is made: one library a room, warnings as errors, and for each room
+# only the libraries that it may know.
+
+add_library(kestrowind_warnings INTERFACE)
+target_compile_options(kestrowind_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Werror)
+target_compile_definitions(kestrowind_warnings INTERFACE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
+
+if(KESTROWIND_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_program(KESTROWIND_MOLD mold)
+if(KESTROWIND_MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_link_options(-fuse-ld=mold)
+endif()
+
+# kestrowind_room(NAME [LINK target...]): the sources of the current folder as a static library that
+# others include by the path below src/.
+function(kestrowind_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;LINK;PRIVATE_LINK" ${ARGN})
+    add_library(${name} STATIC ${ROOM_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC ${ROOM_LINK} PRIVATE ${ROOM_PRIVATE_LINK} kestrowind_warnings)
+endfunction()

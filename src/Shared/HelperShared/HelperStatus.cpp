@@ -1,0 +1,84 @@
+#include "Shared/HelperShared/HelperStatus.h"
+
+#include <nlohmann/json.hpp>
+
+#include <array>
+#include <utility>
+
+namespace kestrowind {
+namespace {
+
+using Json = nlohmann::json;
+
+constexpr std::array<std::pair<HelperControlPhase, std::string_view>, 4> phaseTexts{{
+    {HelperControlPhase::idle, "idle"},
+    {HelperControlPhase::unlocking, "unlocking"},
+    {HelperControlPhase::controlling, "controlling"},
+    {HelperControlPhase::failed, "failed"},
+}};
+
+/// The library would take a boolean for a number, so its own conversion is not strict enough.
+double strictNumber(const Json& value) {
+    if (!value.is_number())
+        throw Json::type_error::create(302, "a number is required", &value);
+    return value.get<double>();
+}
+
+std::vector<double> strictNumbers(const Json& value) {
+    std::vector<double> numbers;
+    for (const Json& element : value.get_ref<const Json::array_t&>())
+        numbers.push_back(strictNumber(element));
+    return numbers;
+}
+
+} // namespace
+
+std::string_view text(HelperControlPhase phase) {
+    for (const auto& [known, name] : phaseTexts) {
+        if (known == phase)
+            return name;
+    }
+    return "idle";
+}
+
+std::optional<HelperControlPhase> helperControlPhase(std::string_view text) {
+    for (const auto& [phase, name] : phaseTexts) {
+        if (name == text)
+            return phase;
+    }
+    return std::nullopt;
+}
+
+std::string encodeHelperStatus(const HelperStatus& status) {
+    Json document{{"version", status.version},
+                  {"phase", text(status.phase)},
+                  {"autoFloors", status.autoFloors},
+                  {"effectiveTargets", status.effectiveTargets},
+                  {"hottestSensorCelsius", status.hottestSensorCelsius}};
+    if (status.lastError)
+        document["lastError"] = *status.lastError;
+    return document.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+std::optional<HelperStatus> decodeHelperStatus(std::string_view document) {
+    try {
+        const Json json = Json::parse(document);
+        const auto phase = helperControlPhase(json.at("phase").get_ref<const std::string&>());
+        if (!phase)
+            return std::nullopt;
+        HelperStatus status{.version = json.at("version").get<std::string>(),
+                            .phase = *phase,
+                            .autoFloors = strictNumbers(json.at("autoFloors")),
+                            .effectiveTargets = strictNumbers(json.at("effectiveTargets")),
+                            .hottestSensorCelsius = strictNumber(json.at("hottestSensorCelsius")),
+                            .lastError = std::nullopt};
+        const auto error = json.find("lastError");
+        if (error != json.end() && !error->is_null())
+            status.lastError = error->get<std::string>();
+        return status;
+    } catch (const Json::exception&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace kestrowind
