@@ -17,20 +17,6 @@ constexpr std::array<std::pair<HelperControlPhase, std::string_view>, 4> phaseTe
     {HelperControlPhase::failed, "failed"},
 }};
 
-/// The library would take a boolean for a number, so its own conversion is not strict enough.
-double strictNumber(const Json& value) {
-    if (!value.is_number())
-        throw Json::type_error::create(302, "a number is required", &value);
-    return value.get<double>();
-}
-
-std::vector<double> strictNumbers(const Json& value) {
-    std::vector<double> numbers;
-    for (const Json& element : value.get_ref<const Json::array_t&>())
-        numbers.push_back(strictNumber(element));
-    return numbers;
-}
-
 } // namespace
 
 std::string_view text(HelperControlPhase phase) {
@@ -68,9 +54,10 @@ std::optional<HelperStatus> decodeHelperStatus(std::string_view document) {
             return std::nullopt;
         HelperStatus status{.version = json.at("version").get<std::string>(),
                             .phase = *phase,
-                            .autoFloors = strictNumbers(json.at("autoFloors")),
-                            .effectiveTargets = strictNumbers(json.at("effectiveTargets")),
-                            .hottestSensorCelsius = strictNumber(json.at("hottestSensorCelsius")),
+                            .autoFloors = json.at("autoFloors").get<std::vector<double>>(),
+                            .effectiveTargets =
+                                json.at("effectiveTargets").get<std::vector<double>>(),
+                            .hottestSensorCelsius = json.at("hottestSensorCelsius").get<double>(),
                             .lastError = std::nullopt};
         const auto error = json.find("lastError");
         if (error != json.end() && !error->is_null())

@@ -1,0 +1,138 @@
+#include "Core/ControlEngine.h"
+
+#include "Core/AssignIfChanged.h"
+#include "Core/ControlArithmetic.h"
+#include "Core/Logging.h"
+#include "Core/PresetStore.h"
+#include "Core/TelemetryStore.h"
+
+#include <QPointer>
+
+#include <algorithm>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString listText(const QList<double>& numbers) {
+    QStringList texts;
+    for (const double number : numbers)
+        texts.append(QString::number(number));
+    return u'[' + texts.join(u", "_s) + u']';
+}
+
+} // namespace
+
+ControlEngine::ControlEngine(TelemetryStore& telemetry, PresetStore& presets,
+                             HelperControlling& helper, Clock now)
+    : m_telemetry(telemetry)
+    , m_presets(presets)
+    , m_helper(helper)
+    , m_now(std::move(now)) {
+    m_pushTimer.setSingleShot(true);
+    m_pushTimer.setTimerType(Qt::PreciseTimer);
+    m_pushTimer.setInterval(pushDelay);
+    connect(&m_pushTimer, &QTimer::timeout, this, [this] {
+        if (const auto& latest = m_telemetry.latest())
+            pushTargets(latest->fans);
+    });
+    m_telemetry.onSample([engine = QPointer(this)](const TelemetrySample& sample) {
+        if (!engine)
+            return;
+        engine->updateSmoothedTemperature(engine->m_now());
+        engine->pushTargets(sample.fans);
+    });
+}
+
+ControlEngine::~ControlEngine() = default;
+
+void ControlEngine::setQuickBoostPercent(double percent) {
+    if (assignIfChanged(m_quickBoostPercent, percent))
+        Q_EMIT quickBoostPercentChanged();
+    pushSoon();
+}
+
+void ControlEngine::pushSoon() {
+    m_pushTimer.start();
+}
+
+void ControlEngine::updateSmoothedTemperature(std::chrono::system_clock::time_point now) {
+    std::optional<double> elapsed;
+    if (m_lastTickDate)
+        elapsed = std::chrono::duration<double>(now - *m_lastTickDate).count();
+    m_lastTickDate = now;
+    m_smoothedTemperature = ControlArithmetic::smoothedTemperature(
+        m_smoothedTemperature, m_telemetry.systemTemperature().value_or(0), elapsed);
+}
+
+void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
+    if (fans.empty() || !m_helper.isInstalled()) {
+        qCDebug(engineLog).nospace()
+            << "not pushing: fans=" << fans.size() << " helperInstalled=" << m_helper.isInstalled();
+        setRequestedPercents({});
+        setIsOverriding(false);
+        return;
+    }
+    const auto preset = m_presets.activePreset();
+    const QList<double> requested = ControlArithmetic::requestedPercents(
+        preset, m_smoothedTemperature, m_quickBoostPercent, static_cast<qsizetype>(fans.size()));
+    setRequestedPercents(requested);
+    qCDebug(engineLog).noquote().nospace()
+        << "push: preset=" << (preset ? preset->name : u"none"_s)
+        << " temperature=" << m_smoothedTemperature << " percents=" << listText(requested);
+
+    const bool isAnythingRequested =
+        std::ranges::any_of(requested, [](double percent) { return percent > 0; });
+    if (isAnythingRequested)
+        push(ControlArithmetic::targets(requested, fans));
+    else
+        push(std::nullopt);
+}
+
+QCoro::Task<void> ControlEngine::push(std::optional<HelperControlling::Targets> targets) {
+    // While a call is awaited the engine, and the helper with it, may go.
+    const QPointer<ControlEngine> engine(this);
+    if (targets) {
+        auto applied = co_await m_helper.setTargets(std::move(*targets));
+        if (!engine)
+            co_return;
+        setApplied(std::move(applied));
+    } else if (m_isOverriding) {
+        co_await m_helper.releaseControl();
+        if (!engine)
+            co_return;
+        setApplied(std::nullopt);
+    }
+    co_await m_helper.fetchStatus();
+}
+
+QCoro::Task<void> ControlEngine::shutDown() {
+    const QPointer<ControlEngine> engine(this);
+    m_pushTimer.stop();
+    co_await m_helper.releaseControl();
+    if (engine)
+        setApplied(std::nullopt);
+}
+
+void ControlEngine::setRequestedPercents(const QList<double>& percents) {
+    if (assignIfChanged(m_requestedPercents, percents))
+        Q_EMIT requestedPercentsChanged();
+}
+
+void ControlEngine::setApplied(std::optional<HelperControlling::Targets> applied) {
+    setEffectiveTargets(applied.value_or(HelperControlling::Targets()));
+    setIsOverriding(applied && !applied->empty());
+}
+
+void ControlEngine::setEffectiveTargets(const HelperControlling::Targets& targets) {
+    if (assignIfChanged(m_effectiveTargets, targets))
+        Q_EMIT effectiveTargetsChanged();
+}
+
+void ControlEngine::setIsOverriding(bool isOverriding) {
+    if (assignIfChanged(m_isOverriding, isOverriding))
+        Q_EMIT isOverridingChanged();
+}
+
+} // namespace kestrowind

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "Core/HelperControlling.h"
+#include "Shared/SMCKit/SMCFanReading.h"
+
+#include <QCoroTask>
+#include <QList>
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace kestrowind {
+
+class PresetStore;
+class TelemetryStore;
+
+/// Turns the active preset, the temperature and the quick boost into targets and hands them to the
+/// helper: once a sample, and shortly after the user changed something. Belongs to the main thread.
+///
+/// Requested, effective and measured stay apart: `requestedPercents` is what was asked for,
+/// `effectiveTargets` what the helper said it applies, and the samples what the fans do.
+class ControlEngine final : public QObject {
+    Q_OBJECT
+
+public:
+    using Clock = std::function<std::chrono::system_clock::time_point()>;
+
+    /// A burst of changes within this time is one push.
+    static constexpr std::chrono::milliseconds pushDelay{120};
+
+    /// Registers itself for samples. The three must outlive the engine.
+    ControlEngine(TelemetryStore& telemetry, PresetStore& presets, HelperControlling& helper,
+                  Clock now = &std::chrono::system_clock::now);
+    ~ControlEngine() override;
+
+    /// A floor for every fan's demand in percent; 0 is no boost.
+    [[nodiscard]] double quickBoostPercent() const { return m_quickBoostPercent; }
+    /// Every assignment asks for a push, even of the same value.
+    void setQuickBoostPercent(double percent);
+
+    /// The demand of the last push in percent, in fan order.
+    [[nodiscard]] const QList<double>& requestedPercents() const { return m_requestedPercents; }
+    /// What the helper applies since the last push (RPM); empty while it does not control.
+    [[nodiscard]] const std::vector<double>& effectiveTargets() const { return m_effectiveTargets; }
+    /// Whether the application drives the fans.
+    [[nodiscard]] bool isOverriding() const { return m_isOverriding; }
+    /// The temperature at which the curves are evaluated, degrees Celsius.
+    [[nodiscard]] double smoothedTemperature() const { return m_smoothedTemperature; }
+
+    /// Asks for a push after pushDelay; asking again starts the delay anew.
+    void pushSoon();
+    /// Ends all control: no pending push runs any more, and the fans are the system's again.
+    [[nodiscard]] QCoro::Task<void> shutDown();
+
+Q_SIGNALS:
+    void quickBoostPercentChanged();
+    void requestedPercentsChanged();
+    void effectiveTargetsChanged();
+    void isOverridingChanged();
+
+private:
+    void updateSmoothedTemperature(std::chrono::system_clock::time_point now);
+    void pushTargets(const std::vector<SMCFanReading>& fans);
+    QCoro::Task<void> push(std::optional<HelperControlling::Targets> targets);
+
+    void setRequestedPercents(const QList<double>& percents);
+    /// Nothing, or an empty list, means that the application does not control.
+    void setApplied(std::optional<HelperControlling::Targets> applied);
+    void setEffectiveTargets(const HelperControlling::Targets& targets);
+    void setIsOverriding(bool isOverriding);
+
+    TelemetryStore& m_telemetry;
+    PresetStore& m_presets;
+    HelperControlling& m_helper;
+    Clock m_now;
+    double m_quickBoostPercent = 0;
+    QList<double> m_requestedPercents;
+    std::vector<double> m_effectiveTargets;
+    bool m_isOverriding = false;
+    double m_smoothedTemperature = 0;
+    std::optional<std::chrono::system_clock::time_point> m_lastTickDate;
+    QTimer m_pushTimer;
+};
+
+} // namespace kestrowind

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "Core/TelemetrySample.h"
+#include "Core/TelemetrySampler.h"
+
+#include <QList>
+#include <QObject>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace kestrowind {
+
+class UserDefaults;
+
+/// The home of everything measured: the latest sample, half an hour of history, peaks and smoothed
+/// temperatures (degrees Celsius). Belongs to the main thread.
+///
+/// Observers are told of a property only when it really changed, and only once the whole sample has
+/// been taken in, so nobody sees half of it. Then the sample handlers run, in their order.
+class TelemetryStore final : public QObject {
+    Q_OBJECT
+
+public:
+    using SampleHandler = std::function<void(const TelemetrySample&)>;
+
+    /// At 2 seconds a sample, half an hour.
+    static constexpr qsizetype historyCapacity = 900;
+    static constexpr std::chrono::milliseconds sampleInterval = std::chrono::seconds(2);
+
+    TelemetryStore(const UserDefaults& userDefaults, SMCUserClientFactory makeUserClient);
+    ~TelemetryStore() override;
+
+    /// Starts sampling. Until the first sample, `latest` is absent and `smcAvailable` true.
+    void start(std::chrono::milliseconds interval = sampleInterval);
+    /// Adds a handler that is called with every sample on the main thread; it is never removed.
+    void onSample(SampleHandler handler);
+    /// Takes one sample in; what the sampler delivers ends here.
+    void ingest(const TelemetrySample& sample);
+
+    [[nodiscard]] const std::optional<TelemetrySample>& latest() const { return m_latest; }
+    /// Oldest first.
+    [[nodiscard]] const QList<TelemetrySample>& history() const { return m_history; }
+    /// Whether the last sample carried any data.
+    [[nodiscard]] bool smcAvailable() const { return m_smcAvailable; }
+    [[nodiscard]] double peakCPU() const { return m_peakCPU; }
+    [[nodiscard]] double peakGPU() const { return m_peakGPU; }
+    [[nodiscard]] double cpuHottestSmoothed() const { return m_cpuHottestSmoothed; }
+    [[nodiscard]] double gpuHottestSmoothed() const { return m_gpuHottestSmoothed; }
+
+    /// The greater of the smoothed maxima; absent before the first sample.
+    [[nodiscard]] std::optional<double> hottestTemperature() const;
+    /// The temperature that drives the curves, by the user's choice; absent before the first
+    /// sample.
+    [[nodiscard]] std::optional<double> systemTemperature() const;
+
+Q_SIGNALS:
+    void latestChanged();
+    void historyChanged();
+    void smcAvailableChanged();
+    void peakCPUChanged();
+    void peakGPUChanged();
+    void cpuHottestSmoothedChanged();
+    void gpuHottestSmoothedChanged();
+
+private:
+    const UserDefaults& m_userDefaults;
+    std::optional<TelemetrySample> m_latest;
+    QList<TelemetrySample> m_history;
+    bool m_smcAvailable = true;
+    double m_peakCPU = 0;
+    double m_peakGPU = 0;
+    double m_cpuHottestSmoothed = 0;
+    double m_gpuHottestSmoothed = 0;
+    std::vector<SampleHandler> m_onSampleHandlers;
+    TelemetrySampler m_sampler; ///< last, so that its thread has ended before anything else goes
+};
+
+} // namespace kestrowind

@@ -1,0 +1,66 @@
+#include "KestrowindApp/AppDelegate.h"
+
+#include "Core/AppState.h"
+#include "Core/Logging.h"
+#include "Platform/Platform.h"
+
+#include <QPointer>
+#include <QTimer>
+
+namespace kestrowind {
+
+AppDelegate::AppDelegate(Platform& platform)
+    : m_platform(platform) {}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching() {
+    replaceAnyOtherRunningInstance();
+}
+
+bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows) {
+    if (!hasVisibleWindows && m_appState && m_appState->openMainWindow())
+        m_appState->openMainWindow()();
+    return true;
+}
+
+AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() {
+    if (!m_appState)
+        return TerminateReply::now;
+    if (!m_isTerminating) {
+        m_isTerminating = true;
+        quit(*m_appState);
+    }
+    return TerminateReply::later;
+}
+
+QCoro::Task<void> AppDelegate::quit(AppState& appState) {
+    const QPointer<AppDelegate> self(this);
+    co_await appState.engine().shutDown();
+    if (!self)
+        co_return;
+    co_await appState.helper().shutDownDaemon();
+    if (self)
+        Q_EMIT self->replyToShouldTerminate();
+}
+
+void AppDelegate::replaceAnyOtherRunningInstance() {
+    const auto bundleIdentifier = m_platform.information->bundleIdentifier();
+    if (!bundleIdentifier)
+        return;
+    m_olderCopies = m_platform.runningApplications->olderCopies(*bundleIdentifier);
+    if (m_olderCopies.empty())
+        return;
+    qCInfo(shellLog) << "asking" << m_olderCopies.size() << "older copies to end";
+    for (const auto& copy : m_olderCopies)
+        copy->terminate();
+    QTimer::singleShot(politeWait, this, [this] {
+        for (const auto& copy : m_olderCopies) {
+            if (!copy->isTerminated())
+                copy->forceTerminate();
+        }
+        m_olderCopies.clear();
+    });
+}
+
+} // namespace kestrowind

@@ -1,0 +1,51 @@
+#include "KestrowindApp/KestrowindApp.h"
+
+#include "Core/SMCDiagnostics.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+namespace kestrowind {
+
+using namespace Qt::StringLiterals;
+
+KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& options)
+    : m_platform(makePlatform(arguments))
+    , m_appState(m_platform)
+    , m_delegate(m_platform) {
+    m_platform.userDefaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
+    connect(&m_terminationSignals, &TerminationSignals::terminationRequested, this,
+            &KestrowindApp::terminate);
+    connect(&m_delegate, &AppDelegate::replyToShouldTerminate, this,
+            [] { QCoreApplication::exit(); });
+    if (options.readings) {
+        m_readingsPrinter = std::make_unique<ReadingsPrinter>(m_appState, *options.readings);
+        // Nobody reads any more: what ran for its readings is done.
+        connect(m_readingsPrinter.get(), &ReadingsPrinter::outputClosed, this,
+                &KestrowindApp::terminate);
+    }
+}
+
+KestrowindApp::~KestrowindApp() = default;
+
+int KestrowindApp::run() {
+    m_delegate.setAppState(&m_appState);
+    m_delegate.applicationDidFinishLaunching();
+    return QCoreApplication::exec();
+}
+
+void KestrowindApp::dumpSMCKeys() const {
+    SMCDiagnostics::dump(*m_platform.information, m_platform.smc(), [](const std::string& line) {
+        std::fwrite(line.data(), 1, line.size(), stdout);
+        std::fputc('\n', stdout);
+    });
+    std::fflush(stdout);
+}
+
+void KestrowindApp::terminate() {
+    if (m_delegate.applicationShouldTerminate() == AppDelegate::TerminateReply::now)
+        QCoreApplication::exit();
+}
+
+} // namespace kestrowind

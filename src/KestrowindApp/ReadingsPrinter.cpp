@@ -1,0 +1,110 @@
+#include "KestrowindApp/ReadingsPrinter.h"
+
+#include "Core/AppState.h"
+
+#include <QDateTime>
+#include <QPointer>
+#include <QTimeZone>
+#include <nlohmann/json.hpp>
+
+#include <cmath>
+#include <cstdio>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Json = nlohmann::ordered_json;
+
+QDateTime dateTime(const TelemetrySample& sample) {
+    const auto sinceEpoch =
+        std::chrono::duration_cast<std::chrono::milliseconds>(sample.timestamp.time_since_epoch());
+    return QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(), QTimeZone::utc());
+}
+
+template <class T>
+Json orNull(const std::optional<T>& value) {
+    return value ? Json(*value) : Json();
+}
+
+std::optional<std::string> phaseText(const AppState& appState) {
+    const auto status = appState.helper().lastStatus();
+    return status ? std::optional(std::string(text(status->phase))) : std::nullopt;
+}
+
+Json fanReadings(const TelemetrySample& sample) {
+    Json fans = Json::array();
+    for (const SMCFanReading& fan : sample.fans) {
+        fans.push_back({{"index", fan.index},
+                        {"actualRPM", fan.actualRPM},
+                        {"targetRPM", fan.targetRPM},
+                        {"minRPM", fan.minRPM},
+                        {"maxRPM", fan.maxRPM},
+                        {"mode", orNull(fan.modeRaw)}});
+    }
+    return fans;
+}
+
+} // namespace
+
+ReadingsPrinter::ReadingsPrinter(const AppState& appState, ReadingsFormat format)
+    : m_appState(appState)
+    , m_format(format) {
+    appState.telemetry().onSample([printer = QPointer(this)](const TelemetrySample& sample) {
+        if (printer)
+            printer->print(sample);
+    });
+}
+
+std::string ReadingsPrinter::json(const AppState& appState, const TelemetrySample& sample) {
+    const ControlEngine& engine = appState.engine();
+    const auto preset = appState.presets().activePreset();
+    const auto& temperatures = sample.temperatures;
+    const Json line{
+        {"timestamp", dateTime(sample).toString(Qt::ISODateWithMs).toStdString()},
+        {"cpuAverage", temperatures.cpuAverage},
+        {"cpuMax", temperatures.cpuMax},
+        {"gpuAverage", temperatures.gpuAverage},
+        {"gpuMax", temperatures.gpuMax},
+        {"hottest", temperatures.hottest},
+        {"systemTemperature", orNull(appState.telemetry().systemTemperature())},
+        {"smoothedTemperature", engine.smoothedTemperature()},
+        {"fans", fanReadings(sample)},
+        {"preset", preset ? Json(preset->name.toStdString()) : Json()},
+        {"quickBoostPercent", engine.quickBoostPercent()},
+        {"requestedPercents",
+         std::vector<double>(engine.requestedPercents().begin(), engine.requestedPercents().end())},
+        {"effectiveTargets", engine.effectiveTargets()},
+        {"isOverriding", engine.isOverriding()},
+        {"helperState", kestrowind::text(appState.helper().state()).toStdString()},
+        {"phase", orNull(phaseText(appState))},
+    };
+    return line.dump();
+}
+
+std::string ReadingsPrinter::text(const AppState& appState, const TelemetrySample& sample) {
+    const auto& temperatures = sample.temperatures;
+    QString line = dateTime(sample).toLocalTime().toString(u"HH:mm:ss"_s) +
+                   QString::asprintf("  CPU %5.1f °C (max %5.1f)  GPU %5.1f °C (max %5.1f)",
+                                     temperatures.cpuAverage, temperatures.cpuMax,
+                                     temperatures.gpuAverage, temperatures.gpuMax);
+    for (const SMCFanReading& fan : sample.fans)
+        line += QString::asprintf("  fan %d %5.0f → %5.0f rpm", fan.index, fan.actualRPM,
+                                  fan.targetRPM);
+    const auto preset = appState.presets().activePreset();
+    line += u"  "_s + (preset ? preset->name : u"Automatic"_s) + u"  helper "_s +
+            kestrowind::text(appState.helper().state());
+    if (const auto phase = phaseText(appState))
+        line += u", "_s + QString::fromStdString(*phase);
+    return line.toStdString();
+}
+
+void ReadingsPrinter::print(const TelemetrySample& sample) {
+    const std::string line =
+        (m_format == ReadingsFormat::json ? json(m_appState, sample) : text(m_appState, sample)) +
+        '\n';
+    if (std::fwrite(line.data(), 1, line.size(), stdout) != line.size() || std::fflush(stdout) != 0)
+        Q_EMIT outputClosed();
+}
+
+} // namespace kestrowind

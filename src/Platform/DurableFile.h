@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <expected>
+
+namespace kestrowind::DurableFile {
+
+/// Replaces a file's content so that a crash or a power cut leaves the old or the new content,
+/// whole: a temporary file beside it is written and synced, takes its place, and the folder is
+/// synced. The error is the system's reason, for the log.
+[[nodiscard]] std::expected<void, QString> write(const QString& path, const QByteArray& content);
+
+/// Moves whatever is at `path` to `newName` beside it, or to the first free "newName-2",
+/// "newName-3" and so on; never onto something that exists. Returns the path it now has.
+[[nodiscard]] std::expected<QString, QString> setAside(const QString& path, const QString& newName);
+
+} // namespace kestrowind::DurableFile

@@ -1,0 +1,56 @@
+#include "Platform/Platform.h"
+
+#include "Platform/Linux/HelperBus.h"
+#include "Platform/Linux/LinuxRunningApplications.h"
+#include "Platform/Linux/LinuxSystemInformation.h"
+#include "Simulator/Link/SMCLink.h"
+#include "Simulator/Link/SimulatedMac.h"
+
+#include <QFile>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A computer that is no Mac: nobody offers the SMC's service.
+class NoSMC final : public SMCUserClient {
+public:
+    std::uint32_t matchingService(std::string_view) override { return 0; }
+    void releaseService(std::uint32_t) override {}
+    Opened open(std::uint32_t, std::uint32_t) override { return {.code = -1}; }
+    void close(std::uint32_t) override {}
+    std::int32_t callStructMethod(std::uint32_t, std::uint32_t, const SMCParamStruct&,
+                                  SMCParamStruct&) override {
+        return -1;
+    }
+};
+
+SMCUserClientFactory machineSMC() {
+    const auto root = SimulatedMac::root();
+    if (!root)
+        return [] { return std::make_shared<NoSMC>(); };
+    return [socket = SimulatedMac::smcSocket(*root)] { return std::make_shared<SMCLink>(socket); };
+}
+
+} // namespace
+
+Platform makePlatform(const QStringList& arguments) {
+    auto store = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                             u"Kestrowind"_s, u"Kestrowind"_s);
+    store->setFallbacksEnabled(false);
+    return {
+        .information = std::make_unique<LinuxSystemInformation>(),
+        .userDefaults = std::make_unique<UserDefaults>(arguments, std::move(store)),
+        .runningApplications = std::make_unique<LinuxRunningApplications>(),
+        .scriptRunner = std::make_unique<ProcessScriptRunner>(
+            LinuxSystemInformation::machinePath(u"/usr/bin/osascript"_s)),
+        .helperConnection =
+            [](const QString& machServiceName) -> std::unique_ptr<HelperConnection> {
+            return std::make_unique<HelperBus>(machServiceName);
+        },
+        .smc = machineSMC(),
+    };
+}
+
+} // namespace kestrowind

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Platform/AdminScriptRunner.h"
+#include "Platform/HelperConnection.h"
+#include "Platform/RunningApplications.h"
+#include "Platform/SystemInformation.h"
+#include "Platform/UserDefaults.h"
+#include "Shared/SMCKit/SMCUserClient.h"
+
+#include <memory>
+
+namespace kestrowind {
+
+/// Everything that the system gives to the application, one member a facility. The application is
+/// built from one of these; tests put their own parts in.
+struct Platform {
+    std::unique_ptr<SystemInformation> information;
+    std::unique_ptr<UserDefaults> userDefaults;
+    std::unique_ptr<RunningApplications> runningApplications;
+    std::unique_ptr<AdminScriptRunner> scriptRunner;
+    HelperConnectionFactory helperConnection;
+    SMCUserClientFactory smc;
+};
+
+/// The platform that this program was built for. `arguments` without the program's name.
+[[nodiscard]] Platform makePlatform(const QStringList& arguments);
+
+} // namespace kestrowind

@@ -1,0 +1,145 @@
+#include "Platform/UserDefaults.h"
+
+#include <QLoggingCategory>
+#include <QRegularExpression>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(log, "app.kestrowind.defaults", QtInfoMsg)
+
+bool isKey(const QString& argument) {
+    return argument.size() > 1 && argument.startsWith(u'-') && !argument.at(1).isDigit() &&
+           argument.at(1) != u'.';
+}
+
+/// The elements of a list in round brackets, separated by commas, quoted where they hold blanks or
+/// commas; absent when the text is no such list.
+std::optional<QStringList> parseList(const QString& text) {
+    static const QRegularExpression list(uR"(^\s*\((.*)\)\s*$)"_s,
+                                         QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression element(
+        uR"re(\G\s*(?:"((?:[^"\\]|\\.)*)"|([^\s,"()]+))\s*(?:,|$))re"_s,
+        QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression escape(uR"(\\(.))"_s,
+                                           QRegularExpression::DotMatchesEverythingOption);
+    const auto outer = list.match(text);
+    if (!outer.hasMatch())
+        return std::nullopt;
+    const QString inner = outer.captured(1).trimmed();
+    QStringList elements;
+    qsizetype position = 0;
+    while (position < inner.size()) {
+        const auto match = element.match(inner, position);
+        if (!match.hasMatch())
+            return std::nullopt;
+        QString quoted = match.captured(1);
+        elements.append(match.capturedStart(1) >= 0 ? quoted.replace(escape, u"\\1"_s)
+                                                    : match.captured(2));
+        position = match.capturedEnd();
+    }
+    return elements;
+}
+
+bool truthOfText(const QString& text) {
+    static const QRegularExpression truth(uR"(^\s*[+-]?0*[YyTt1-9])"_s);
+    return truth.match(text).hasMatch();
+}
+
+double numberOfText(const QString& text) {
+    static const QRegularExpression number(uR"(^\s*[+-]?(?:\d+\.?\d*|\.\d+)(?:[eE][+-]?\d+)?)"_s);
+    return number.match(text).captured().trimmed().toDouble();
+}
+
+} // namespace
+
+UserDefaults::UserDefaults(const QStringList& arguments, std::unique_ptr<QSettings> store)
+    : m_arguments(parseArguments(arguments))
+    , m_store(std::move(store)) {}
+
+UserDefaults::~UserDefaults() = default;
+
+QHash<QString, QVariant> UserDefaults::parseArguments(const QStringList& arguments) {
+    QHash<QString, QVariant> pairs;
+    for (qsizetype i = 0; i + 1 < arguments.size(); ++i) {
+        if (!isKey(arguments.at(i)) || isKey(arguments.at(i + 1)))
+            continue;
+        const QString& text = arguments.at(i + 1);
+        const auto list = parseList(text);
+        pairs.insert(arguments.at(i).mid(1), list ? QVariant(*list) : QVariant(text));
+        ++i;
+    }
+    return pairs;
+}
+
+QVariant UserDefaults::value(const QString& key) const {
+    if (const auto argument = m_arguments.constFind(key); argument != m_arguments.cend())
+        return *argument;
+    if (const QVariant stored = m_store->value(key); stored.isValid())
+        return stored;
+    return m_registered.value(key);
+}
+
+std::optional<QString> UserDefaults::string(const QString& key) const {
+    const QVariant found = value(key);
+    if (!found.isValid() || found.typeId() == QMetaType::QStringList ||
+        !found.canConvert<QString>())
+        return std::nullopt;
+    return found.toString();
+}
+
+std::optional<QStringList> UserDefaults::stringArray(const QString& key) const {
+    const QVariant found = value(key);
+    // The native store reads a list of one element back as a text.
+    if (!found.isValid() || !found.canConvert<QStringList>())
+        return std::nullopt;
+    return found.toStringList();
+}
+
+bool UserDefaults::boolean(const QString& key) const {
+    const QVariant found = value(key);
+    return found.typeId() == QMetaType::Bool ? found.toBool() : truthOfText(found.toString());
+}
+
+double UserDefaults::number(const QString& key) const {
+    const QVariant found = value(key);
+    return found.typeId() == QMetaType::Double ? found.toDouble() : numberOfText(found.toString());
+}
+
+void UserDefaults::setString(const QString& key, const QString& value) {
+    store(key, value);
+}
+
+void UserDefaults::setStringArray(const QString& key, const QStringList& value) {
+    store(key, value);
+}
+
+void UserDefaults::setBoolean(const QString& key, bool value) {
+    store(key, value);
+}
+
+void UserDefaults::remove(const QString& key) {
+    if (!m_store->contains(key))
+        return;
+    m_store->remove(key);
+    m_store->sync();
+    Q_EMIT changed(key);
+}
+
+void UserDefaults::registerDefault(const QString& key, const QVariant& value) {
+    m_registered.insert(key, value);
+}
+
+void UserDefaults::store(const QString& key, const QVariant& value) {
+    if (m_store->value(key) == value)
+        return;
+    m_store->setValue(key, value);
+    m_store->sync();
+    if (m_store->status() != QSettings::NoError)
+        qCDebug(log) << "could not store" << key << "status" << m_store->status();
+    Q_EMIT changed(key);
+}
+
+} // namespace kestrowind
