@@ -37,6 +37,20 @@ TEST(SMCConnection, AsksForADescriptionUntilItGotOneAndThenNeverAgain) {
     EXPECT_EQ(failure(mac.connection->readBytes("F0Md")), "SMC key F0Md error (result 133)");
 }
 
+TEST(SMCConnection, CountsTheKeysThatAreThereUnlessTheMachineSaysOtherwise) {
+    SMCMachine mac;
+    mac.smc->setByte("byte", 7);
+    mac.smc->setFloat("F0Tg", 0);
+    EXPECT_EQ(mac.connection->keyCount(), 2U);
+    mac.smc->setFault("byte", SimulatedSMC::Fault::missing);
+    EXPECT_EQ(mac.connection->keyCount(), 1U);
+    EXPECT_EQ(mac.connection->keyName(0), "F0Tg");
+    mac.smc->setKey("#KEY", "ui32", {0, 0, 0x04, 0xD2});
+    EXPECT_EQ(mac.connection->keyCount(), 1234U);
+    mac.smc->removeKey("#KEY");
+    EXPECT_EQ(mac.connection->keyCount(), 1U);
+}
+
 TEST(SMCConnection, RefusesValuesOfAnotherTypeOrLengthEitherWay) {
     SMCMachine mac;
     mac.smc->setByte("byte", 7);
