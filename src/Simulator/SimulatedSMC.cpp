@@ -30,8 +30,6 @@ const SimulatedSMC::Slot* SimulatedSMC::find(std::uint32_t name) const {
 void SimulatedSMC::setKey(Key key) {
     const std::lock_guard lock(m_mutex);
     key.bytes.resize(std::min<std::size_t>(key.size, valueCapacity));
-    if (key.name == keyCountName)
-        m_countsKeysItself = false;
     if (Slot* slot = find(key.name)) {
         slot->key = std::move(key);
         return;
@@ -241,7 +239,7 @@ std::int32_t SimulatedSMC::answer(const SMCParamStruct& input, SMCParamStruct& o
 
     Slot counted;
     Slot* slot = find(input.key);
-    if (slot == nullptr && input.key == keyCountName && m_countsKeysItself) {
+    if (slot == nullptr && input.key == keyCountName) {
         const auto bytes = encodeBigEndian32(presentKeyCount());
         counted.key = {.name = keyCountName,
                        .type = smcFourCC("ui32"),

@@ -120,7 +120,6 @@ private:
     std::int32_t m_openResult = 0;
     Counts m_counts;
     std::function<void(const SMCParamStruct&)> m_observer;
-    bool m_countsKeysItself = true;
     std::size_t m_missingKeys = 0;
 };
 

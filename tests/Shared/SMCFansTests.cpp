@@ -1,0 +1,67 @@
+#include "Shared/SMCMachine.h"
+
+namespace kestrowind {
+namespace {
+
+using Fault = SimulatedSMC::Fault;
+
+TEST(SMCFans, AreReadInOrderWithEverySpeedInItsPlace) {
+    SMCMachine mac;
+    mac.smc->setKey("FNum", "ui16", {2, 9}); // the first byte counts, whatever the type
+    mac.addFan(1);
+    mac.addFan(0);
+    mac.smc->setFault("F1Md", Fault::missing);
+    const SMCFanReading first{0, 2000.5, 2100, 1200, 5900, 1};
+    const SMCFanReading second{1, 2000.5, 2100, 1200, 5900, std::nullopt};
+    EXPECT_EQ(mac.connection->readAllFans(), std::vector({first, second}));
+}
+
+TEST(SMCFans, OneUnreadableSpeedFailsThemAll) {
+    SMCMachine mac;
+    mac.smc->setByte("FNum", 2);
+    mac.addFan(0);
+    mac.addFan(1);
+    mac.smc->removeKey("F1Mx");
+    EXPECT_EQ(failure(mac.connection->readAllFans()), "SMC key F1Mx error (result 132)");
+    mac.smc->setFault("F1Tg", Fault::fails); // read before the maximum
+    EXPECT_EQ(failure(mac.connection->readAllFans()), "SMC key F1Tg error (result 133)");
+}
+
+TEST(SMCFans, WithoutAReadableCountThereAreNone) {
+    SMCMachine mac;
+    mac.addFan(0);
+    const auto expectNone = [&] {
+        mac.smc->resetCounts();
+        EXPECT_EQ(mac.connection->readAllFans(), std::vector<SMCFanReading>());
+        EXPECT_LE(mac.smc->counts().calls, 2); // for the count, none for a fan
+    };
+    expectNone();
+    mac.smc->setByte("FNum", 0);
+    expectNone();
+    mac.smc->setByte("FNum", 1);
+    EXPECT_EQ(mac.connection->readAllFans()->size(), 1U);
+    for (const Fault fault : {Fault::fails, Fault::timesOut, Fault::missing}) {
+        mac.smc->setFault("FNum", fault);
+        expectNone();
+    }
+}
+
+TEST(SMCFans, TheModeComesFromTheFirstSpellingThereIsAndNeverFailsTheReading) {
+    SMCMachine mac;
+    mac.addFan(0);
+    mac.smc->setByte("F0md", 5);
+    EXPECT_EQ(mac.connection->fanModeKey(0), "F0Md");
+    mac.smc->setFault("F0Md", Fault::fails); // known to exist by now, so not replaced by the other
+    EXPECT_EQ(mac.connection->readFan(0)->modeRaw, std::nullopt);
+
+    mac.addFan(1);
+    mac.smc->setKey("F1Md", "ui8 ", {});
+    EXPECT_EQ(mac.connection->readFan(1)->modeRaw, std::nullopt);
+
+    mac.smc->setByte("F2md", 5);
+    EXPECT_EQ(mac.connection->fanModeKey(2), "F2md");
+    EXPECT_EQ(mac.connection->fanModeKey(3), std::nullopt);
+}
+
+} // namespace
+} // namespace kestrowind
