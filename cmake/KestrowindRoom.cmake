@@ -3,7 +3,9 @@
 
 add_library(kestrowind_warnings INTERFACE)
 target_compile_options(kestrowind_warnings INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Werror)
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Werror
+    # Members that a designated initializer leaves out have their defaults: that is what they are for.
+    -Wno-missing-field-initializers)
 target_compile_definitions(kestrowind_warnings INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)
 

@@ -106,10 +106,12 @@ QCoro::Task<std::optional<Value>> HelperClient::call(Send<Value> send) {
 }
 
 QCoro::Task<std::optional<HelperControlling::Targets>> HelperClient::setTargets(Targets targets) {
-    auto applied = co_await call<Targets>(
-        [targets = std::move(targets)](HelperConnection& helper, auto reply, auto error) {
-            helper.setTargets(targets, std::move(reply), std::move(error));
-        });
+    // Named, because GCC 12 destroys a temporary twice that is converted inside an awaited call.
+    const Send<Targets> send = [targets = std::move(targets)](HelperConnection& helper, auto reply,
+                                                              auto error) {
+        helper.setTargets(targets, std::move(reply), std::move(error));
+    };
+    auto applied = co_await call<Targets>(send);
     if (applied) {
         if (const auto check = checkFanSpeeds(*applied); !check) {
             qCCritical(helperClientLog) << "implausible reply:" << check.error().c_str();

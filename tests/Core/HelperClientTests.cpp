@@ -1,0 +1,236 @@
+#include "Core/HelperClient.h"
+#include "Core/HelperInstallation.h"
+#include "Platform/AdminScriptRunner.h"
+#include "Shared/HelperShared/HelperConstants.h"
+#include "Support/FakeHelperConnection.h"
+#include "Support/FakeSystemInformation.h"
+#include "Support/QtPrinters.h"
+
+#include <QCoroTask>
+#include <QElapsedTimer>
+#include <QPromise>
+#include <QSignalSpy>
+#include <QTest>
+#include <gmock/gmock.h>
+
+#include <thread>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using testing::IsEmpty;
+using Targets = HelperControlling::Targets;
+
+const QString plist = QString::fromLatin1(HelperConstants::daemonPlistPath);
+const QString executable = QString::fromLatin1(HelperConstants::helperInstallPath);
+
+class FakeScriptRunner final : public AdminScriptRunner {
+public:
+    QStringList scripts;
+    ScriptOutcome outcome;
+    std::function<void()> effect = [] {};
+
+    QFuture<ScriptOutcome> run(const QString& appleScript) override {
+        scripts.append(appleScript);
+        effect();
+        QPromise<ScriptOutcome> promise;
+        promise.start();
+        promise.addResult(outcome);
+        promise.finish();
+        return promise.future();
+    }
+};
+
+class HelperClientTest : public testing::Test {
+protected:
+    HelperClientTest() {
+        machine.files = {plist, executable};
+        makeClient();
+    }
+    void makeClient() {
+        client = std::make_unique<HelperClient>(HelperClient::Environment{
+            .makeConnection = helper.factory(),
+            .information = machine,
+            .scriptRunner = runner,
+            .callTimeout = 60ms,
+        });
+    }
+    static QByteArray document(const HelperStatus& status) {
+        return QByteArray::fromStdString(encodeHelperStatus(status));
+    }
+    /// Runs one status call that the helper answers with these bytes.
+    std::optional<HelperStatus> fetch(const std::optional<QByteArray>& answer) {
+        auto task = client->fetchStatus();
+        helper.calls.back().replyStatus(answer);
+        return QCoro::waitFor(std::move(task));
+    }
+
+    FakeSystemInformation machine;
+    FakeScriptRunner runner;
+    FakeHelper helper;
+    std::unique_ptr<HelperClient> client;
+};
+
+TEST_F(HelperClientTest, DerivesItsStateFromTheTwoFiles) {
+    EXPECT_EQ(client->state(), HelperState::installed);
+    for (const QString& missing : {plist, executable}) {
+        machine.files = {plist, executable};
+        client->refreshInstallState();
+        auto call = client->releaseControl();
+        EXPECT_EQ(helper.connectionsOpen, 1);
+        machine.files.remove(missing);
+        client->refreshInstallState();
+        EXPECT_EQ(client->state(), HelperState::notInstalled);
+        EXPECT_EQ(helper.connectionsOpen, 0);
+        QCoro::waitFor(std::move(call));
+    }
+    const int made = helper.connectionsMade;
+    EXPECT_EQ(QCoro::waitFor(client->setTargets({1.0})), std::nullopt);
+    EXPECT_EQ(QCoro::waitFor(client->fetchStatus()), std::nullopt);
+    EXPECT_EQ(helper.connectionsMade, made);
+}
+
+TEST_F(HelperClientTest, AnswersOnceByReplyTimeOutOrDestruction) {
+    // By reply, from another thread.
+    auto replied = client->setTargets({1200, 1300});
+    EXPECT_EQ(helper.calls.back().targets, Targets({1200, 1300}));
+    std::thread([reply = helper.calls.back().replyTargets] { reply({1250, 1300}); }).join();
+    EXPECT_EQ(QCoro::waitFor(std::move(replied)), Targets({1250, 1300}));
+
+    // By time-out; the reply that comes late is dropped.
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(QCoro::waitFor(client->setTargets({1200})), std::nullopt);
+    EXPECT_GE(timer.elapsed(), 59);
+    helper.calls.back().replyTargets({1200});
+    EXPECT_EQ(client->state(), HelperState::installed) << "silence is no connection error";
+
+    // Calls overlap, and end with the client.
+    auto first = client->setTargets({1});
+    auto second = client->fetchStatus();
+    const auto late = helper.calls.back().replyStatus;
+    client.reset();
+    EXPECT_EQ(QCoro::waitFor(std::move(first)), std::nullopt);
+    EXPECT_EQ(QCoro::waitFor(std::move(second)), std::nullopt);
+    late(QByteArray("{}"));
+}
+
+TEST_F(HelperClientTest, TakesNoImplausibleReply) {
+    for (const double speed : {-1.0, 1e9, std::numeric_limits<double>::quiet_NaN()}) {
+        auto call = client->setTargets({1200});
+        helper.calls.back().replyTargets({speed});
+        EXPECT_EQ(QCoro::waitFor(std::move(call)), std::nullopt) << speed;
+    }
+}
+
+TEST_F(HelperClientTest, IsUnreachableFromAConnectionErrorToTheNextStatus) {
+    QSignalSpy changes(client.get(), &HelperControlling::stateChanged);
+    auto call = client->setTargets({1200});
+    QElapsedTimer timer;
+    timer.start();
+    helper.calls.back().error(u"gone"_s);
+    EXPECT_EQ(QCoro::waitFor(std::move(call)), std::nullopt);
+    EXPECT_GE(timer.elapsed(), 50) << "the call itself waits for its time-out";
+    EXPECT_EQ(client->state(), HelperState::unreachable);
+    EXPECT_TRUE(client->isInstalled());
+
+    client->refreshInstallState();
+    EXPECT_EQ(fetch(std::nullopt), std::nullopt);
+    EXPECT_EQ(fetch("garbage"), std::nullopt);
+    EXPECT_EQ(client->state(), HelperState::unreachable);
+    EXPECT_NE(fetch(document({.version = "1.0.2"})), std::nullopt);
+    EXPECT_EQ(client->state(), HelperState::installed);
+    EXPECT_EQ(changes.size(), 2);
+}
+
+TEST_F(HelperClientTest, MovesItsStatusOnlyWithPhaseErrorAndVersion) {
+    QSignalSpy changes(client.get(), &HelperControlling::lastStatusChanged);
+    EXPECT_FALSE(client->isHelperOutdated());
+    HelperStatus status{.version = "1.0.2", .hottestSensorCelsius = 50};
+    EXPECT_EQ(fetch(document(status)), status);
+    HelperStatus warmer = status;
+    warmer.hottestSensorCelsius = 60;
+    warmer.effectiveTargets = {1, 2};
+    EXPECT_EQ(fetch(document(warmer)), warmer);
+    EXPECT_EQ(client->lastStatus(), status);
+    EXPECT_EQ(changes.size(), 1);
+    warmer.lastError = "stuck";
+    fetch(document(warmer));
+    EXPECT_EQ(client->lastStatus(), warmer);
+    warmer.version = "1.0";
+    fetch(document(warmer));
+    EXPECT_TRUE(client->isHelperOutdated());
+    EXPECT_EQ(changes.size(), 3);
+}
+
+TEST_F(HelperClientTest, MakesANewConnectionAfterAnInvalidation) {
+    auto call = client->releaseControl();
+    helper.invalidationHandler();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return helper.connectionsOpen == 0; }));
+    QCoro::waitFor(std::move(call));
+    auto next = client->releaseControl();
+    EXPECT_EQ(helper.connectionsMade, 2);
+    helper.calls.back().reply();
+    QCoro::waitFor(std::move(next));
+}
+
+TEST_F(HelperClientTest, InstallsThroughTheScriptRunner) {
+    using Kind = InstallError::Kind;
+    machine.files.clear();
+    makeClient();
+    EXPECT_EQ(QCoro::waitFor(client->install()).error().kind, Kind::resourcesMissing);
+    EXPECT_THAT(runner.scripts, IsEmpty());
+
+    machine.resources = {{u"KestrowindHelper"_s, u"/a b/it's"_s},
+                         {u"app.kestrowind.helper.plist"_s, u"/p"_s}};
+    runner.outcome = {ScriptOutcome::Kind::failed, u"User cancelled."_s};
+    const auto failure = QCoro::waitFor(client->install());
+    EXPECT_EQ(failure.error(), (InstallError{Kind::adminScriptFailed, u"User cancelled."_s}));
+    EXPECT_EQ(failure.error().localizedDescription(),
+              u"The administrator script failed: User cancelled."_s);
+    runner.outcome = {ScriptOutcome::Kind::notStarted, u"no such file"_s};
+    EXPECT_EQ(QCoro::waitFor(client->install()).error().kind, Kind::launchFailed);
+    EXPECT_EQ(client->state(), HelperState::notInstalled);
+
+    runner.outcome = {};
+    runner.effect = [&] { machine.files = {plist, executable}; };
+    EXPECT_TRUE(QCoro::waitFor(client->install()));
+    EXPECT_EQ(client->state(), HelperState::installed);
+    EXPECT_EQ(helper.methods(), QStringList{u"status"_s});
+}
+
+TEST_F(HelperClientTest, UninstallsWhateverGoesWrong) {
+    fetch(document({.version = "1.0.2"}));
+    runner.outcome = {ScriptOutcome::Kind::failed, u"no"_s};
+    QCoro::waitFor(client->uninstall());
+    EXPECT_EQ(helper.methods(), QStringList({u"status"_s, u"uninstall"_s}));
+    EXPECT_EQ(client->lastStatus(), std::nullopt);
+    EXPECT_EQ(client->state(), HelperState::installed) << "the files are still there";
+    EXPECT_EQ(helper.connectionsOpen, 0);
+    runner.effect = [&] { machine.files.clear(); };
+    QCoro::waitFor(client->uninstall());
+    EXPECT_EQ(client->state(), HelperState::notInstalled);
+}
+
+TEST(HelperInstallation, WritesExactlyTheseScripts) {
+    EXPECT_EQ(HelperInstallation::installScript(u"/A p/KestrowindHelper"_s, u"/it's.plist"_s),
+              uR"(mkdir -p /Library/PrivilegedHelperTools
+launchctl bootout system/app.kestrowind.helper 2>/dev/null || true
+cp '/A p/KestrowindHelper' '/Library/PrivilegedHelperTools/app.kestrowind.helper'
+chown root:wheel '/Library/PrivilegedHelperTools/app.kestrowind.helper'
+chmod 755 '/Library/PrivilegedHelperTools/app.kestrowind.helper'
+cp '/it'\''s.plist' '/Library/LaunchDaemons/app.kestrowind.helper.plist'
+chown root:wheel '/Library/LaunchDaemons/app.kestrowind.helper.plist'
+chmod 644 '/Library/LaunchDaemons/app.kestrowind.helper.plist'
+launchctl bootstrap system '/Library/LaunchDaemons/app.kestrowind.helper.plist')"_s);
+    EXPECT_EQ(HelperInstallation::removalScript(),
+              uR"(launchctl bootout system/app.kestrowind.helper 2>/dev/null || true
+rm -f '/Library/LaunchDaemons/app.kestrowind.helper.plist' '/Library/PrivilegedHelperTools/app.kestrowind.helper')"_s);
+    EXPECT_EQ(HelperInstallation::withAdministratorPrivileges(u"a \"b\" \\n\nc"_s),
+              u"do shell script \"a \\\"b\\\" \\\\n\nc\" with administrator privileges"_s);
+}
+
+} // namespace
+} // namespace kestrowind

@@ -1,0 +1,186 @@
+#include "Core/CanonicalUuid.h"
+#include "Core/PresetCoding.h"
+#include "Core/PresetStore.h"
+#include "Support/QtPrinters.h"
+#include "Support/TestDefaults.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <gmock/gmock.h>
+
+#include <limits>
+#include <unistd.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class PresetStoreTest : public testing::Test {
+protected:
+    std::unique_ptr<PresetStore> makeStore(int fanCount = 2) {
+        return std::make_unique<PresetStore>(fanCount, *defaults,
+                                             PresetStore::Storage{.folder = home.path(u"app"_s)});
+    }
+    QString file() const { return home.path(u"app/presets.json"_s); }
+    QByteArray content(const QString& path) const {
+        QFile in(path);
+        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("(missing)");
+    }
+    void writeFile(const QByteArray& bytes) const {
+        QDir().mkpath(home.path(u"app"_s));
+        QFile out(file());
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(bytes);
+    }
+
+    TestHome home;
+    std::unique_ptr<UserDefaults> defaults = home.defaults();
+};
+
+TEST_F(PresetStoreTest, StartsWithBuiltInsAndWritesNothing) {
+    const auto store = makeStore();
+    EXPECT_EQ(store->presets(), FanPreset::builtIns(2));
+    EXPECT_EQ(store->slotOrder().size(), 3);
+    EXPECT_EQ(store->activePreset(), std::nullopt);
+    EXPECT_FALSE(QFile::exists(home.path(u"app"_s)));
+    EXPECT_EQ(makeStore(-3)->presets().first().curves.size(), 1);
+}
+
+TEST_F(PresetStoreTest, KeepsEveryChangeAcrossRestarts) {
+    auto store = makeStore();
+    auto first = store->addPreset(u"One"_s);
+    const auto second = store->duplicate(store->presets().first());
+    ASSERT_TRUE(first && second);
+    EXPECT_EQ(second->name, u"Cool Copy"_s);
+    EXPECT_EQ(second->curves, store->presets().first().curves);
+    EXPECT_FALSE(second->isBuiltIn);
+    first->name = u"Renamed"_s;
+    first->curves = {FanCurve({{60, 60}})};
+    store->update(*first);
+    store->moveSlot(PresetSlot::preset(second->id), PresetSlot::automatic());
+    store->setActivePresetID(first->id);
+    const auto order = store->slotOrder();
+    EXPECT_EQ(order.first(), PresetSlot::preset(second->id));
+
+    defaults = home.defaults();
+    store = makeStore();
+    EXPECT_EQ(store->activePreset(), first);
+    EXPECT_EQ(store->slotOrder(), order);
+    EXPECT_EQ(store->presets(), FanPreset::builtIns(2) + QList({*first, *second}));
+
+    store->remove(*first);
+    EXPECT_EQ(store->activePresetID(), std::nullopt);
+    EXPECT_EQ(defaults->string(u"activePresetID"_s), std::nullopt);
+    EXPECT_EQ(makeStore()->presets().size(), 3);
+}
+
+TEST_F(PresetStoreTest, HoldsAtMostThreeUserPresets) {
+    const auto store = makeStore();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(store->addPreset(u"P"_s));
+    EXPECT_FALSE(store->canAddPreset());
+    const QByteArray before = content(file());
+    EXPECT_FALSE(store->addPreset(u"P"_s));
+    EXPECT_FALSE(store->duplicate(store->presets().first()));
+    EXPECT_EQ(content(file()), before);
+    store->remove(store->presets().last());
+    EXPECT_TRUE(store->duplicate(store->presets().first()));
+}
+
+TEST_F(PresetStoreTest, LeavesBuiltInsAndStrangersAlone) {
+    const auto store = makeStore();
+    FanPreset changed = store->presets().first();
+    changed.name = u"Mine"_s;
+    store->update(changed);
+    store->remove(changed);
+    changed.id = QUuid::createUuid();
+    store->update(changed);
+    EXPECT_EQ(store->presets(), FanPreset::builtIns(2));
+    EXPECT_FALSE(QFile::exists(file()));
+}
+
+TEST_F(PresetStoreTest, ActivatesForTheSessionOnly) {
+    const auto store = makeStore();
+    store->setActivePresetID(FanPreset::fullSpeedID);
+    QSignalSpy changes(store.get(), &PresetStore::activePresetIDChanged);
+    store->activateForSessionOnly(FanPreset::coolID);
+    EXPECT_EQ(store->activePreset()->id, FanPreset::coolID);
+    EXPECT_EQ(defaults->string(u"activePresetID"_s), uuidText(FanPreset::fullSpeedID));
+    store->setActivePresetID(FanPreset::coolID);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(defaults->string(u"activePresetID"_s), uuidText(FanPreset::coolID));
+}
+
+TEST_F(PresetStoreTest, IgnoresNonsenseInTheDefaults) {
+    defaults->setString(u"activePresetID"_s, uuidText(QUuid::createUuid()));
+    defaults->setStringArray(u"presetSlotOrder"_s, {u"Automatic"_s, u"?"_s, u"automatic"_s});
+    EXPECT_EQ(makeStore()->activePresetID(), std::nullopt);
+    EXPECT_EQ(makeStore()->slotOrder().size(), 3);
+    EXPECT_NE(defaults->string(u"activePresetID"_s), std::nullopt);
+}
+
+TEST_F(PresetStoreTest, LoadsNoBuiltInsFromTheFile) {
+    FanPreset forged = FanPreset::builtIns(1).first();
+    const FanPreset own{
+        .id = QUuid::createUuid(), .name = u"Own"_s, .symbolName = {}, .curves = {}};
+    writeFile(*encodePresets({forged, own}));
+    EXPECT_EQ(makeStore()->presets(), FanPreset::builtIns(2) + QList{own});
+}
+
+TEST_F(PresetStoreTest, KeepsAFileThatItCannotDecode) {
+    for (const QByteArray& bad :
+         {QByteArray(), QByteArray("[{\"name\": "), QByteArray("[1e999]")}) {
+        QDir(home.path(u"app"_s)).removeRecursively();
+        writeFile(bad);
+        const auto store = makeStore();
+        EXPECT_EQ(store->presets().size(), 2);
+        EXPECT_EQ(content(file()), bad) << "loading must not touch it";
+        ASSERT_TRUE(store->addPreset(u"New"_s));
+        EXPECT_EQ(content(file() + u".unreadable"_s), bad);
+        EXPECT_EQ(makeStore()->presets().size(), 3);
+    }
+    // A second bad file does not take the place of the first.
+    writeFile("worse");
+    ASSERT_TRUE(makeStore()->addPreset(u"New"_s));
+    EXPECT_EQ(content(file() + u".unreadable"_s), "[1e999]");
+    EXPECT_EQ(content(file() + u".unreadable-2"_s), "worse");
+}
+
+TEST_F(PresetStoreTest, SurvivesAFolderInTheFilesPlace) {
+    QDir().mkpath(file());
+    ASSERT_TRUE(makeStore()->addPreset(u"New"_s));
+    EXPECT_EQ(makeStore()->presets().size(), 3);
+    EXPECT_TRUE(QDir(file() + u".unreadable"_s).exists());
+}
+
+TEST_F(PresetStoreTest, KeepsTheOldFileWhenTheNewOneCannotBeWritten) {
+    ASSERT_TRUE(makeStore()->addPreset(u"Good"_s));
+    const QByteArray good = content(file());
+    const auto store = makeStore();
+    // No new file can be made beside the old one.
+    QFile folder(home.path(u"app"_s));
+    if (geteuid() == 0) {
+        // Permissions do not hold root back, a number that has no JSON form does.
+        FanPreset preset = store->presets().last();
+        preset.curves = {FanCurve({{std::numeric_limits<double>::quiet_NaN(), 1}})};
+        store->update(preset);
+    } else {
+        folder.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        store->addPreset(u"Lost"_s);
+        folder.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    EXPECT_EQ(content(file()), good);
+}
+
+TEST_F(PresetStoreTest, OnAFolderOfItsOwnLeavesTheSlotOrderAlone) {
+    PresetStore store(2, *defaults,
+                      {.folder = home.path(u"preview"_s), .persistsSlotOrder = false});
+    ASSERT_TRUE(store.addPreset(u"P"_s));
+    EXPECT_EQ(defaults->stringArray(u"presetSlotOrder"_s), std::nullopt);
+    EXPECT_TRUE(QFile::exists(home.path(u"preview/presets.json"_s)));
+}
+
+} // namespace
+} // namespace kestrowind

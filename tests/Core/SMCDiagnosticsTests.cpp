@@ -1,0 +1,126 @@
+#include "Core/SMCDiagnostics.h"
+#include "Simulator/SimulatedSMC.h"
+#include "Support/FakeSystemInformation.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+std::string dump(const std::shared_ptr<SimulatedSMC>& smc) {
+    FakeSystemInformation machine;
+    machine.sysctlTexts = {{"hw.model", u"Mac1,1"_s}};
+    machine.bundleTexts = {{u"CFBundleShortVersionString"_s, u"0.1"_s}};
+    std::string report;
+    SMCDiagnostics::dump(machine, smc, [&](const std::string& line) { report += line + "\n"; });
+    return report;
+}
+
+const std::string header = R"(Kestrowind SMC diagnostic dump
+=============================
+app version   : 0.1 (?), helper code 1.0.2
+hardware model: Mac1,1
+cpu           : unknown
+macOS         : Version 15.5 (Build 24F74)
+
+)";
+
+TEST(SMCDiagnostics, ReportsAWholeMachine) {
+    const auto smc = std::make_shared<SimulatedSMC>();
+    smc->setByte("FNum", 1);
+    for (const char* key : {"F0Ac", "F0Tg"})
+        smc->setFloat(key, 1800);
+    smc->setFloat("F0Mn", 1350.5F);
+    smc->setKey("F0Mx", "fpe2", {0x17, 0x0c});
+    smc->setByte("F0Md", 2);
+    smc->setByte("F0Sf", 7, "hex_");
+    smc->setFault("F0Ac", SimulatedSMC::Fault::fails);
+    smc->setFloat("Tp01", 45.5F);
+    smc->setFloat("Te02", 44.5F);
+    smc->setKey("TB0T", "ioft", {1, 2});
+    EXPECT_EQ(dump(smc), header + R"(SMC connection: OK
+
+-- fan count ------------------------------------------------
+FNum           : 1
+
+-- per-fan keys (probing 1 slot(s)) ---------------------------
+Ac=actual Tg=target Mn=min Mx=max Md/md=mode
+  fan 0:
+    F0Ac  absent
+    F0Tg  type=flt  size=4 bytes=[00 00 e1 44] = 1800.0
+    F0Mn  type=flt  size=4 bytes=[00 d0 a8 44] = 1350.5
+    F0Mx  type=fpe2 size=2 bytes=[17 0c]
+    F0Md  type=ui8  size=1 bytes=[02] = 2
+    F0md  absent
+    F0Sf  type=hex_ size=1 bytes=[07] = 7
+    F0Tp  absent
+
+-- firmware unlock ------------------------------------------
+Ftst           : absent (expected on M5 and later)
+
+-- key directory --------------------------------------------
+#KEY           : 10 keys total
+
+all F* keys (7):
+    FNum  type=ui8  size=1 bytes=[01] = 1
+    F0Ac  (exists, but the read failed)
+    F0Tg  type=flt  size=4 bytes=[00 00 e1 44] = 1800.0
+    F0Mn  type=flt  size=4 bytes=[00 d0 a8 44] = 1350.5
+    F0Mx  type=fpe2 size=2 bytes=[17 0c]
+    F0Md  type=ui8  size=1 bytes=[02] = 2
+    F0Sf  type=hex_ size=1 bytes=[07] = 7
+
+temperature keys matching Tp*/Te*/Tg*: 2
+    first few: Tp01, Te02
+
+-- sensor discovery (what the app actually ends up using) ----
+CPU sensors    : 2   (Tp* / Te*)
+GPU sensors    : 0   (Tg*)
+reads back as  : cpu avg 45.0 max 45.5
+                 gpu avg 0.0 max 0.0, hottest 45.5
+    -> NO GPU SENSORS. Either the GPU was powered down just now, or
+       this Mac does not spell them Tg*. Discovery keeps retrying on
+       a back-off, and each retry walks every key the SMC has.
+
+End of dump.
+)");
+}
+
+TEST(SMCDiagnostics, TurnsEveryFailureIntoWords) {
+    const auto smc = std::make_shared<SimulatedSMC>();
+    smc->setKey("#KEY", "ui16", {0, 9});
+    smc->setByte("Ftst", 0);
+    smc->setKey("FS! ", "ui16", {});
+    const std::string report = dump(smc);
+    EXPECT_THAT(report, HasSubstr("FNum           : UNREADABLE (SMC key FNum error (result 132))\n"
+                                  "                 -> the app would see 0 fans because of this\n"
+                                  "also present   : FS!  type=ui16 size=0 bytes=[]\n"));
+    EXPECT_THAT(report, HasSubstr("(probing 4 slot(s))"));
+    EXPECT_THAT(report, HasSubstr("Ftst           : present type=ui8  size=1 bytes=[00] = 0\n"));
+    EXPECT_THAT(report,
+                HasSubstr("#KEY           : UNREADABLE — cannot enumerate keys\n\n-- sensor"));
+    EXPECT_THAT(report, HasSubstr("       recover. This is the expensive case.\n    -> NO GPU"));
+
+    smc->setServices(SimulatedSMC::Services::none);
+    EXPECT_EQ(dump(smc), header +
+                             "FATAL: could not open the SMC: AppleSMC service not found\n"
+                             "Nothing below can be collected. Please send this file anyway.\n");
+}
+
+TEST(SMCDiagnostics, WritesNumbersInFull) {
+    using SMCDiagnostics::decimalText;
+    EXPECT_THAT((std::vector{decimalText(0.0), decimalText(0.1F), decimalText(100000.0),
+                             decimalText(1e-5), decimalText(1e22)}),
+                ElementsAre("0.0", "0.1", "100000.0", "0.00001", "10000000000000000000000.0"));
+    EXPECT_EQ(decimalText(std::numeric_limits<float>::quiet_NaN()), "nan");
+    EXPECT_EQ(decimalText(std::numeric_limits<float>::lowest()).size(), 42U);
+}
+
+} // namespace
+} // namespace kestrowind

@@ -1,0 +1,183 @@
+#include "Core/TelemetrySampler.h"
+#include "Core/TelemetryStore.h"
+#include "Simulator/SimulatedSMC.h"
+#include "Support/TestDefaults.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <mutex>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+TelemetrySample sample(double cpuMax, double gpuMax = 0, int fans = 1) {
+    static int number = 0;
+    TelemetrySample made{.timestamp = std::chrono::system_clock::time_point(1s * ++number),
+                         .temperatures = {.cpuAverage = cpuMax - 1,
+                                          .cpuMax = cpuMax,
+                                          .gpuAverage = gpuMax,
+                                          .gpuMax = gpuMax,
+                                          .hottest = std::max(cpuMax, gpuMax)},
+                         .fans = {}};
+    made.fans.resize(static_cast<std::size_t>(fans));
+    return made;
+}
+
+/// A machine with one fan and one sensor of each group.
+std::shared_ptr<SimulatedSMC> makeMachine() {
+    auto smc = std::make_shared<SimulatedSMC>();
+    smc->setFloat("Tp01", 50);
+    smc->setFloat("Tg01", 40);
+    smc->setByte("FNum", 1);
+    for (const char* key : {"F0Ac", "F0Tg", "F0Mn", "F0Mx"})
+        smc->setFloat(key, 1200);
+    return smc;
+}
+
+class TelemetryStoreTest : public testing::Test {
+protected:
+    TestHome home;
+    std::unique_ptr<UserDefaults> defaults = home.defaults();
+    std::shared_ptr<SimulatedSMC> smc = makeMachine();
+    TelemetryStore store{*defaults, [this] { return smc; }};
+};
+
+TEST_F(TelemetryStoreTest, SmoothsPeaksAndRemembers) {
+    EXPECT_EQ(store.systemTemperature(), std::nullopt);
+    EXPECT_EQ(store.hottestTemperature(), std::nullopt);
+    const std::pair<double, double> rows[] = {{50, 50}, {60, 54}, {60, 56.4}, {0, 33.84}};
+    for (const auto& [measured, smoothed] : rows) {
+        store.ingest(sample(measured));
+        EXPECT_DOUBLE_EQ(store.cpuHottestSmoothed(), smoothed) << measured;
+    }
+    EXPECT_EQ(store.peakCPU(), 60);
+    EXPECT_EQ(store.gpuHottestSmoothed(), 0);
+
+    for (int i = 0; i < 897; ++i)
+        store.ingest(sample(i == 0 ? 41 : 42));
+    ASSERT_EQ(store.history().size(), 900);
+    EXPECT_EQ(store.history().first().temperatures.cpuMax, 60);
+    EXPECT_EQ(store.history().last(), *store.latest());
+}
+
+TEST_F(TelemetryStoreTest, ChoosesTheTemperatureByTheUsersSetting) {
+    store.ingest(sample(60, 70));
+    store.ingest(sample(80, 50));
+    EXPECT_EQ(store.systemTemperature(), 79);
+    defaults->setString(u"fanBoostTemperatureSource"_s, u"hottestCore"_s);
+    EXPECT_EQ(store.systemTemperature(), 60 + 20 * 0.4);
+    EXPECT_EQ(store.systemTemperature(), store.hottestTemperature());
+    defaults->setString(u"fanBoostTemperatureSource"_s, u"HottestCore"_s);
+    EXPECT_EQ(store.systemTemperature(), 79);
+}
+
+TEST_F(TelemetryStoreTest, TellsOnlyOfRealChangesAndOnlyOfWholeOnes) {
+    QSignalSpy available(&store, &TelemetryStore::smcAvailableChanged);
+    QSignalSpy peak(&store, &TelemetryStore::peakCPUChanged);
+    bool sawHalf = false;
+    QObject::connect(&store, &TelemetryStore::smcAvailableChanged, &store,
+                     [&] { sawHalf = sawHalf || store.history().last() != *store.latest(); });
+    std::vector<int> order;
+    store.onSample(
+        [&](const TelemetrySample& taken) { order.push_back(store.latest() == taken ? 1 : -1); });
+    store.onSample([&](const TelemetrySample&) { order.push_back(2); });
+
+    store.ingest(sample(50));
+    store.ingest(sample(50));
+    EXPECT_EQ(peak.size(), 1);
+    EXPECT_TRUE(available.isEmpty());
+    store.ingest(sample(0, 0, 0));
+    store.ingest(sample(0, 0, 0));
+    EXPECT_FALSE(store.smcAvailable());
+    EXPECT_EQ(available.size(), 1);
+    store.ingest(sample(0, 0, 1));
+    EXPECT_TRUE(store.smcAvailable());
+    EXPECT_FALSE(sawHalf);
+    EXPECT_THAT(order, ElementsAre(1, 2, 1, 2, 1, 2, 1, 2, 1, 2));
+}
+
+TEST_F(TelemetryStoreTest, ReceivesSamplesOnTheMainThread) {
+    QThread* handlerThread = nullptr;
+    store.onSample([&](const TelemetrySample&) { handlerThread = QThread::currentThread(); });
+    store.start(10ms);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return store.history().size() >= 3; }, 3000));
+    EXPECT_EQ(handlerThread, QThread::currentThread());
+    EXPECT_EQ(store.latest()->temperatures.cpuMax, 50);
+    EXPECT_EQ(store.latest()->fans.size(), 1U);
+}
+
+/// A sampler whose samples arrive in a guarded list.
+struct SamplerProbe {
+    std::mutex mutex;
+    std::vector<TelemetrySample> samples;
+
+    TelemetrySampler::OnSample callback() {
+        return [this](const TelemetrySample& taken) {
+            const std::lock_guard lock(mutex);
+            samples.push_back(taken);
+        };
+    }
+    bool waitFor(std::size_t count) {
+        return QTest::qWaitFor(
+            [&] {
+                const std::lock_guard lock(mutex);
+                return samples.size() >= count;
+            },
+            3000);
+    }
+};
+
+TEST(TelemetrySampler, DeliversNothingWithoutAnSMC) {
+    const auto smc = makeMachine();
+    smc->setServices(SimulatedSMC::Services::none);
+    SamplerProbe probe;
+    {
+        std::atomic<int> attempts = 0;
+        TelemetrySampler sampler([&] {
+            ++attempts;
+            return smc;
+        });
+        sampler.start(1ms, probe.callback());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return attempts == 1; }, 3000));
+        // A later start tries again and then delivers.
+        smc->setServices(SimulatedSMC::Services::both);
+        EXPECT_TRUE(probe.samples.empty());
+        sampler.start(1ms, probe.callback());
+        EXPECT_TRUE(probe.waitFor(1));
+    }
+    EXPECT_EQ(smc->openConnections(), 0U);
+}
+
+TEST(TelemetrySampler, KeepsTemperaturesWhenAFanFailsAndDatesSamplesBeforeReading) {
+    const auto smc = makeMachine();
+    smc->removeKey("F0Mx");
+    SamplerProbe probe;
+    std::atomic<std::chrono::system_clock::time_point> lastFanCountRead{};
+    smc->setCallObserver([&](const SMCParamStruct& record) {
+        if (record.key == smcFourCC("Tp01") && record.data8 == SMCCommand::readKey)
+            lastFanCountRead = std::chrono::system_clock::now();
+    });
+    TelemetrySampler sampler([&] { return smc; });
+    sampler.start(1h, probe.callback());
+    ASSERT_TRUE(probe.waitFor(1));
+    EXPECT_TRUE(probe.samples[0].fans.empty());
+    EXPECT_EQ(probe.samples[0].temperatures.cpuMax, 50);
+    EXPECT_LE(probe.samples[0].timestamp, lastFanCountRead.load());
+
+    // A second start neither opens nor discovers again, and keeps one timer.
+    const int names = smc->counts().keyNames;
+    sampler.start(1h, probe.callback());
+    ASSERT_TRUE(probe.waitFor(2));
+    EXPECT_EQ(smc->counts().keyNames, names);
+    EXPECT_EQ(smc->openConnections(), 1U);
+}
+
+} // namespace
+} // namespace kestrowind

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Platform/UserDefaults.h"
+
+#include <QTemporaryDir>
+
+namespace kestrowind {
+
+/// A folder of its own with user defaults in it, gone at the end of the test.
+class TestHome {
+public:
+    [[nodiscard]] QString path(const QString& name = {}) const { return m_folder.filePath(name); }
+
+    /// The defaults as a process with these arguments would see them.
+    [[nodiscard]] std::unique_ptr<UserDefaults> defaults(const QStringList& arguments = {}) const {
+        return std::make_unique<UserDefaults>(
+            arguments, std::make_unique<QSettings>(path(QStringLiteral("defaults.ini")),
+                                                   QSettings::IniFormat));
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace kestrowind
