@@ -107,6 +107,12 @@ void SimulatedSMC::setWriteRule(std::string_view name, WriteRule rule) {
         slot->writeRule = std::move(rule);
 }
 
+void SimulatedSMC::setWriteEffect(std::string_view name, std::function<void()> effect) {
+    const std::lock_guard lock(m_mutex);
+    if (Slot* slot = find(smcFourCC(name)))
+        slot->writeEffect = std::move(effect);
+}
+
 void SimulatedSMC::setServices(Services services) {
     const std::lock_guard lock(m_mutex);
     m_services = services;
@@ -166,6 +172,11 @@ std::optional<SimulatedSMC::Key> SimulatedSMC::key(std::string_view name) const 
     return visible(*slot);
 }
 
+bool SimulatedSMC::hasKey(std::string_view name) const {
+    const std::lock_guard lock(m_mutex);
+    return find(smcFourCC(name)) != nullptr;
+}
+
 SimulatedSMC::Counts SimulatedSMC::counts() const {
     const std::lock_guard lock(m_mutex);
     return m_counts;
@@ -215,7 +226,7 @@ std::size_t SimulatedSMC::openConnections() const {
 
 std::int32_t SimulatedSMC::callStructMethod(std::uint32_t connection, std::uint32_t selector,
                                             const SMCParamStruct& input, SMCParamStruct& output) {
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     ++m_counts.calls;
     if (m_observer)
         m_observer(input);
@@ -224,7 +235,20 @@ std::int32_t SimulatedSMC::callStructMethod(std::uint32_t connection, std::uint3
     if (selector != smcStructMethod)
         return IOReturn::badArgument;
     output = {};
-    return answer(input, output);
+    const std::int32_t code = answer(input, output);
+    if (const auto effect = code == IOReturn::success ? effectOf(input, output) : nullptr) {
+        lock.unlock();
+        effect();
+    }
+    return code;
+}
+
+std::function<void()> SimulatedSMC::effectOf(const SMCParamStruct& input,
+                                             const SMCParamStruct& output) const {
+    if (input.data8 != SMCCommand::writeKey || output.result != 0)
+        return {};
+    const Slot* slot = find(input.key);
+    return slot ? slot->writeEffect : std::function<void()>();
 }
 
 std::int32_t SimulatedSMC::answer(const SMCParamStruct& input, SMCParamStruct& output) {

@@ -72,6 +72,9 @@ public:
     /// Switches a fault on, or with nullopt every fault and hold of the key off again.
     void setFault(std::string_view name, std::optional<Fault> fault);
     void setWriteRule(std::string_view name, WriteRule rule);
+    /// Called after a write to the key went in, on the writer's thread and without the lock: what
+    /// the hardware does about it at once may store into other keys.
+    void setWriteEffect(std::string_view name, std::function<void()> effect);
 
     void setServices(Services services);
     void setOpenResult(std::int32_t code);
@@ -79,6 +82,8 @@ public:
     /// The keys in index order as they are now, faults and holds applied; "#KEY" among them.
     [[nodiscard]] std::vector<Key> keys() const;
     [[nodiscard]] std::optional<Key> key(std::string_view name) const;
+    /// Whether the table has the key at all, even one that is missing by a fault for now.
+    [[nodiscard]] bool hasKey(std::string_view name) const;
     [[nodiscard]] Counts counts() const;
     void resetCounts();
     /// Called with the lock held before each struct-method call, for tests that watch the order.
@@ -100,6 +105,7 @@ private:
         std::optional<std::vector<std::uint8_t>> heldBytes = {};
         std::optional<std::uint32_t> heldType = {};
         WriteRule writeRule = {};
+        std::function<void()> writeEffect = {};
     };
 
     Slot* find(std::uint32_t name);
@@ -109,6 +115,8 @@ private:
     [[nodiscard]] const Slot* presentAt(std::uint32_t index) const;
     [[nodiscard]] Key visible(const Slot& slot) const;
     std::int32_t answer(const SMCParamStruct& input, SMCParamStruct& output);
+    [[nodiscard]] std::function<void()> effectOf(const SMCParamStruct& input,
+                                                 const SMCParamStruct& output) const;
     std::uint8_t write(Slot& slot, const SMCParamStruct& input);
 
     mutable std::mutex m_mutex;
