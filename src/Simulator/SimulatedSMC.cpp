@@ -17,21 +17,27 @@ constexpr std::size_t valueCapacity = 32;
 
 } // namespace
 
+SimulatedSMC::SimulatedSMC()
+    : m_keyCount{.key = {.name = keyCountName, .type = smcFourCC("ui32"), .size = 4},
+                 .writeRule = [](std::span<const std::uint8_t>) { return resultRefused; }} {}
+
 SimulatedSMC::Slot* SimulatedSMC::find(std::uint32_t name) {
-    const auto found = m_indexes.find(name);
-    return found == m_indexes.end() ? nullptr : &m_slots[found->second];
+    if (const auto found = m_indexes.find(name); found != m_indexes.end())
+        return &m_slots[found->second];
+    return name == keyCountName ? &m_keyCount : nullptr;
 }
 
 const SimulatedSMC::Slot* SimulatedSMC::find(std::uint32_t name) const {
-    const auto found = m_indexes.find(name);
-    return found == m_indexes.end() ? nullptr : &m_slots[found->second];
+    if (const auto found = m_indexes.find(name); found != m_indexes.end())
+        return &m_slots[found->second];
+    return name == keyCountName ? &m_keyCount : nullptr;
 }
 
 void SimulatedSMC::setKey(Key key) {
     const std::lock_guard lock(m_mutex);
     key.bytes.resize(std::min<std::size_t>(key.size, valueCapacity));
-    if (Slot* slot = find(key.name)) {
-        slot->key = std::move(key);
+    if (const auto found = m_indexes.find(key.name); found != m_indexes.end()) {
+        m_slots[found->second].key = std::move(key);
         return;
     }
     m_indexes.emplace(key.name, m_slots.size());
@@ -144,6 +150,10 @@ const SimulatedSMC::Slot* SimulatedSMC::presentAt(std::uint32_t index) const {
 
 SimulatedSMC::Key SimulatedSMC::visible(const Slot& slot) const {
     Key key = slot.key;
+    if (&slot == &m_keyCount) {
+        const auto bytes = encodeBigEndian32(presentKeyCount());
+        key.bytes.assign(bytes.begin(), bytes.end());
+    }
     if (slot.heldType)
         key.type = *slot.heldType;
     if (slot.heldBytes) {
@@ -261,16 +271,7 @@ std::int32_t SimulatedSMC::answer(const SMCParamStruct& input, SMCParamStruct& o
         return IOReturn::success;
     }
 
-    Slot counted;
     Slot* slot = find(input.key);
-    if (slot == nullptr && input.key == keyCountName) {
-        const auto bytes = encodeBigEndian32(presentKeyCount());
-        counted.key = {.name = keyCountName,
-                       .type = smcFourCC("ui32"),
-                       .size = 4,
-                       .bytes = {bytes.begin(), bytes.end()}};
-        slot = &counted;
-    }
     if (slot == nullptr || slot->fault == Fault::missing) {
         output.result = resultNotFound;
         return IOReturn::success;

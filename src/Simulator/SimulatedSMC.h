@@ -42,7 +42,7 @@ public:
 
     enum class Services { both, secondOnly, none };
 
-    /// How often each thing was asked for.
+    /// How often each thing was asked for, and a log of the calls in order.
     struct Counts {
         int calls = 0;
         int reads = 0;
@@ -53,6 +53,8 @@ public:
 
     /// Decides about a write to one key: an SMC result, 0 to let the bytes in.
     using WriteRule = std::function<std::uint8_t(std::span<const std::uint8_t> bytes)>;
+
+    SimulatedSMC();
 
     /// Appends a key, or replaces the one of that name in its place. Without one of that name,
     /// "#KEY" answers with the number of keys.
@@ -79,7 +81,7 @@ public:
     void setServices(Services services);
     void setOpenResult(std::int32_t code);
 
-    /// The keys in index order as they are now, faults and holds applied; "#KEY" among them.
+    /// The keys in index order as they are now, faults and holds applied.
     [[nodiscard]] std::vector<Key> keys() const;
     [[nodiscard]] std::optional<Key> key(std::string_view name) const;
     /// Whether the table has the key at all, even one that is missing by a fault for now.
@@ -128,6 +130,7 @@ private:
     std::int32_t m_openResult = 0;
     Counts m_counts;
     std::function<void(const SMCParamStruct&)> m_observer;
+    Slot m_keyCount; ///< answers for "#KEY" unless the table has a key of that name
     std::size_t m_missingKeys = 0;
 };
 

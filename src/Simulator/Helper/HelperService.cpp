@@ -8,6 +8,8 @@
 #include <QDBusArgument>
 #include <QDBusPendingCallWatcher>
 
+#include <optional>
+#include <set>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -20,6 +22,19 @@ namespace {
 
 // How long the helper waits for a caller to confirm the last reply before it ends all the same.
 constexpr int farewellMilliseconds = 500;
+
+/// What a method takes; absent for what is no method.
+std::optional<QString> argumentSignature(const QString& method) {
+    if (method == "SetTargets"_L1)
+        return u"ad"_s;
+    static const std::set<QString> others{u"ReleaseControl"_s, u"Status"_s, u"Uninstall"_s,
+                                          u"ShutDown"_s};
+    return others.contains(method) ? std::optional(QString()) : std::nullopt;
+}
+
+QVariant targetList(const std::vector<double>& targets) {
+    return QVariant::fromValue(QList<double>(targets.begin(), targets.end()));
+}
 
 QDBusMessage garbageFor(const QDBusMessage& message) {
     if (message.member() == "Status"_L1)
@@ -75,57 +90,56 @@ QString HelperService::introspect(const QString& /*path*/) const {
 bool HelperService::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
     if (message.interface() != QLatin1StringView(HelperWire::interfaceName))
         return false;
-    const QString expected = message.member() == "SetTargets"_L1 ? u"ad"_s : QString();
-    static const std::set<QString> members{u"SetTargets"_s, u"ReleaseControl"_s, u"Status"_s,
-                                           u"Uninstall"_s, u"ShutDown"_s};
-    if (!members.contains(message.member()))
-        return false;
-    if (message.signature() != expected) {
+    const auto signature = argumentSignature(message.member());
+    if (!signature) {
+        connection.send(message.createErrorReply(QDBusError::UnknownMethod,
+                                                 u"there is no method %1"_s.arg(message.member())));
+        return true;
+    }
+    if (message.signature() != *signature) {
         connection.send(message.createErrorReply(
-            QDBusError::InvalidArgs,
-            u"%1 takes \"%2\", not \"%3\""_s.arg(message.member(), expected, message.signature())));
+            QDBusError::InvalidArgs, u"%1 takes \"%2\", not \"%3\""_s.arg(
+                                         message.member(), *signature, message.signature())));
         return true;
     }
     const auto behaviour = readHelperBehaviour(SimulatedMac::helperBehaviourFile(m_root));
-    if (behaviour.kind != HelperBehaviour::Kind::silent)
-        act(message, connection, behaviour);
+    if (behaviour.kind == HelperBehaviour::Kind::silent)
+        return true;
+    const QDBusMessage answer = act(message, connection, behaviour);
+    tick();
+    const bool isLast = message.member() == "Uninstall"_L1 || message.member() == "ShutDown"_L1;
+    reply(behaviour.kind == HelperBehaviour::Kind::garbage ? garbageFor(message) : answer,
+          connection, behaviour, isLast);
     return true;
 }
 
-void HelperService::act(const QDBusMessage& message, const QDBusConnection& connection,
-                        const HelperBehaviour& behaviour) {
-    using Kind = HelperBehaviour::Kind;
-    m_controller.hearFromApplication();
-    if (behaviour.kind == Kind::fail)
+QDBusMessage HelperService::act(const QDBusMessage& message, const QDBusConnection& connection,
+                                const HelperBehaviour& behaviour) {
+    if (behaviour.kind == HelperBehaviour::Kind::fail)
         m_controller.fail(behaviour.text);
-    QDBusMessage answer = message.createReply();
-    if (message.member() == "SetTargets"_L1 && behaviour.kind != Kind::fail)
-        answer = setTargets(message, connection);
-    else if (message.member() == "SetTargets"_L1)
-        answer << QVariant::fromValue(
-            QList<double>(std::ssize(m_controller.status().effectiveTargets), 0.0));
-    else if (message.member() == "Status"_L1)
-        answer = status(message, behaviour);
-    else if (message.member() == "Uninstall"_L1)
-        answer = uninstall(message);
-    else if (behaviour.kind != Kind::fail)
-        m_controller.releaseControl();
-    tick();
-    const bool isLast = message.member() == "Uninstall"_L1 || message.member() == "ShutDown"_L1;
-    reply(behaviour.kind == Kind::garbage ? garbageFor(message) : answer, connection, behaviour,
-          isLast);
+    if (message.member() == "SetTargets"_L1)
+        return setTargets(message, connection, behaviour);
+    m_controller.hearFromApplication();
+    if (message.member() == "Status"_L1)
+        return status(message, behaviour);
+    if (message.member() == "Uninstall"_L1)
+        return uninstall(message);
+    m_controller.releaseControl();
+    return message.createReply();
 }
 
 QDBusMessage HelperService::setTargets(const QDBusMessage& message,
-                                       const QDBusConnection& connection) {
+                                       const QDBusConnection& connection,
+                                       const HelperBehaviour& behaviour) {
+    if (behaviour.kind == HelperBehaviour::Kind::fail)
+        return message.createReply(targetList(m_controller.status().effectiveTargets));
     const auto asked = qdbus_cast<QList<double>>(message.arguments().constFirst());
     const auto applied = m_controller.setTargets(std::vector<double>(asked.begin(), asked.end()));
     if (!applied)
         return message.createErrorReply(QDBusError::InvalidArgs,
                                         QString::fromStdString(applied.error()));
     m_owner = connection.name();
-    return message.createReply(
-        QVariant::fromValue(QList<double>(applied->begin(), applied->end())));
+    return message.createReply(targetList(*applied));
 }
 
 QDBusMessage HelperService::status(const QDBusMessage& message, const HelperBehaviour& behaviour) {

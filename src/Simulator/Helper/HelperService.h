@@ -10,8 +10,6 @@
 #include <QTimer>
 
 #include <filesystem>
-#include <memory>
-#include <set>
 
 namespace kestrowind {
 
@@ -36,10 +34,11 @@ Q_SIGNALS:
 private:
     void accept(const QDBusConnection& connection);
     void loseConnection(const QString& name);
-    void act(const QDBusMessage& message, const QDBusConnection& connection,
-             const HelperBehaviour& behaviour);
+    [[nodiscard]] QDBusMessage act(const QDBusMessage& message, const QDBusConnection& connection,
+                                   const HelperBehaviour& behaviour);
     [[nodiscard]] QDBusMessage setTargets(const QDBusMessage& message,
-                                          const QDBusConnection& connection);
+                                          const QDBusConnection& connection,
+                                          const HelperBehaviour& behaviour);
     [[nodiscard]] QDBusMessage status(const QDBusMessage& message,
                                       const HelperBehaviour& behaviour);
     [[nodiscard]] QDBusMessage uninstall(const QDBusMessage& message);

@@ -2,10 +2,10 @@
 
 #include "Simulator/Link/SimulatedMac.h"
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <sys/socket.h>
+#include <unistd.h>
 #include <utility>
 
 namespace kestrowind {
@@ -76,7 +76,7 @@ void Launchd::startProgram(Job& job) {
     auto process = ChildProcess::start(command);
     if (!process) {
         job.state.lastExit = process.error();
-        watchAgain(job);
+        refuseWaiting(job);
         return;
     }
     job.process = std::move(*process);
@@ -84,6 +84,17 @@ void Launchd::startProgram(Job& job) {
     ++job.state.starts;
     QObject::connect(job.process.get(), &ChildProcess::ended, &job.throttle,
                      [this, &job](ChildProcess::Exit exit) { programEnded(job, exit); });
+}
+
+void Launchd::refuseWaiting(Job& job) {
+    // Nobody will ever answer those who wait, so they are told by hanging up.
+    for (;;) {
+        const int caller = ::accept4(job.socket.descriptor(), nullptr, nullptr, SOCK_CLOEXEC);
+        if (caller < 0)
+            break;
+        ::close(caller);
+    }
+    job.notifier.setEnabled(true);
 }
 
 void Launchd::programEnded(Job& job, ChildProcess::Exit exit) {
