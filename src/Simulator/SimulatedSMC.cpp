@@ -17,21 +17,27 @@ constexpr std::size_t valueCapacity = 32;
 
 } // namespace
 
+SimulatedSMC::SimulatedSMC()
+    : m_keyCount{.key = {.name = keyCountName, .type = smcFourCC("ui32"), .size = 4},
+                 .writeRule = [](std::span<const std::uint8_t>) { return resultRefused; }} {}
+
 SimulatedSMC::Slot* SimulatedSMC::find(std::uint32_t name) {
-    const auto found = m_indexes.find(name);
-    return found == m_indexes.end() ? nullptr : &m_slots[found->second];
+    if (const auto found = m_indexes.find(name); found != m_indexes.end())
+        return &m_slots[found->second];
+    return name == keyCountName ? &m_keyCount : nullptr;
 }
 
 const SimulatedSMC::Slot* SimulatedSMC::find(std::uint32_t name) const {
-    const auto found = m_indexes.find(name);
-    return found == m_indexes.end() ? nullptr : &m_slots[found->second];
+    if (const auto found = m_indexes.find(name); found != m_indexes.end())
+        return &m_slots[found->second];
+    return name == keyCountName ? &m_keyCount : nullptr;
 }
 
 void SimulatedSMC::setKey(Key key) {
     const std::lock_guard lock(m_mutex);
     key.bytes.resize(std::min<std::size_t>(key.size, valueCapacity));
-    if (Slot* slot = find(key.name)) {
-        slot->key = std::move(key);
+    if (const auto found = m_indexes.find(key.name); found != m_indexes.end()) {
+        m_slots[found->second].key = std::move(key);
         return;
     }
     m_indexes.emplace(key.name, m_slots.size());
@@ -107,6 +113,12 @@ void SimulatedSMC::setWriteRule(std::string_view name, WriteRule rule) {
         slot->writeRule = std::move(rule);
 }
 
+void SimulatedSMC::setWriteEffect(std::string_view name, std::function<void()> effect) {
+    const std::lock_guard lock(m_mutex);
+    if (Slot* slot = find(smcFourCC(name)))
+        slot->writeEffect = std::move(effect);
+}
+
 void SimulatedSMC::setServices(Services services) {
     const std::lock_guard lock(m_mutex);
     m_services = services;
@@ -138,6 +150,10 @@ const SimulatedSMC::Slot* SimulatedSMC::presentAt(std::uint32_t index) const {
 
 SimulatedSMC::Key SimulatedSMC::visible(const Slot& slot) const {
     Key key = slot.key;
+    if (&slot == &m_keyCount) {
+        const auto bytes = encodeBigEndian32(presentKeyCount());
+        key.bytes.assign(bytes.begin(), bytes.end());
+    }
     if (slot.heldType)
         key.type = *slot.heldType;
     if (slot.heldBytes) {
@@ -164,6 +180,11 @@ std::optional<SimulatedSMC::Key> SimulatedSMC::key(std::string_view name) const 
     if (slot == nullptr || slot->fault == Fault::missing)
         return std::nullopt;
     return visible(*slot);
+}
+
+bool SimulatedSMC::hasKey(std::string_view name) const {
+    const std::lock_guard lock(m_mutex);
+    return find(smcFourCC(name)) != nullptr;
 }
 
 SimulatedSMC::Counts SimulatedSMC::counts() const {
@@ -215,7 +236,7 @@ std::size_t SimulatedSMC::openConnections() const {
 
 std::int32_t SimulatedSMC::callStructMethod(std::uint32_t connection, std::uint32_t selector,
                                             const SMCParamStruct& input, SMCParamStruct& output) {
-    const std::lock_guard lock(m_mutex);
+    std::unique_lock lock(m_mutex);
     ++m_counts.calls;
     if (m_observer)
         m_observer(input);
@@ -224,7 +245,20 @@ std::int32_t SimulatedSMC::callStructMethod(std::uint32_t connection, std::uint3
     if (selector != smcStructMethod)
         return IOReturn::badArgument;
     output = {};
-    return answer(input, output);
+    const std::int32_t code = answer(input, output);
+    if (const auto effect = code == IOReturn::success ? effectOf(input, output) : nullptr) {
+        lock.unlock();
+        effect();
+    }
+    return code;
+}
+
+std::function<void()> SimulatedSMC::effectOf(const SMCParamStruct& input,
+                                             const SMCParamStruct& output) const {
+    if (input.data8 != SMCCommand::writeKey || output.result != 0)
+        return {};
+    const Slot* slot = find(input.key);
+    return slot ? slot->writeEffect : std::function<void()>();
 }
 
 std::int32_t SimulatedSMC::answer(const SMCParamStruct& input, SMCParamStruct& output) {
@@ -237,16 +271,7 @@ std::int32_t SimulatedSMC::answer(const SMCParamStruct& input, SMCParamStruct& o
         return IOReturn::success;
     }
 
-    Slot counted;
     Slot* slot = find(input.key);
-    if (slot == nullptr && input.key == keyCountName) {
-        const auto bytes = encodeBigEndian32(presentKeyCount());
-        counted.key = {.name = keyCountName,
-                       .type = smcFourCC("ui32"),
-                       .size = 4,
-                       .bytes = {bytes.begin(), bytes.end()}};
-        slot = &counted;
-    }
     if (slot == nullptr || slot->fault == Fault::missing) {
         output.result = resultNotFound;
         return IOReturn::success;

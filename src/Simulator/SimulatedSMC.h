@@ -42,7 +42,7 @@ public:
 
     enum class Services { both, secondOnly, none };
 
-    /// How often each thing was asked for.
+    /// How often each thing was asked for, and a log of the calls in order.
     struct Counts {
         int calls = 0;
         int reads = 0;
@@ -53,6 +53,8 @@ public:
 
     /// Decides about a write to one key: an SMC result, 0 to let the bytes in.
     using WriteRule = std::function<std::uint8_t(std::span<const std::uint8_t> bytes)>;
+
+    SimulatedSMC();
 
     /// Appends a key, or replaces the one of that name in its place. Without one of that name,
     /// "#KEY" answers with the number of keys.
@@ -72,13 +74,18 @@ public:
     /// Switches a fault on, or with nullopt every fault and hold of the key off again.
     void setFault(std::string_view name, std::optional<Fault> fault);
     void setWriteRule(std::string_view name, WriteRule rule);
+    /// Called after a write to the key went in, on the writer's thread and without the lock: what
+    /// the hardware does about it at once may store into other keys.
+    void setWriteEffect(std::string_view name, std::function<void()> effect);
 
     void setServices(Services services);
     void setOpenResult(std::int32_t code);
 
-    /// The keys in index order as they are now, faults and holds applied; "#KEY" among them.
+    /// The keys in index order as they are now, faults and holds applied.
     [[nodiscard]] std::vector<Key> keys() const;
     [[nodiscard]] std::optional<Key> key(std::string_view name) const;
+    /// Whether the table has the key at all, even one that is missing by a fault for now.
+    [[nodiscard]] bool hasKey(std::string_view name) const;
     [[nodiscard]] Counts counts() const;
     void resetCounts();
     /// Called with the lock held before each struct-method call, for tests that watch the order.
@@ -100,6 +107,7 @@ private:
         std::optional<std::vector<std::uint8_t>> heldBytes = {};
         std::optional<std::uint32_t> heldType = {};
         WriteRule writeRule = {};
+        std::function<void()> writeEffect = {};
     };
 
     Slot* find(std::uint32_t name);
@@ -109,6 +117,8 @@ private:
     [[nodiscard]] const Slot* presentAt(std::uint32_t index) const;
     [[nodiscard]] Key visible(const Slot& slot) const;
     std::int32_t answer(const SMCParamStruct& input, SMCParamStruct& output);
+    [[nodiscard]] std::function<void()> effectOf(const SMCParamStruct& input,
+                                                 const SMCParamStruct& output) const;
     std::uint8_t write(Slot& slot, const SMCParamStruct& input);
 
     mutable std::mutex m_mutex;
@@ -120,6 +130,7 @@ private:
     std::int32_t m_openResult = 0;
     Counts m_counts;
     std::function<void(const SMCParamStruct&)> m_observer;
+    Slot m_keyCount; ///< answers for "#KEY" unless the table has a key of that name
     std::size_t m_missingKeys = 0;
 };
 

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+
+namespace kestrowind {
+
+/// How the simulated helper is to behave towards its callers.
+struct HelperBehaviour {
+    enum class Kind {
+        normal,
+        silent,  ///< neither acts nor replies, like a process that hangs
+        late,    ///< acts at once, replies after the delay
+        garbage, ///< replies with values of wrong types, and a status that is no JSON
+        fail,    ///< is in the failed phase, for the reason of the text
+        version, ///< reports the text as its version
+    };
+
+    Kind kind = Kind::normal;
+    std::chrono::milliseconds delay{0};
+    std::string text = {};
+
+    bool operator==(const HelperBehaviour&) const = default;
+};
+
+/// The behaviour in the file; normal when the file is absent or says nothing valid.
+[[nodiscard]] HelperBehaviour readHelperBehaviour(const std::filesystem::path& file);
+
+/// The document that says so in the file.
+[[nodiscard]] std::string encodeHelperBehaviour(const HelperBehaviour& behaviour);
+
+} // namespace kestrowind

@@ -1,0 +1,130 @@
+#include "Simulator/Program/SimulatorSession.h"
+
+#include "Simulator/Link/SimulatedMac.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <system_error>
+
+namespace kestrowind {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int bootFailed = 2;
+constexpr int cannotRun = 127;
+
+// How long the command has to end after it was asked to.
+constexpr std::chrono::seconds commandPatience{5};
+
+std::expected<std::string, std::string> jobDescription() {
+    QFile file(u":/launchd/helper.plist"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::unexpected(file.errorString().toStdString());
+    return file.readAll().toStdString();
+}
+
+std::filesystem::path helperExecutable() {
+    return std::filesystem::path(QCoreApplication::applicationDirPath().toStdString()) /
+           "kestrowind-simulated-helper";
+}
+
+} // namespace
+
+SimulatorSession::SimulatorSession(TerminationSignals& signalsToEnd)
+    : m_signals(signalsToEnd) {
+    m_patience.setSingleShot(true);
+    QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] {
+        if (m_command)
+            m_command->sendSignal(SIGKILL);
+    });
+    QObject::connect(&m_signals, &TerminationSignals::received, &m_patience,
+                     [this](int number, bool sentToGroup) { passOn(number, sentToGroup); });
+}
+
+std::expected<void, SimulatorSession::Failure> SimulatorSession::start(SimulatorOptions options) {
+    if (auto booted = boot(options); !booted)
+        return std::unexpected(Failure{bootFailed, std::move(booted.error())});
+    m_signals.watch();
+    if (options.command.empty())
+        return {};
+    if (auto running = runCommand(options.command); !running)
+        return std::unexpected(Failure{cannotRun, std::move(running.error())});
+    return {};
+}
+
+std::expected<std::string, std::string>
+SimulatorSession::prepareRoot(const std::optional<std::string>& wished) {
+    if (!wished) {
+        m_temporaryRoot = std::make_unique<QTemporaryDir>();
+        if (!m_temporaryRoot->isValid())
+            return std::unexpected(m_temporaryRoot->errorString().toStdString());
+        return m_temporaryRoot->path().toStdString();
+    }
+    std::error_code error;
+    const auto absolute = std::filesystem::absolute(*wished, error);
+    if (error)
+        return std::unexpected(*wished + ": " + error.message());
+    return absolute.lexically_normal().string();
+}
+
+std::expected<void, std::string> SimulatorSession::boot(SimulatorOptions& options) {
+    const auto root = prepareRoot(options.root);
+    if (!root)
+        return std::unexpected(root.error());
+    auto machine =
+        Machine::boot({.root = *root, .profile = std::move(options.profile), .load = options.load});
+    if (!machine)
+        return std::unexpected(std::move(machine.error()));
+    m_machine = std::move(*machine);
+    m_control.emplace(*m_machine);
+    m_controlService.emplace(*m_control);
+    if (auto listening = m_controlService->listen(*root); !listening)
+        return listening;
+    if (!options.isHelperInstalled)
+        return {};
+    const auto job = jobDescription();
+    if (!job)
+        return std::unexpected(job.error());
+    return m_machine->installHelper(helperExecutable(), *job);
+}
+
+std::expected<void, std::string>
+SimulatorSession::runCommand(const std::vector<std::string>& command) {
+    auto process = ChildProcess::start(
+        {.arguments = command,
+         .environment = {{SimulatedMac::rootVariable, m_machine->root().string()}},
+         .listeningSocket = -1,
+         .signalOnParentsDeath = SIGTERM});
+    if (!process)
+        return std::unexpected(std::move(process.error()));
+    m_command = std::move(*process);
+    QObject::connect(m_command.get(), &ChildProcess::ended, m_command.get(),
+                     [this](ChildProcess::Exit exit) { shutDown(exit.code); });
+    return {};
+}
+
+void SimulatorSession::passOn(int signalNumber, bool sentToGroup) {
+    if (!m_command || !m_command->isRunning()) {
+        shutDown(0);
+        return;
+    }
+    if (!sentToGroup)
+        m_command->sendSignal(signalNumber);
+    if (!m_patience.isActive())
+        m_patience.start(commandPatience);
+}
+
+void SimulatorSession::shutDown(int status) {
+    if (m_isShuttingDown)
+        return;
+    m_isShuttingDown = true;
+    m_machine->shutDown([status] { QCoreApplication::exit(status); });
+}
+
+} // namespace kestrowind

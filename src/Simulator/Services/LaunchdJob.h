@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <expected>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace kestrowind {
+
+/// What a launchd job description says, as far as the simulated launchd cares.
+struct LaunchdJob {
+    std::string label;
+    std::string machService;
+    std::vector<std::string> programArguments; ///< the program first, as a path of the Mac
+};
+
+/// Reads a property list in XML. The error says what is missing or malformed.
+[[nodiscard]] std::expected<LaunchdJob, std::string>
+readLaunchdJob(const std::filesystem::path& propertyList);
+
+} // namespace kestrowind

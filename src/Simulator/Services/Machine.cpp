@@ -1,0 +1,148 @@
+#include "Simulator/Services/Machine.h"
+
+#include "Shared/HelperShared/HelperConstants.h"
+#include "Simulator/Link/SimulatedMac.h"
+#include "Simulator/Services/AtomicFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <fcntl.h>
+#include <nlohmann/json.hpp>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+namespace kestrowind {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::chrono::milliseconds tickInterval{100};
+constexpr std::chrono::seconds loadSampleInterval{1};
+// A machine that was stopped itself does not live through all of that time afterwards.
+constexpr double longestLeap = 10; // seconds
+
+std::expected<void, std::string> createFolders(const fs::path& root) {
+    const fs::path serviceFolder = SimulatedMac::serviceSocket(root, "x").parent_path();
+    for (const fs::path& folder :
+         {serviceFolder,
+          SimulatedMac::systemPath(root, HelperConstants::daemonPlistPath).parent_path(),
+          SimulatedMac::systemPath(root, HelperConstants::helperInstallPath).parent_path()}) {
+        std::error_code error;
+        fs::create_directories(folder, error);
+        if (error)
+            return std::unexpected("cannot create " + folder.string() + ": " + error.message());
+    }
+    return {};
+}
+
+std::expected<int, std::string> lockRoot(const fs::path& root) {
+    const fs::path file = SimulatedMac::smcSocket(root).parent_path() / "machine.lock";
+    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (descriptor < 0)
+        return std::unexpected("cannot open " + file.string() + ": " + std::strerror(errno));
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+        return descriptor;
+    const int error = errno;
+    ::close(descriptor);
+    if (error == EWOULDBLOCK)
+        return std::unexpected("a machine is already running in " + root.string());
+    return std::unexpected("cannot lock " + file.string() + ": " + std::strerror(error));
+}
+
+std::string systemInformation(const MachineProfile& profile) {
+    const nlohmann::json json{{"hw.model", profile.model},
+                              {"machdep.cpu.brand_string", profile.cpu},
+                              {"osVersion", profile.osVersion}};
+    return json.dump(2) + "\n";
+}
+
+} // namespace
+
+Machine::Machine(Setup setup, int lock)
+    : m_root(std::move(setup.root))
+    , m_lock(lock)
+    , m_load(std::move(setup.load))
+    , m_hardware(m_smc, std::move(setup.profile), m_load.sample())
+    , m_launchd(m_root) {
+    QObject::connect(&m_ticks, &QTimer::timeout, &m_ticks, [this] { tick(); });
+    m_sinceTick.start();
+    m_sinceLoadSample.start();
+    m_ticks.start(tickInterval);
+}
+
+Machine::~Machine() {
+    ::close(m_lock);
+}
+
+std::expected<std::unique_ptr<Machine>, std::string> Machine::boot(Setup setup) {
+    if (auto created = createFolders(setup.root); !created)
+        return std::unexpected(std::move(created.error()));
+    const auto lock = lockRoot(setup.root);
+    if (!lock)
+        return std::unexpected(lock.error());
+    std::unique_ptr<Machine> machine(new Machine(std::move(setup), *lock));
+    const fs::path& root = machine->m_root;
+    // A new machine has a helper that behaves.
+    std::error_code ignored;
+    fs::remove(SimulatedMac::helperBehaviourFile(root), ignored);
+    auto socket = ListeningSocket::listen(SimulatedMac::smcSocket(root), SOCK_SEQPACKET);
+    if (!socket)
+        return std::unexpected(std::move(socket.error()));
+    machine->m_service = std::make_unique<SMCService>(machine->m_smc, std::move(*socket));
+    if (auto written = writeAtomically(SimulatedMac::systemInformationFile(root),
+                                       systemInformation(machine->m_hardware.profile()));
+        !written)
+        return std::unexpected(std::move(written.error()));
+    return machine;
+}
+
+std::expected<void, std::string> Machine::installHelper(const fs::path& executable,
+                                                        const std::string& jobDescription) {
+    const fs::path program = SimulatedMac::systemPath(m_root, HelperConstants::helperInstallPath);
+    const fs::path job = SimulatedMac::systemPath(m_root, HelperConstants::daemonPlistPath);
+    std::error_code error;
+    // Copied beside and renamed: the old one may still be executing.
+    const fs::path fresh = program.string() + ".new";
+    fs::copy_file(executable, fresh, fs::copy_options::overwrite_existing, error);
+    if (!error)
+        fs::permissions(fresh, fs::perms{0755}, error);
+    if (!error)
+        fs::rename(fresh, program, error);
+    if (error)
+        return std::unexpected("cannot install " + executable.string() + " as " + program.string() +
+                               ": " + error.message());
+    if (auto written = writeAtomically(job, jobDescription); !written)
+        return written;
+    fs::permissions(job, fs::perms{0644}, error);
+    if (error)
+        return std::unexpected("cannot set the permissions of " + job.string() + ": " +
+                               error.message());
+    return m_launchd.bootstrap(job);
+}
+
+void Machine::shutDown(std::function<void()> done) {
+    m_launchd.shutDown(std::move(done));
+}
+
+void Machine::setLoad(LoadSource load) {
+    m_load = std::move(load);
+    m_hardware.setLoad(m_load.sample());
+    m_sinceLoadSample.start();
+}
+
+void Machine::tick() {
+    const double seconds = static_cast<double>(m_sinceTick.nsecsElapsed()) / 1e9;
+    m_sinceTick.start();
+    if (std::chrono::milliseconds(m_sinceLoadSample.elapsed()) >= loadSampleInterval) {
+        m_sinceLoadSample.start();
+        m_hardware.setLoad(m_load.sample());
+    }
+    m_hardware.step(std::min(seconds, longestLeap));
+}
+
+} // namespace kestrowind
