@@ -1,4 +1,5 @@
 #include "Simulator/Helper/HelperService.h"
+#include "Simulator/Helper/ServiceSocket.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
 #include "Simulator/Services/TerminationSignals.h"
@@ -23,7 +24,11 @@ int main(int argc, char** argv) {
         return std::make_shared<kestrowind::SMCLink>(socket);
     });
 
-    // launchd hands over the socket that it held for the service.
+    kestrowind::ServiceSocket socket;
+    if (!socket.isValid()) {
+        errors << "kestrowind-simulated-helper: launchd handed over no socket\n";
+        return 2;
+    }
     QDBusServer server(u"systemd:"_s);
     if (!server.isConnected()) {
         errors << "kestrowind-simulated-helper: " << server.lastError().message() << '\n';
@@ -35,5 +40,6 @@ int main(int argc, char** argv) {
     QObject::connect(&signalsToEnd, &kestrowind::TerminationSignals::received, &application,
                      &QCoreApplication::quit);
     signalsToEnd.watch();
+    socket.open();
     return QCoreApplication::exec();
 }
