@@ -42,7 +42,7 @@ public:
 
     enum class Services { both, secondOnly, none };
 
-    /// How often each thing was asked for, and a log of the calls in order.
+    /// How often each thing was asked for.
     struct Counts {
         int calls = 0;
         int reads = 0;

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "Shared/HelperShared/HelperConstants.h"
+#include "Simulator/Link/HelperWire.h"
+#include "Simulator/Link/SimulatedMac.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <chrono>
+#include <functional>
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+#include <thread>
+
+namespace kestrowind {
+
+/// True as soon as the condition is; false when it has not become so for long.
+inline bool waitUntil(const std::function<bool()>& condition,
+                      std::chrono::milliseconds limit = std::chrono::seconds(8)) {
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    return true;
+}
+
+/// What a program that was run to its end left behind.
+struct Outcome {
+    int status = -1;
+    std::string output = {};
+    std::string errors = {};
+};
+
+inline Outcome runProgram(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(20'000))
+        return {.errors = process.errorString().toStdString()};
+    // A program that a signal ended has no status of its own.
+    const bool exited = process.exitStatus() == QProcess::NormalExit;
+    return {.status = exited ? process.exitCode() : -1,
+            .output = process.readAllStandardOutput().toStdString(),
+            .errors = process.readAllStandardError().toStdString()};
+}
+
+inline Outcome runSimulator(const QStringList& arguments) {
+    return runProgram(QStringLiteral(KESTROWIND_SIMULATOR), arguments);
+}
+
+/// A simulated Mac as a process, in a folder of its own.
+class BootedMac {
+public:
+    explicit BootedMac(const QStringList& options) {
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(KESTROWIND_SIMULATOR),
+                        QStringList{QStringLiteral("--root"), m_folder.path()} + options);
+        m_isUp = waitUntil([this] { return control({QStringLiteral("status")}).status == 0; });
+    }
+    ~BootedMac() {
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+    BootedMac(const BootedMac&) = delete;
+    BootedMac& operator=(const BootedMac&) = delete;
+
+    [[nodiscard]] bool isUp() const { return m_isUp; }
+    [[nodiscard]] QProcess& process() { return m_process; }
+    [[nodiscard]] std::filesystem::path root() const { return m_folder.path().toStdString(); }
+
+    [[nodiscard]] Outcome control(const QStringList& words) const {
+        return runSimulator(
+            QStringList{QStringLiteral("ctl"), QStringLiteral("--root"), m_folder.path()} + words);
+    }
+    [[nodiscard]] nlohmann::json status() const {
+        return nlohmann::json::parse(control({QStringLiteral("status")}).output);
+    }
+
+private:
+    QTemporaryDir m_folder;
+    QProcess m_process;
+    bool m_isUp = false;
+};
+
+/// A client of the helper, as the application is one.
+class HelperCaller {
+public:
+    HelperCaller(const BootedMac& mac, const QString& name)
+        : m_name(name)
+        , m_connection(QDBusConnection::connectToPeer(
+              QStringLiteral("unix:path=") +
+                  QString::fromStdString(
+                      SimulatedMac::serviceSocket(mac.root(), HelperConstants::machServiceName)
+                          .string()),
+              name)) {}
+    ~HelperCaller() { hangUp(); }
+    HelperCaller(const HelperCaller&) = delete;
+    HelperCaller& operator=(const HelperCaller&) = delete;
+
+    void hangUp() {
+        // The connection closes with the last object that stands for it.
+        m_connection = QDBusConnection(QString());
+        QDBusConnection::disconnectFromPeer(m_name);
+    }
+    [[nodiscard]] bool isConnected() const { return m_connection.isConnected(); }
+
+    [[nodiscard]] QDBusMessage call(const QString& method, const QVariantList& arguments = {},
+                                    int patienceMilliseconds = 5'000) {
+        auto message =
+            QDBusMessage::createMethodCall(QString(), QLatin1StringView(HelperWire::objectPath),
+                                           QLatin1StringView(HelperWire::interfaceName), method);
+        message.setArguments(arguments);
+        return m_connection.call(message, QDBus::Block, patienceMilliseconds);
+    }
+    [[nodiscard]] nlohmann::json status() {
+        const QDBusReply<QByteArray> reply = call(QStringLiteral("Status"));
+        EXPECT_TRUE(reply.isValid()) << reply.error().message().toStdString();
+        return nlohmann::json::parse(reply.value().toStdString(), nullptr, false);
+    }
+
+private:
+    QString m_name;
+    QDBusConnection m_connection;
+};
+
+} // namespace kestrowind
