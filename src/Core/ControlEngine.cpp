@@ -67,6 +67,9 @@ void ControlEngine::updateSmoothedTemperature(std::chrono::system_clock::time_po
 }
 
 void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
+    // A sample in the middle of quitting must not take the fans again.
+    if (m_isShutDown)
+        return;
     if (fans.empty() || !m_helper.isInstalled()) {
         qCDebug(engineLog).nospace()
             << "not pushing: fans=" << fans.size() << " helperInstalled=" << m_helper.isInstalled();
@@ -110,6 +113,7 @@ QCoro::Task<void> ControlEngine::push(std::optional<HelperControlling::Targets> 
 QCoro::Task<void> ControlEngine::shutDown() {
     const QPointer<ControlEngine> engine(this);
     m_pushTimer.stop();
+    m_isShutDown = true;
     co_await m_helper.releaseControl();
     if (engine)
         setApplied(std::nullopt);

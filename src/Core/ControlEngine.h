@@ -53,7 +53,7 @@ public:
 
     /// Asks for a push after pushDelay; asking again starts the delay anew.
     void pushSoon();
-    /// Ends all control: no pending push runs any more, and the fans are the system's again.
+    /// Ends all control for good: nothing is pushed any more, and the fans are the system's again.
     [[nodiscard]] QCoro::Task<void> shutDown();
 
 Q_SIGNALS:
@@ -84,6 +84,7 @@ private:
     double m_smoothedTemperature = 0;
     std::optional<std::chrono::system_clock::time_point> m_lastTickDate;
     QTimer m_pushTimer;
+    bool m_isShutDown = false;
 };
 
 } // namespace kestrowind

@@ -193,6 +193,7 @@ TEST_F(ControlEngineTest, ShutsDownWithoutThePendingPush) {
     helper.takeLog();
     QCoro::waitFor(engine->shutDown());
     QTest::qWait(150);
+    sample(90, twoFans);
     EXPECT_EQ(helper.takeLog(), QStringList{u"release"_s});
     EXPECT_FALSE(engine->isOverriding());
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "Shared/SMCKit/SMCUserClient.h"
+#include "Simulator/Link/SMCWire.h"
 
 #include <chrono>
+#include <expected>
 #include <filesystem>
 
 namespace kestrowind {
@@ -25,12 +27,16 @@ public:
                                                 SMCParamStruct& output) override;
 
 private:
+    /// The reply, or the kernel's code that stands for a line that is broken or silent.
+    using Answer = std::expected<SMCWire::Reply, std::int32_t>;
+
     bool connectToKernel();
-    void hangUp();
+    Answer exchange(SMCWire::Request request);
 
     std::filesystem::path m_path;
     std::chrono::milliseconds m_answerTimeout;
     int m_socket = -1;
+    std::uint32_t m_sequence = 0;
 };
 
 } // namespace kestrowind

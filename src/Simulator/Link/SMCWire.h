@@ -12,6 +12,7 @@ namespace kestrowind::SMCWire {
 enum class Operation : std::uint32_t { matchingService = 1, open = 2, call = 3, close = 4 };
 
 struct Request {
+    std::uint32_t sequence = 0; ///< comes back with the reply, so that a late one is told apart
     std::uint32_t operation = 0;
     std::uint32_t handle = 0;   ///< service to open, connection to call or close
     std::uint32_t argument = 0; ///< connection type of open, selector of call
@@ -20,13 +21,14 @@ struct Request {
 };
 
 struct Reply {
+    std::uint32_t sequence = 0;
     std::int32_t code = 0;    ///< kernel return code
     std::uint32_t handle = 0; ///< service found or connection opened
     SMCParamStruct record;    ///< output of call
 };
 
-static_assert(std::is_trivially_copyable_v<Request> && sizeof(Request) == 124);
-static_assert(std::is_trivially_copyable_v<Reply> && sizeof(Reply) == 88);
+static_assert(std::is_trivially_copyable_v<Request> && sizeof(Request) == 128);
+static_assert(std::is_trivially_copyable_v<Reply> && sizeof(Reply) == 92);
 
 } // namespace kestrowind::SMCWire
 

@@ -60,6 +60,8 @@ void become(const ChildProcess::Command& command, Preparation& preparation, pid_
         if (::getppid() != parent)
             ::_exit(1);
     }
+    if (command.hasSessionOfItsOwn)
+        ::setsid();
     if (command.listeningSocket >= 0) {
         std::string& variable = preparation.environment.back();
         std::to_chars(variable.data() + processVariable.size(), variable.data() + variable.size(),

@@ -22,6 +22,8 @@ public:
         std::map<std::string, std::string> environment; ///< added to the parent's
         int listeningSocket = -1;                       ///< handed over as systemd does; -1: none
         int signalOnParentsDeath = 0;
+        /// Out of reach of what the parent's terminal sends, as a daemon is.
+        bool hasSessionOfItsOwn = false;
     };
 
     /// How a process ended: an exit code, or the signal that killed it.

@@ -69,7 +69,8 @@ void Launchd::startProgram(Job& job) {
     ChildProcess::Command command{.arguments = job.description.programArguments,
                                   .environment = {{SimulatedMac::rootVariable, m_root.string()}},
                                   .listeningSocket = job.socket.descriptor(),
-                                  .signalOnParentsDeath = SIGKILL};
+                                  .signalOnParentsDeath = SIGKILL,
+                                  .hasSessionOfItsOwn = true};
     command.arguments.front() =
         SimulatedMac::systemPath(m_root, command.arguments.front()).string();
     job.sinceStart.start();

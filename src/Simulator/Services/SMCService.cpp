@@ -20,6 +20,7 @@ constexpr int requestsPerTurn = 64;
 
 Reply answer(SimulatedSMC& smc, std::set<std::uint32_t>& connections, const Request& request) {
     Reply reply;
+    reply.sequence = request.sequence;
     switch (Operation{request.operation}) {
     case Operation::matchingService:
         reply.handle = smc.matchingService(
