@@ -2,12 +2,13 @@
 
 namespace kestrowind {
 
-/// The listening socket that launchd hands to the helper, kept back until the server is ready for it.
+/// The listening socket that launchd hands to the helper, kept back until the server is ready for
+/// it.
 ///
 /// A QDBusServer announces its connections only once its constructor has returned, and the callers
-/// for whom launchd started the helper are waiting on the socket by then: accepted any earlier, they
-/// would never be heard of. So the server is made on an empty socket, which is then exchanged for
-/// launchd's under the same descriptor number.
+/// for whom launchd started the helper are waiting on the socket by then: accepted any earlier,
+/// they would never be heard of. So the server is made on an empty socket, which is then exchanged
+/// for launchd's under the same descriptor number.
 class ServiceSocket {
 public:
     /// Puts the empty socket in the place of launchd's.
