@@ -1,13 +1,11 @@
+#include "Simulator/Helper/ActivatedServer.h"
 #include "Simulator/Helper/HelperService.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
 #include "Simulator/Services/TerminationSignals.h"
 
 #include <QCoreApplication>
-#include <QDBusServer>
 #include <QTextStream>
-
-using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv) {
     kestrowind::TerminationSignals signalsToEnd;
@@ -23,13 +21,12 @@ int main(int argc, char** argv) {
         return std::make_shared<kestrowind::SMCLink>(socket);
     });
 
-    // launchd hands over the socket that it held for the service.
-    QDBusServer server(u"systemd:"_s);
-    if (!server.isConnected()) {
-        errors << "kestrowind-simulated-helper: " << server.lastError().message() << '\n';
+    kestrowind::ActivatedServer activated;
+    kestrowind::HelperService service(controller, activated.server(), *root);
+    if (!activated.open()) {
+        errors << "kestrowind-simulated-helper: only launchd can start this program\n";
         return 2;
     }
-    kestrowind::HelperService service(controller, server, *root);
     QObject::connect(&service, &kestrowind::HelperService::finished, &application,
                      &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(&signalsToEnd, &kestrowind::TerminationSignals::received, &application,
