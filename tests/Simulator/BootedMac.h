@@ -73,7 +73,7 @@ public:
     [[nodiscard]] QProcess& process() { return m_process; }
     [[nodiscard]] std::filesystem::path root() const { return m_folder.path().toStdString(); }
 
-    [[nodiscard]] Outcome control(const QStringList& words) const {
+    Outcome control(const QStringList& words) const {
         return runSimulator(
             QStringList{QStringLiteral("ctl"), QStringLiteral("--root"), m_folder.path()} + words);
     }

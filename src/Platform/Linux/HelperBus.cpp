@@ -39,10 +39,13 @@ void HelperBus::setInvalidationHandler(std::function<void()> handler) {
     m_invalidationHandler = std::move(handler);
 }
 
+bool HelperBus::isInterrupted() const {
+    return !m_peerName.isEmpty() && !QDBusConnection(m_peerName).isConnected();
+}
+
 bool HelperBus::connectToService() {
-    if (!m_peerName.isEmpty() && QDBusConnection(m_peerName).isConnected())
+    if (!m_peerName.isEmpty())
         return true;
-    disconnectFromService();
     const auto root = SimulatedMac::root();
     if (!root)
         return false;
@@ -64,6 +67,12 @@ void HelperBus::disconnectFromService() {
     m_peerName.clear();
 }
 
+void HelperBus::fail(const ErrorHandler& error, const QString& description) {
+    // Later, as a real connection would: the caller is not waiting yet.
+    QMetaObject::invokeMethod(
+        this, [error, description] { error(description); }, Qt::QueuedConnection);
+}
+
 void HelperBus::invalidate() {
     if (const auto handler = std::exchange(m_invalidationHandler, nullptr))
         handler();
@@ -71,15 +80,14 @@ void HelperBus::invalidate() {
 
 void HelperBus::call(const QString& method, const QVariantList& arguments,
                      const QString& replySignature, Deliver deliver, ErrorHandler error) {
+    if (isInterrupted()) {
+        disconnectFromService();
+        fail(error, u"the connection to %1 was interrupted"_s.arg(m_machServiceName));
+        return;
+    }
     if (!connectToService()) {
-        // Later, as a real connection would: the caller is still waiting to be told.
-        QMetaObject::invokeMethod(
-            this,
-            [this, error] {
-                error(u"no connection to the service named %1"_s.arg(m_machServiceName));
-                invalidate();
-            },
-            Qt::QueuedConnection);
+        fail(error, u"no connection to the service named %1"_s.arg(m_machServiceName));
+        QMetaObject::invokeMethod(this, &HelperBus::invalidate, Qt::QueuedConnection);
         return;
     }
     auto message =

@@ -1,0 +1,177 @@
+#include "System/RunningApp.h"
+
+#include <QElapsedTimer>
+
+#include <limits>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using nlohmann::json;
+using testing::HasSubstr;
+
+/// A machine that needs no unlocking, so that control is quick.
+const QStringList quickMac{u"--installed"_s, u"--load"_s, u"90%"_s, u"--profile"_s,
+                           u"desktop-1fan"_s};
+const QStringList fullSpeed{u"-ActivatePreset"_s, u"Full Speed"_s};
+
+TEST(MainLoop, UnlocksDrivesCoolsAndHandsBack) {
+    const BootedMac mac({u"--installed"_s, u"--load"_s, u"90%"_s});
+    RunningApp app(mac, fullSpeed);
+    ASSERT_TRUE(app.waitForPhase("unlocking"));
+    const auto isAtMaximum = [](const json& reading) {
+        return reading["phase"] == "controlling" &&
+               std::ranges::all_of(reading["fans"], [](const json& fan) {
+                   return fan["actualRPM"].get<double>() > 0.98 * fan["maxRPM"].get<double>();
+               });
+    };
+    ASSERT_TRUE(app.waitFor(isAtMaximum));
+    const json& first = app.readings().front();
+    const json& last = app.readings().back();
+    EXPECT_LT(last["cpuMax"].get<double>(), first["cpuMax"].get<double>() - 3);
+    EXPECT_EQ(last["preset"], "Full Speed");
+    EXPECT_EQ(last["isOverriding"], true);
+    EXPECT_EQ(last["requestedPercents"], json({100, 100}));
+    EXPECT_EQ(last["effectiveTargets"],
+              json({last["fans"][0]["maxRPM"], last["fans"][1]["maxRPM"]}));
+
+    app.send(SIGTERM);
+    EXPECT_EQ(app.waitForEnd(3s), 0);
+    FanModes modes(mac);
+    EXPECT_TRUE(modes.areAllSystem());
+    EXPECT_TRUE(waitUntil([&] { return mac.status()["helper"]["pid"].is_null(); }));
+    EXPECT_EQ(mac.status()["helper"]["lastExit"], "exited with status 0");
+}
+
+TEST(MainLoop, ControlsAgainAfterTheHelperWasKilled) {
+    const BootedMac mac(quickMac);
+    RunningApp app(mac, fullSpeed);
+    ASSERT_TRUE(app.waitForPhase("controlling"));
+    ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
+    const auto state = [](const char* name) {
+        return [name](const json& reading) { return reading["helperState"] == name; };
+    };
+    ASSERT_TRUE(app.waitFor(state("unreachable")));
+    ASSERT_TRUE(app.waitFor(state("installed")));
+    FanModes modes(mac);
+    EXPECT_TRUE(waitUntil([&] { return modes.areAllManual(); }));
+    EXPECT_EQ(mac.status()["helper"]["starts"], 2);
+}
+
+TEST(MainLoop, GivesTheFansBackWhenTheApplicationDies) {
+    const BootedMac mac(quickMac);
+    FanModes modes(mac);
+    // The best of three: on a busy computer any process may have to wait for its turn.
+    qint64 fastest = std::numeric_limits<qint64>::max();
+    for (int attempt = 0; attempt < 3 && fastest >= 100; ++attempt) {
+        RunningApp app(mac, fullSpeed);
+        ASSERT_TRUE(waitUntil([&] { return modes.areAllManual(); }));
+        QElapsedTimer timer;
+        timer.start();
+        app.send(SIGKILL);
+        ASSERT_TRUE(waitUntil([&] { return modes.areAllSystem(); }));
+        fastest = std::min(fastest, timer.elapsed());
+    }
+    EXPECT_LT(fastest, 100);
+}
+
+TEST(MainLoop, GivesTheFansBackWhenTheApplicationFreezes) {
+    const BootedMac mac(quickMac);
+    RunningApp app(mac, fullSpeed);
+    FanModes modes(mac);
+    ASSERT_TRUE(waitUntil([&] { return modes.areAllManual(); }));
+    QElapsedTimer timer;
+    timer.start();
+    app.send(SIGSTOP);
+    ASSERT_TRUE(waitUntil([&] { return modes.areAllSystem(); }));
+    // Up to two seconds had passed since its last word.
+    EXPECT_GT(timer.elapsed(), 3500);
+    EXPECT_LT(timer.elapsed(), 6500);
+    app.send(SIGCONT);
+    EXPECT_TRUE(waitUntil([&] { return modes.areAllManual(); })) << "and takes them again after";
+}
+
+TEST(MainLoop, EndsThoughTheHelperIsSilentOrTalksRubbish) {
+    struct Row {
+        QStringList behaviour;
+        const char* helperState;
+    };
+    for (const auto& [behaviour, helperState] : {
+             Row{{u"silent"_s}, "installed"},
+             Row{{u"garbage"_s}, "unreachable"},
+             Row{{u"stop"_s}, "installed"},
+         }) {
+        const BootedMac mac(quickMac);
+        RunningApp app(mac, fullSpeed);
+        FanModes modes(mac);
+        ASSERT_TRUE(waitUntil([&] { return modes.areAllManual(); }));
+        ASSERT_EQ(mac.control(QStringList{u"helper"_s} + behaviour).status, 0);
+        EXPECT_TRUE(app.waitFor([&](const json& reading) {
+            return reading["isOverriding"] == false && reading["helperState"] == helperState;
+        })) << helperState;
+        app.send(SIGTERM);
+        EXPECT_EQ(app.waitForEnd(6500ms), 0) << "at most twice the time-out";
+        mac.control({u"helper"_s, u"continue"_s});
+        EXPECT_TRUE(waitUntil([&] { return modes.areAllSystem(); }));
+    }
+}
+
+TEST(MainLoop, GoesOnWithoutHelperFansOrSMC) {
+    const BootedMac mac({u"--profile"_s, u"fanless"_s});
+    RunningApp app(mac, {});
+    ASSERT_TRUE(app.waitFor([](const json& reading) {
+        return reading["fans"].empty() && reading["cpuMax"].get<double>() > 20 &&
+               reading["helperState"] == "notInstalled" && reading["phase"].is_null() &&
+               reading["preset"].is_null();
+    }));
+    mac.control({u"service"_s, u"none"_s});
+    RunningApp blind(mac, {});
+    EXPECT_FALSE(blind.waitFor([](const json&) { return true; }, 500ms));
+    blind.send(SIGINT);
+    EXPECT_EQ(blind.waitForEnd(2s), 0);
+}
+
+TEST(SingleInstance, TheNewestCopyWins) {
+    const BootedMac mac(quickMac);
+    const auto any = [](const json&) { return true; };
+    RunningApp first(mac, fullSpeed);
+    ASSERT_TRUE(first.waitForPhase("controlling"));
+    RunningApp second(mac, fullSpeed);
+    EXPECT_EQ(first.waitForEnd(2s), 0);
+    ASSERT_TRUE(second.waitForPhase("controlling"));
+
+    // One that does not listen is made to, after two seconds.
+    second.send(SIGSTOP);
+    QElapsedTimer timer;
+    timer.start();
+    RunningApp third(mac, fullSpeed);
+    EXPECT_EQ(second.waitForEnd(5s), -1);
+    EXPECT_GT(timer.elapsed(), 1900);
+    EXPECT_TRUE(third.waitFor(any));
+
+    // A copy in another Mac is none of its business, nor is one that only dumps.
+    const BootedMac otherMac(quickMac);
+    RunningApp other(otherMac, {});
+    ASSERT_TRUE(other.waitFor(any));
+    RunningApp dump(mac, {u"-DumpSMCKeys"_s});
+    EXPECT_EQ(dump.waitForEnd(5s), 0);
+    EXPECT_TRUE(third.waitFor(any));
+}
+
+TEST(CommandLine, SaysWhatItCannotDo) {
+    const auto run = [](const QStringList& arguments) {
+        return runProgram(QStringLiteral(KESTROWIND_APPLICATION), arguments);
+    };
+    EXPECT_EQ(run({u"-PrintReadings"_s}).status, 2);
+    EXPECT_THAT(run({u"-PrintReadings"_s, u"xml"_s}).errors, HasSubstr("needs text or json"));
+    EXPECT_THAT(run({u"-help"_s}).output, HasSubstr("-ActivatePreset NAME"));
+    const Outcome dump = run({u"-DumpSMCKeys"_s, u"-ActivatePreset"_s});
+    EXPECT_EQ(dump.status, 0);
+    EXPECT_THAT(dump.output,
+                HasSubstr("FATAL: could not open the SMC: AppleSMC service not found"));
+}
+
+} // namespace
+} // namespace kestrowind
