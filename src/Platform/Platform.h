@@ -3,6 +3,7 @@
 #include "Platform/AdminScriptRunner.h"
 #include "Platform/HelperConnection.h"
 #include "Platform/RunningApplications.h"
+#include "Platform/SystemAppearance.h"
 #include "Platform/SystemInformation.h"
 #include "Platform/UserDefaults.h"
 #include "Shared/SMCKit/SMCUserClient.h"
@@ -20,6 +21,8 @@ struct Platform {
     std::unique_ptr<AdminScriptRunner> scriptRunner;
     HelperConnectionFactory helperConnection;
     SMCUserClientFactory smc;
+    /// Called when there is something to show: a run without windows asks nobody for a colour scheme.
+    SystemAppearanceFactory systemAppearance;
 };
 
 /// The platform that this program was built for. `arguments` without the program's name.

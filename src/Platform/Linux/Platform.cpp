@@ -3,6 +3,7 @@
 #include "Platform/Linux/HelperBus.h"
 #include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Linux/LinuxSystemInformation.h"
+#include "Platform/Linux/PortalAppearance.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
 
@@ -50,6 +51,9 @@ Platform makePlatform(const QStringList& arguments) {
             return std::make_unique<HelperBus>(machServiceName);
         },
         .smc = machineSMC(),
+        .systemAppearance = []() -> std::unique_ptr<SystemAppearance> {
+            return std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
+        },
     };
 }
 

@@ -1,0 +1,45 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrowind.DesignSystem
+
+// A symbol alone; its text is what a screen reader says and the tooltip shows.
+T.Button {
+    id: root
+
+    required property string symbolName
+    property real symbolSize: 18
+    property color color: AppColors.secondaryText
+    property string toolTip: text
+
+    padding: 6
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.45
+    Accessible.name: text
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    background: Rectangle {
+        radius: Radius.control
+        color: root.down ? AppColors.pressedFill : AppColors.hoverFill
+        opacity: 1
+        visible: root.down || root.hovered || root.visualFocus
+
+        FocusRing { shown: root.visualFocus; gap: 0 }
+    }
+
+    contentItem: Item {
+        implicitWidth: root.symbolSize
+        implicitHeight: root.symbolSize
+
+        Symbol {
+            anchors.centerIn: parent
+            name: root.symbolName
+            size: root.symbolSize
+            color: root.hovered || root.down ? AppColors.primaryText : root.color
+        }
+    }
+
+    Tooltip { text: root.toolTip; shown: root.hovered }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrowind.DesignSystem
+
+// Prominent is the one that a screen wants to be pressed.
+T.Button {
+    id: root
+
+    property bool prominent: false
+    property string symbolName
+    property string toolTip
+
+    font: prominent ? Typography.weighted(Typography.body, Font.Medium) : Typography.body
+    leftPadding: 14
+    rightPadding: 14
+    topPadding: 4
+    bottomPadding: 4
+    implicitWidth: Math.max(64, implicitContentWidth + leftPadding + rightPadding)
+    implicitHeight: Math.max(28, implicitContentHeight + topPadding + bottomPadding)
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.45
+    Accessible.name: text
+    Accessible.description: toolTip
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    background: ControlBackground {
+        prominent: root.prominent
+        hovered: root.hovered
+        pressed: root.down
+
+        FocusRing { shown: root.visualFocus }
+    }
+
+    contentItem: Item {
+        implicitWidth: label.implicitWidth
+        implicitHeight: label.implicitHeight
+
+        SymbolLabel {
+            id: label
+
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width)
+            text: root.text
+            symbolName: root.symbolName
+            font: root.font
+            color: root.prominent ? AppColors.onAccent : AppColors.primaryText
+        }
+    }
+
+    Tooltip { text: root.toolTip; shown: root.hovered }
+}

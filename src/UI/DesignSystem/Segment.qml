@@ -1,0 +1,36 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+// One choice of a SegmentedPicker.
+Item {
+    id: root
+
+    required property int index
+    required property string title
+    required property string symbolName
+    required property bool isCurrent
+    property real padding: 14
+
+    signal chosen()
+
+    width: label.implicitWidth + 2 * padding
+    height: 26
+    Accessible.role: Accessible.PageTab
+    Accessible.name: title
+    Accessible.selectable: true
+    Accessible.selected: isCurrent
+    Accessible.onPressAction: chosen()
+
+    SymbolLabel {
+        id: label
+
+        anchors.centerIn: parent
+        text: root.title
+        symbolName: root.symbolName
+        font: Typography.weighted(Typography.body, Font.Medium)
+        color: root.isCurrent || hover.hovered ? AppColors.primaryText : AppColors.secondaryText
+    }
+
+    HoverHandler { id: hover; enabled: root.enabled }
+    TapHandler { onTapped: root.chosen() }
+}

@@ -1,0 +1,7 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+Rectangle {
+    implicitHeight: 1
+    color: AppColors.separator
+}

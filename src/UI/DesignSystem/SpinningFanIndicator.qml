@@ -1,0 +1,7 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+// Something is being done; set diameter and revolutionsPerSecond.
+SpinningFanBlades {
+    fill: SpinningFanBlades.Accent
+}
