@@ -41,6 +41,22 @@
     <message id="mainWindow.presetBar.hardwareFailure">
         <translation>The fans could not be controlled</translation>
     </message>
+    <message id="shared.fan.left">
+        <translation>Left fan</translation>
+    </message>
+    <message id="shared.fan.right">
+        <translation>Right fan</translation>
+    </message>
+    <message id="shared.fan.numbered">
+        <extracomment>%1: the fan's number, from 1</extracomment>
+        <translation>Fan %1</translation>
+    </message>
+    <message id="shared.mode.automatic">
+        <translation>Automatic</translation>
+    </message>
+    <message id="app.window.mainTitle">
+        <translation>Kestrowind</translation>
+    </message>
     <message id="shared.mode.startingBoost">
         <translation>Taking control of the fans…</translation>
     </message>

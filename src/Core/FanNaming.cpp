@@ -1,0 +1,13 @@
+#include "Core/FanNaming.h"
+
+#include "Core/LocalizedText.h"
+
+namespace kestrowind {
+
+QString sharedFanName(int forIndex, int totalFanCount) {
+    if (totalFanCount == 2 && (forIndex == 0 || forIndex == 1))
+        return localized(forIndex == 0 ? "shared.fan.left" : "shared.fan.right");
+    return localized("shared.fan.numbered").arg(forIndex + 1);
+}
+
+} // namespace kestrowind
