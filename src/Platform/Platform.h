@@ -21,7 +21,8 @@ struct Platform {
     std::unique_ptr<AdminScriptRunner> scriptRunner;
     HelperConnectionFactory helperConnection;
     SMCUserClientFactory smc;
-    /// Called when there is something to show: a run without windows asks nobody for a colour scheme.
+    /// Called when there is something to show: a run without windows asks nobody for a colour
+    /// scheme.
     SystemAppearanceFactory systemAppearance;
 };
 
