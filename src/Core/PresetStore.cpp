@@ -42,7 +42,8 @@ QList<FanPreset> PresetStore::loadUserPresets() {
     if (!info.exists() && !info.isSymLink())
         return {};
     QFile file(m_filePath);
-    if (!file.open(QIODevice::ReadOnly)) {
+    // Opening anything but a file could wait, or read, without end.
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
         qCDebug(presetsLog) << "cannot read" << m_filePath << file.errorString();
         m_hasUnreadableFile = true;
         return {};

@@ -11,6 +11,36 @@
 namespace kestrowind {
 
 using namespace Qt::StringLiterals;
+namespace {
+
+/// Refuses every call once its thread is told to end: a machine that answers late, or never, would
+/// otherwise hold up that end for each of the many calls of a tick.
+class InterruptibleUserClient final : public SMCUserClient {
+public:
+    explicit InterruptibleUserClient(std::shared_ptr<SMCUserClient> client)
+        : m_client(std::move(client)) {}
+
+    std::uint32_t matchingService(std::string_view className) override {
+        return isInterrupted() ? 0 : m_client->matchingService(className);
+    }
+    void releaseService(std::uint32_t service) override { m_client->releaseService(service); }
+    Opened open(std::uint32_t service, std::uint32_t connectionType) override {
+        return m_client->open(service, connectionType);
+    }
+    void close(std::uint32_t connection) override { m_client->close(connection); }
+    std::int32_t callStructMethod(std::uint32_t connection, std::uint32_t selector,
+                                  const SMCParamStruct& input, SMCParamStruct& output) override {
+        return isInterrupted() ? -1
+                               : m_client->callStructMethod(connection, selector, input, output);
+    }
+
+    static bool isInterrupted() { return QThread::currentThread()->isInterruptionRequested(); }
+
+private:
+    std::shared_ptr<SMCUserClient> m_client;
+};
+
+} // namespace
 
 /// Everything that lives on the sampler's thread; nothing here is touched from elsewhere.
 class TelemetrySampler::Ticker final : public QObject {
@@ -33,7 +63,8 @@ private:
     void openOnce() {
         if (m_smc)
             return;
-        auto opened = SMCConnection::open(m_makeUserClient());
+        auto opened =
+            SMCConnection::open(std::make_shared<InterruptibleUserClient>(m_makeUserClient()));
         if (!opened)
             return;
         m_smc = std::move(*opened);
@@ -48,7 +79,8 @@ private:
         sample.temperatures = m_sensors->snapshot();
         if (auto fans = m_smc->readAllFans())
             sample.fans = std::move(*fans);
-        m_onSample(sample);
+        if (!InterruptibleUserClient::isInterrupted())
+            m_onSample(sample);
     }
 
     SMCUserClientFactory m_makeUserClient;
@@ -67,6 +99,7 @@ TelemetrySampler::TelemetrySampler(SMCUserClientFactory makeUserClient)
 }
 
 TelemetrySampler::~TelemetrySampler() {
+    m_queue.requestInterruption();
     m_queue.quit();
     m_queue.wait();
 }

@@ -14,7 +14,8 @@ namespace kestrowind {
 /// finds the sensors, and then takes a sample at once and at every interval.
 ///
 /// Failures are silent: an SMC that cannot be opened gives no samples, fans that cannot be read
-/// give samples without fans. There is no stop; destroying the sampler ends its thread.
+/// give samples without fans. There is no stop; destroying the sampler ends its thread, and
+/// waits for no more than the call to the SMC that is under way.
 class TelemetrySampler final {
 public:
     /// Called on the sampler's thread, once a tick.

@@ -15,8 +15,6 @@ KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& 
     , m_appState(m_platform)
     , m_delegate(m_platform) {
     m_platform.userDefaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
-    connect(&m_terminationSignals, &TerminationSignals::terminationRequested, this,
-            &KestrowindApp::terminate);
     connect(&m_delegate, &AppDelegate::replyToShouldTerminate, this,
             [] { QCoreApplication::exit(); });
     if (options.readings) {
@@ -30,6 +28,10 @@ KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& 
 KestrowindApp::~KestrowindApp() = default;
 
 int KestrowindApp::run() {
+    // Only from here on is there a loop that hears of them; a dump simply ends.
+    m_terminationSignals.emplace();
+    connect(&*m_terminationSignals, &TerminationSignals::terminationRequested, this,
+            &KestrowindApp::terminate);
     m_delegate.setAppState(&m_appState);
     m_delegate.applicationDidFinishLaunching();
     return QCoreApplication::exec();

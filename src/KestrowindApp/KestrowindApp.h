@@ -10,6 +10,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 namespace kestrowind {
 
@@ -36,7 +37,7 @@ private:
     Platform m_platform;
     AppState m_appState;
     AppDelegate m_delegate;
-    TerminationSignals m_terminationSignals;
+    std::optional<TerminationSignals> m_terminationSignals;
     std::unique_ptr<ReadingsPrinter> m_readingsPrinter;
 };
 

@@ -9,6 +9,8 @@
 
 #include <cmath>
 #include <cstdio>
+#include <poll.h>
+#include <unistd.h>
 
 namespace kestrowind {
 namespace {
@@ -43,6 +45,12 @@ Json fanReadings(const TelemetrySample& sample) {
                         {"mode", orNull(fan.modeRaw)}});
     }
     return fans;
+}
+
+/// False while whoever reads the lines is behind, or a terminal is held: the fans do not wait.
+bool outputTakesALine() {
+    pollfd output{.fd = STDOUT_FILENO, .events = POLLOUT, .revents = 0};
+    return ::poll(&output, 1, 0) != 0;
 }
 
 } // namespace
@@ -100,6 +108,8 @@ std::string ReadingsPrinter::text(const AppState& appState, const TelemetrySampl
 }
 
 void ReadingsPrinter::print(const TelemetrySample& sample) {
+    if (!outputTakesALine())
+        return;
     const std::string line =
         (m_format == ReadingsFormat::json ? json(m_appState, sample) : text(m_appState, sample)) +
         '\n';

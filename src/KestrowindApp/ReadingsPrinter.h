@@ -12,7 +12,7 @@ namespace kestrowind {
 class AppState;
 
 /// Writes each sample, with what the engine and the helper make of it, as one line to standard
-/// output. Runs after the engine has seen the sample.
+/// output. Runs after the engine has seen the sample. A line that would have to wait is left out.
 class ReadingsPrinter final : public QObject {
     Q_OBJECT
 

@@ -7,10 +7,28 @@
 
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+/// A standard descriptor that was closed would be the next socket's or file's number, and what is
+/// written for people would go there. Held open for reading, it refuses every write instead.
+void holdStandardDescriptors() {
+    int descriptor = -1;
+    do {
+        descriptor = ::open("/dev/null", O_RDONLY);
+    } while (descriptor >= 0 && descriptor <= STDERR_FILENO);
+    if (descriptor >= 0)
+        ::close(descriptor);
+}
+
+} // namespace
 
 int main(int argc, char* argv[]) {
     using namespace kestrowind;
 
+    holdStandardDescriptors();
     // A reader of our output that goes away is told apart by the write, not by sudden death.
     std::signal(SIGPIPE, SIG_IGN);
     QCoreApplication application(argc, argv);

@@ -12,7 +12,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 QString decodedError(const QByteArray& standardError) {
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(standardError);
     return decoder.hasError() ? u"unknown error"_s : text.trimmed();
 }

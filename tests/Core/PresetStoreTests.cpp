@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 #include <limits>
 #include <unistd.h>
 
@@ -153,6 +155,13 @@ TEST_F(PresetStoreTest, SurvivesAFolderInTheFilesPlace) {
     ASSERT_TRUE(makeStore()->addPreset(u"New"_s));
     EXPECT_EQ(makeStore()->presets().size(), 3);
     EXPECT_TRUE(QDir(file() + u".unreadable"_s).exists());
+}
+
+TEST_F(PresetStoreTest, WaitsForNobodyToFillAPipeInTheFilesPlace) {
+    QDir().mkpath(QFileInfo(file()).absolutePath());
+    ASSERT_EQ(::mkfifo(QFile::encodeName(file()).constData(), 0600), 0);
+    ASSERT_TRUE(makeStore()->addPreset(u"New"_s));
+    EXPECT_EQ(makeStore()->presets().size(), 3);
 }
 
 TEST_F(PresetStoreTest, KeepsTheOldFileWhenTheNewOneCannotBeWritten) {

@@ -155,6 +155,20 @@ TEST(TelemetrySampler, DeliversNothingWithoutAnSMC) {
     EXPECT_EQ(smc->openConnections(), 0U);
 }
 
+TEST(TelemetrySampler, EndsInTheMiddleOfATickThatASlowMachineDrawsOut) {
+    const auto smc = makeMachine();
+    std::atomic<int> calls = 0;
+    smc->setCallObserver([&](const SMCParamStruct&) {
+        ++calls;
+        QThread::msleep(200);
+    });
+    auto sampler = std::make_unique<TelemetrySampler>([&] { return smc; });
+    sampler->start(1h, [](const TelemetrySample&) {});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return calls > 0; }));
+    sampler.reset();
+    EXPECT_LE(calls, 2);
+}
+
 TEST(TelemetrySampler, KeepsTemperaturesWhenAFanFailsAndDatesSamplesBeforeReading) {
     const auto smc = makeMachine();
     smc->removeKey("F0Mx");

@@ -125,8 +125,11 @@ TEST(ProcessScriptRunner, ReportsHowTheRunnerEnded) {
               (ScriptOutcome{Kind::succeeded, {}}));
     EXPECT_EQ(outcomeOf("echo out; echo ' it failed ' >&2; exit 3"),
               (ScriptOutcome{Kind::failed, u"it failed"_s}));
-    EXPECT_EQ(outcomeOf("printf '\\377' >&2; exit 1"),
-              (ScriptOutcome{Kind::failed, u"unknown error"_s}));
+    // No UTF-8, and UTF-8 cut short.
+    for (const char* text : {"\\377", "no \\303"}) {
+        EXPECT_EQ(outcomeOf("printf '" + QByteArray(text) + "' >&2; exit 1"),
+                  (ScriptOutcome{Kind::failed, u"unknown error"_s}));
+    }
     EXPECT_EQ(outcomeOf("kill -9 $$").kind, Kind::failed);
     auto missing = ProcessScriptRunner(home.path(u"missing"_s)).run({});
     EXPECT_TRUE(QTest::qWaitFor([&] { return missing.isFinished(); }));
