@@ -10,8 +10,8 @@ Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 int main(int argc, char* argv[]) {
     testing::InitGoogleMock(&argc, argv);
     // CTest lists the cases outside of their environment.
-    for (const auto& [name, value] : {std::pair("QT_QPA_PLATFORM", "offscreen"),
-                                      std::pair("QT_QUICK_BACKEND", "software")}) {
+    for (const auto& [name, value] :
+         {std::pair("QT_QPA_PLATFORM", "offscreen"), std::pair("QT_QUICK_BACKEND", "software")}) {
         if (!qEnvironmentVariableIsSet(name))
             qputenv(name, value);
     }
