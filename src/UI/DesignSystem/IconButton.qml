@@ -17,8 +17,8 @@ T.Button {
     hoverEnabled: true
     opacity: enabled ? 1 : 0.45
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     background: Rectangle {
         radius: Radius.control

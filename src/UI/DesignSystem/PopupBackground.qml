@@ -14,14 +14,19 @@ Rectangle {
         model: 5
 
         Rectangle {
+            id: halo
+
             required property int index
 
             z: -1
-            x: -index
-            y: -index + 3
-            width: root.width + 2 * index
-            height: root.height + 2 * index
-            radius: root.radius + index
+            x: -halo.index
+            y: -halo.index + 3
+            // The delegate lives inside its root: Qt 6.4 has no way to say so to the linter.
+            // qmllint disable unqualified
+            width: root.width + 2 * halo.index
+            height: root.height + 2 * halo.index
+            radius: root.radius + halo.index
+            // qmllint enable unqualified
             color: Qt.alpha("black", AppColors.isDark ? 0.06 : 0.025)
         }
     }

@@ -11,15 +11,13 @@ T.MenuItem {
     rightPadding: 12
     topPadding: 5
     bottomPadding: 3
-    implicitWidth: label.implicitWidth + leftPadding + rightPadding
-    implicitHeight: label.implicitHeight + topPadding + bottomPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     width: menu ? menu.availableWidth : implicitWidth
     Accessible.role: Accessible.Heading
     Accessible.name: text
 
     contentItem: Text {
-        id: label
-
         text: root.text
         textFormat: Text.PlainText
         font: Typography.weighted(Typography.caption, Font.DemiBold)

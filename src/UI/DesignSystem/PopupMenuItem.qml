@@ -19,8 +19,8 @@ T.MenuItem {
     rightPadding: 12
     topPadding: 4
     bottomPadding: 4
-    implicitWidth: label.implicitWidth + leftPadding + rightPadding
-    implicitHeight: label.implicitHeight + topPadding + bottomPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     width: menu ? menu.availableWidth : implicitWidth
     opacity: enabled ? 1 : 0.45
     Accessible.name: text
@@ -32,8 +32,6 @@ T.MenuItem {
     }
 
     contentItem: SymbolLabel {
-        id: label
-
         text: root.text
         symbolName: root.symbolName
         font: root.font

@@ -21,8 +21,8 @@ T.Button {
     opacity: enabled ? 1 : 0.45
     Accessible.name: text
     Accessible.description: toolTip
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     background: ControlBackground {
         prominent: root.prominent
@@ -32,20 +32,12 @@ T.Button {
         FocusRing { shown: root.visualFocus }
     }
 
-    contentItem: Item {
-        implicitWidth: label.implicitWidth
-        implicitHeight: label.implicitHeight
-
-        SymbolLabel {
-            id: label
-
-            anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width)
-            text: root.text
-            symbolName: root.symbolName
-            font: root.font
-            color: root.prominent ? AppColors.onAccent : AppColors.primaryText
-        }
+    contentItem: SymbolLabel {
+        centered: true
+        text: root.text
+        symbolName: root.symbolName
+        font: root.font
+        color: root.prominent ? AppColors.onAccent : AppColors.primaryText
     }
 
     Tooltip { text: root.toolTip; shown: root.hovered }

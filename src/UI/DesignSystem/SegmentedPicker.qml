@@ -62,9 +62,14 @@ FocusScope {
             id: segments
 
             delegate: Segment {
+                id: segment
+
+                // The delegate lives inside its root: Qt 6.4 has no way to say so to the linter.
+                // qmllint disable unqualified
                 padding: root.segmentPadding
-                isCurrent: index === root.currentIndex
-                onChosen: root.selected(index)
+                isCurrent: segment.index === root.currentIndex
+                onChosen: root.selected(segment.index)
+                // qmllint enable unqualified
             }
         }
     }

@@ -17,46 +17,32 @@ T.Slider {
     opacity: enabled ? 1 : 0.45
     Accessible.name: label
 
-    background: Item {
+    readonly property real knobSize: 18
+    // Springs to a step and follows a drag; knob and filling move together.
+    property real knobPosition: visualPosition
+
+    Behavior on knobPosition {
+        enabled: !root.pressed
+        SpringMotion { timing: Springs.hover }
+    }
+
+    background: SliderTrack {
         x: root.leftPadding
         y: root.topPadding
         width: root.availableWidth
         height: root.availableHeight
-
-        Rectangle {
-            id: track
-
-            y: Math.round((parent.height - height) / 2)
-            width: parent.width
-            height: 4
-            radius: 2
-            color: AppColors.track
-        }
-
-        Rectangle {
-            y: track.y
-            width: root.position > 0 ? knob.x + knob.implicitWidth / 2 - root.leftPadding : 0
-            height: 4
-            radius: 2
-            gradient: Gradient {
-                orientation: Gradient.Horizontal
-                GradientStop { position: 0; color: root.startColor }
-                GradientStop { position: 1; color: root.endColor }
-            }
-        }
+        filledWidth: root.knobPosition > 0 ? root.knobPosition * (root.availableWidth - root.knobSize)
+                                             + root.knobSize / 2 : 0
+        startColor: root.startColor
+        endColor: root.endColor
     }
 
     handle: SliderKnob {
-        id: knob
-
-        x: root.leftPadding + root.visualPosition * (root.availableWidth - width)
+        x: root.leftPadding + root.knobPosition * (root.availableWidth - width)
         y: root.topPadding + (root.availableHeight - height) / 2
+        width: root.knobSize
+        height: root.knobSize
         pressed: root.pressed
         focused: root.visualFocus
-
-        Behavior on x {
-            enabled: !root.pressed
-            SpringMotion { timing: Springs.hover }
-        }
     }
 }

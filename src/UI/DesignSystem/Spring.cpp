@@ -9,7 +9,9 @@ namespace kestrowind {
 namespace {
 
 constexpr double settledWithin = 0.001;
-constexpr int easingSegments = 24;
+/// Qt's spline has room for ten segments and writes past its end with more; they are short at the
+/// start, where a spring moves most.
+constexpr int easingSegments = 10;
 
 } // namespace
 
@@ -49,17 +51,20 @@ double Spring::settlingTime() const {
 
 QEasingCurve Spring::easingCurve() const {
     const double duration = settlingTime();
-    const double width = 1.0 / easingSegments;
+    const auto border = [](int segment) {
+        return std::pow(static_cast<double>(segment) / easingSegments, 1.75);
+    };
     QEasingCurve curve(QEasingCurve::BezierSpline);
     for (int segment = 0; segment < easingSegments; ++segment) {
-        const double start = segment * width;
-        const double end = segment + 1 == easingSegments ? 1.0 : start + width;
+        const double start = border(segment);
+        const double end = border(segment + 1);
         const double target = segment + 1 == easingSegments ? 1.0 : position(end * duration);
         // Control points a third along on the tangents make the cubic a Hermite one.
-        const double rise = duration * width / 3;
+        const double third = (end - start) / 3;
         curve.addCubicBezierSegment(
-            {start + width / 3, position(start * duration) + velocity(start * duration) * rise},
-            {end - width / 3, target - velocity(end * duration) * rise}, {end, target});
+            {start + third,
+             position(start * duration) + velocity(start * duration) * duration * third},
+            {end - third, target - velocity(end * duration) * duration * third}, {end, target});
     }
     return curve;
 }

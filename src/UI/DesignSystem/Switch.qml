@@ -13,8 +13,14 @@ T.Switch {
     hoverEnabled: true
     opacity: enabled ? 1 : 0.45
     Accessible.name: label
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: flip()
+    Keys.onEnterPressed: flip()
+
+    // As the space bar does.
+    function flip() {
+        toggle()
+        toggled()
+    }
 
     indicator: Rectangle {
         width: root.width

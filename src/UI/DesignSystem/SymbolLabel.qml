@@ -13,30 +13,38 @@ Item {
     property real symbolSize: Math.round(font.pixelSize * 1.3)
     property real spacing: 6
 
+    property bool centered: false
+
     readonly property bool hasSymbol: symbolName.length > 0
     readonly property real textLeft: hasSymbol ? symbolSize + (text.length > 0 ? spacing : 0) : 0
 
     implicitWidth: textLeft + label.implicitWidth
     implicitHeight: Math.max(label.implicitHeight, hasSymbol ? symbolSize : 0)
 
-    Symbol {
-        visible: root.hasSymbol
-        y: Math.round((root.height - height) / 2)
-        name: root.symbolName
-        size: root.symbolSize
-        color: root.symbolColor
-    }
+    Item {
+        anchors.horizontalCenter: root.centered ? parent.horizontalCenter : undefined
+        width: label.x + label.width
+        height: parent.height
 
-    Text {
-        id: label
+        Symbol {
+            visible: root.hasSymbol
+            y: Math.round((root.height - height) / 2)
+            name: root.symbolName
+            size: root.symbolSize
+            color: root.symbolColor
+        }
 
-        x: root.textLeft
-        y: Math.round((root.height - height) / 2)
-        width: Math.min(implicitWidth, root.width - root.textLeft)
-        text: root.text
-        textFormat: Text.PlainText
-        font: root.font
-        color: root.color
-        elide: Text.ElideRight
+        Text {
+            id: label
+
+            x: root.textLeft
+            y: Math.round((root.height - height) / 2)
+            width: Math.min(implicitWidth, root.width - root.textLeft)
+            text: root.text
+            textFormat: Text.PlainText
+            font: root.font
+            color: root.color
+            elide: Text.ElideRight
+        }
     }
 }

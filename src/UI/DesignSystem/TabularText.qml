@@ -31,16 +31,21 @@ Item {
             model: root.text.length
 
             Text {
-                required property int index
-                readonly property string character: root.text.charAt(index)
+                id: cell
 
-                width: character >= "0" && character <= "9" ? Typography.digitWidth(root.font)
-                                                            : implicitWidth
-                horizontalAlignment: Text.AlignHCenter
-                text: character
-                textFormat: Text.PlainText
+                required property int index
+                // The delegate lives inside its root: Qt 6.4 has no way to say so to the linter.
+                // qmllint disable unqualified
+                readonly property string character: root.text.charAt(cell.index)
+
                 font: root.font
                 color: root.color
+                // qmllint enable unqualified
+                width: cell.character >= "0" && cell.character <= "9" ? Typography.digitWidth(cell.font)
+                                                                      : implicitWidth
+                horizontalAlignment: Text.AlignHCenter
+                text: cell.character
+                textFormat: Text.PlainText
                 Accessible.ignored: true
             }
         }

@@ -16,8 +16,8 @@ T.Button {
     hoverEnabled: true
     opacity: !enabled ? 0.45 : down ? 0.6 : 1
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
 
     background: FocusRing { anchors.fill: undefined; shown: root.visualFocus; gap: 0; cornerRadius: Radius.small }
 

@@ -1,5 +1,6 @@
-// Shows the design system, or writes pictures of it: --grab FILE [--dark] [--software].
-// The scale comes from QT_SCALE_FACTOR.
+// Shows the design system, or another page of QML, or writes a picture of it:
+// [--dark] [--grab FILE] [PAGE]
+// The scale comes from QT_SCALE_FACTOR, the renderer from QT_QUICK_BACKEND.
 #include "UI/DesignSystem/SceneAppearance.h"
 
 #include <QCommandLineParser>
@@ -27,7 +28,9 @@ int main(int argc, char* argv[]) {
     engine.addImportPath(u"qrc:/qt/qml"_s);
     SceneAppearance::of(engine).setForcedScheme(parser.isSet(dark) ? ColorScheme::dark
                                                                    : ColorScheme::light);
-    engine.load(QUrl(u"qrc:/gallery/Gallery.qml"_s));
+    const QStringList pages = parser.positionalArguments();
+    engine.load(pages.isEmpty() ? QUrl(u"qrc:/gallery/Gallery.qml"_s)
+                                : QUrl::fromLocalFile(pages.constFirst()));
     if (engine.rootObjects().isEmpty())
         return 1;
 

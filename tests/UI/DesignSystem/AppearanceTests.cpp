@@ -1,0 +1,93 @@
+#include "UI/DesignSystem/Scene.h"
+
+#include "Platform/Linux/PortalAppearance.h"
+#include "UI/DesignSystem/Palette.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <gmock/gmock.h>
+
+namespace kestrowind {
+namespace {
+
+class SystemAppearanceFake final : public SystemAppearance {
+public:
+    [[nodiscard]] std::optional<ColorScheme> colorScheme() const override { return m_scheme; }
+    void set(std::optional<ColorScheme> scheme) {
+        m_scheme = scheme;
+        Q_EMIT colorSchemeChanged();
+    }
+
+private:
+    std::optional<ColorScheme> m_scheme;
+};
+
+void setApplicationBackground(const QColor& color) {
+    QPalette palette = QGuiApplication::palette();
+    palette.setColor(QPalette::Window, color);
+    QGuiApplication::setPalette(palette);
+    QCoreApplication::processEvents();
+}
+
+TEST(SceneAppearanceTests, ForcedBeatsTheSystemWhichBeatsThePalette) {
+    setApplicationBackground(Qt::white);
+    QQmlEngine engine;
+    SceneAppearance& appearance = SceneAppearance::of(engine);
+    EXPECT_EQ(&appearance, &SceneAppearance::of(engine));
+    int changes = 0;
+    QObject::connect(&appearance, &SceneAppearance::colorSchemeChanged, [&] { ++changes; });
+    EXPECT_FALSE(appearance.isDark());
+
+    setApplicationBackground(Qt::black);
+    EXPECT_TRUE(appearance.isDark());
+    EXPECT_EQ(changes, 1);
+
+    auto system = std::make_unique<SystemAppearanceFake>();
+    appearance.setSystemAppearance(system.get());
+    EXPECT_TRUE(appearance.isDark()) << "a system without a preference decides nothing";
+    system->set(ColorScheme::light);
+    EXPECT_FALSE(appearance.isDark());
+    EXPECT_EQ(changes, 2);
+    system->set(ColorScheme::light);
+    EXPECT_EQ(changes, 2);
+
+    appearance.setForcedScheme(ColorScheme::dark);
+    EXPECT_TRUE(appearance.isDark());
+    appearance.setForcedScheme(std::nullopt);
+    EXPECT_FALSE(appearance.isDark());
+
+    system.reset();
+    appearance.setForcedScheme(std::nullopt);
+    EXPECT_TRUE(appearance.isDark()) << "without the system the palette is asked again";
+    setApplicationBackground(Qt::white);
+}
+
+TEST(SceneAppearanceTests, BindingsFollowTheSceneAndOtherScenesDoNot) {
+    const QByteArray body = "Rectangle { color: AppColors.temperatureColor(67.5)\n"
+                            "  property color text: AppColors.tertiaryText }";
+    Scene first(body);
+    Scene second(body);
+    first.appearance().setForcedScheme(ColorScheme::light);
+    second.appearance().setForcedScheme(ColorScheme::light);
+    first.appearance().setForcedScheme(ColorScheme::dark);
+
+    const auto colors = [](Scene& scene) {
+        return std::pair(scene.item().property("color").value<QColor>(),
+                         scene.item().property("text").value<QColor>());
+    };
+    const auto expected = [](ColorScheme scheme) {
+        return std::pair(Palette::temperatureColor(67.5, scheme),
+                         Palette::color(Palette::Role::tertiaryText, scheme));
+    };
+    EXPECT_EQ(colors(first), expected(ColorScheme::dark));
+    EXPECT_EQ(colors(second), expected(ColorScheme::light));
+}
+
+TEST(PortalAppearanceTests, ABusThatCannotBeReachedLeavesTheSchemeAbsent) {
+    const PortalAppearance appearance(QDBusConnection(QStringLiteral("no such connection")));
+    EXPECT_EQ(appearance.colorScheme(), std::nullopt);
+}
+
+} // namespace
+} // namespace kestrowind

@@ -1,0 +1,112 @@
+#include "UI/DesignSystem/Scene.h"
+
+#include <QAccessible>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace kestrowind {
+namespace {
+
+class Shown : public Scene {
+public:
+    explicit Shown(const QByteArray& body)
+        : Scene(body) {
+        static_cast<void>(QTest::qWaitForWindowExposed(&window()));
+        window().requestActivate();
+        static_cast<void>(QTest::qWaitForWindowActive(&window()));
+        item().forceActiveFocus(Qt::TabFocusReason);
+    }
+    void press(Qt::Key key) { QTest::keyClick(&window(), key); }
+    void click(const QPoint& point) {
+        QTest::mouseClick(&window(), Qt::LeftButton, Qt::NoModifier, point);
+    }
+};
+
+TEST(ControlTests, ButtonsAreClickedBySpaceReturnAndPointerUnlessDisabled) {
+    for (const QByteArray& body : {QByteArray("PushButton { text: 'Install' }"),
+                                   QByteArray("IconButton { text: 'Install'; symbolName: 'plus' }"),
+                                   QByteArray("TextLink { text: 'Install' }")}) {
+        Shown scene(body);
+        QSignalSpy clicked(&scene.item(), SIGNAL(clicked()));
+        scene.press(Qt::Key_Space);
+        scene.press(Qt::Key_Return);
+        scene.click({10, 10});
+        EXPECT_EQ(clicked.count(), 3) << body.toStdString();
+        scene.item().setEnabled(false);
+        scene.click({10, 10});
+        EXPECT_EQ(clicked.count(), 3) << body.toStdString();
+
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&scene.item());
+        ASSERT_NE(spoken, nullptr);
+        EXPECT_EQ(spoken->role(), QAccessible::Button) << body.toStdString();
+        EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Install")) << body.toStdString();
+    }
+}
+
+TEST(ControlTests, ASliderMovesByItsStepWithTheKeysAndSnapsWhileDragged) {
+    Shown scene("Slider { label: 'Boost'; from: 0; to: 100; stepSize: 5; width: 218; value: 40 }");
+    const auto value = [&] { return scene.item().property("value").toDouble(); };
+    scene.press(Qt::Key_Right);
+    EXPECT_EQ(value(), 45);
+    scene.press(Qt::Key_Left);
+    scene.press(Qt::Key_Left);
+    EXPECT_EQ(value(), 35);
+
+    // 18 points of knob in 218: 2 points a percent.
+    QTest::mousePress(&scene.window(), Qt::LeftButton, Qt::NoModifier, {9 + 70, 11});
+    for (int x = 79; x <= 9 + 2 * 62; x += 5)
+        QTest::mouseMove(&scene.window(), {x, 11});
+    QTest::mouseMove(&scene.window(), {9 + 2 * 62, 11});
+    EXPECT_EQ(value(), 60);
+    QTest::mouseRelease(&scene.window(), Qt::LeftButton, Qt::NoModifier, {9 + 2 * 62, 11});
+    EXPECT_EQ(value(), 60);
+}
+
+TEST(ControlTests, ASwitchTogglesByKeyAndPointer) {
+    Shown scene("Switch { label: 'Login' }");
+    QSignalSpy toggled(&scene.item(), SIGNAL(toggled()));
+    scene.press(Qt::Key_Space);
+    EXPECT_TRUE(scene.item().property("checked").toBool());
+    scene.press(Qt::Key_Return);
+    EXPECT_FALSE(scene.item().property("checked").toBool());
+    scene.click({10, 10});
+    EXPECT_EQ(toggled.count(), 3);
+}
+
+TEST(ControlTests, ASegmentedPickerAsksForTheNeighbourOrTheClickedSegmentOnly) {
+    Shown scene("SegmentedPicker { currentIndex: 1; label: 'Section'\n"
+                " model: ListModel { ListElement { title: 'One'; symbolName: '' }\n"
+                " ListElement { title: 'Two'; symbolName: 'plus' }\n"
+                " ListElement { title: 'Three'; symbolName: '' } } }");
+    QSignalSpy selected(&scene.item(), SIGNAL(selected(int)));
+    scene.press(Qt::Key_Right);
+    ASSERT_EQ(selected.count(), 1);
+    EXPECT_EQ(selected.takeFirst()[0].toInt(), 2);
+    EXPECT_EQ(scene.item().property("currentIndex").toInt(), 1) << "the owner decides";
+
+    scene.item().setProperty("currentIndex", 2);
+    scene.press(Qt::Key_Right);
+    EXPECT_EQ(selected.count(), 0) << "there is nothing to the right";
+    scene.click({12, 14});
+    ASSERT_EQ(selected.count(), 1);
+    EXPECT_EQ(selected.takeFirst()[0].toInt(), 0);
+    scene.item().setEnabled(false);
+    scene.click({12, 14});
+    EXPECT_EQ(selected.count(), 0);
+}
+
+TEST(ControlTests, EveryDigitOfATabularTextIsEquallyWide) {
+    Shown scene("TabularText { text: '1111'; font: Typography.gaugeNumber }");
+    const double width = scene.item().implicitWidth();
+    EXPECT_GT(width, 40);
+    for (const QString& text : {QStringLiteral("2804"), QStringLiteral("7777")}) {
+        scene.item().setProperty("text", text);
+        static_cast<void>(scene.window().grabWindow());
+        EXPECT_EQ(scene.item().implicitWidth(), width) << text.toStdString();
+    }
+}
+
+} // namespace
+} // namespace kestrowind

@@ -1,0 +1,52 @@
+#include "UI/DesignSystem/Spring.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <numbers>
+
+namespace kestrowind {
+namespace {
+
+/// The oscillator integrated in small steps, to check the closed form and the easing against.
+double integrated(Spring spring, double seconds) {
+    const double natural = 2 * std::numbers::pi / spring.response;
+    const int steps = 20000;
+    const double step = seconds / steps;
+    double position = 0;
+    double velocity = 0;
+    for (int index = 0; index < steps; ++index) {
+        const double force =
+            natural * natural * (1 - position) - 2 * spring.dampingFraction * natural * velocity;
+        velocity += force * step;
+        position += velocity * step;
+    }
+    return position;
+}
+
+TEST(SpringTests, MovesLikeADampedOscillatorAndSoDoesItsEasing) {
+    for (const Spring spring : {Spring{0.18, 0.85}, Spring{0.28, 0.85}, Spring{0.8, 1.0},
+                                Spring{0.4, 0.4}, Spring{0.3, 1.3}}) {
+        const double duration = spring.settlingTime();
+        const QEasingCurve easing = spring.easingCurve();
+        for (double progress = 0.05; progress < 1; progress += 0.05) {
+            const double expected = integrated(spring, progress * duration);
+            EXPECT_NEAR(spring.position(progress * duration), expected, 0.003)
+                << spring.response << ' ' << spring.dampingFraction << " at " << progress;
+            EXPECT_NEAR(easing.valueForProgress(progress), expected, 0.005)
+                << spring.response << ' ' << spring.dampingFraction << " at " << progress;
+        }
+        EXPECT_EQ(easing.valueForProgress(0), 0);
+        EXPECT_EQ(easing.valueForProgress(1), 1);
+        for (double later = duration; later < 3 * duration; later += duration / 50)
+            EXPECT_NEAR(spring.position(later), 1, 0.0011);
+    }
+}
+
+TEST(SpringTests, ADurationIsInMillisecondsAndGrowsWithTheResponse) {
+    EXPECT_NEAR(SpringTiming::of({0.18, 0.85}).duration, 240, 60);
+    EXPECT_NEAR(SpringTiming::of({0.8, 1.0}).duration, 1175, 60);
+}
+
+} // namespace
+} // namespace kestrowind
