@@ -54,6 +54,9 @@
     <message id="shared.mode.automatic">
         <translation>Automatic</translation>
     </message>
+    <message id="shared.mode.controlUnavailable">
+        <translation>Control unavailable</translation>
+    </message>
     <message id="app.window.mainTitle">
         <translation>Kestrowind</translation>
     </message>
@@ -69,6 +72,74 @@
     </message>
     <message id="settings.helper.error.resourcesMissing">
         <translation>The application is incomplete: its helper is missing from the bundle.</translation>
+    </message>
+    <message id="menuBar.item.temperature">
+        <extracomment>%1: whole degrees, or --; in the menu bar, as short as can be</extracomment>
+        <translation>%1°C</translation>
+    </message>
+    <message id="menuBar.item.fanSpeed">
+        <extracomment>%1: revolutions per minute, or --; in the menu bar, as short as can be</extracomment>
+        <translation>%1 rpm</translation>
+    </message>
+    <message id="menuBar.waitingForSensors">
+        <translation>Waiting for the sensors…</translation>
+    </message>
+    <message id="menuBar.temperature.cpu">
+        <translation>CPU</translation>
+    </message>
+    <message id="menuBar.temperature.gpu">
+        <translation>GPU</translation>
+    </message>
+    <message id="menuBar.temperature.degrees">
+        <extracomment>%1: whole degrees, or --</extracomment>
+        <translation>%1°C</translation>
+    </message>
+    <message id="menuBar.temperature.spoken">
+        <extracomment>spoken; %1: CPU or GPU, %2: the temperature</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="menuBar.fan.parked">
+        <extracomment>a fan that stands still because the Mac needs no air</extracomment>
+        <translation>Parked</translation>
+    </message>
+    <message id="menuBar.fan.rpmUnit">
+        <translation>RPM</translation>
+    </message>
+    <message id="menuBar.fan.spoken">
+        <extracomment>spoken; %1: the fan, %2: its speed, or that it is parked</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="menuBar.fan.spokenSpeed">
+        <extracomment>spoken; %1: whole number, or --</extracomment>
+        <translation>%1 revolutions per minute</translation>
+    </message>
+    <message id="menuBar.preset.caption">
+        <translation>Preset</translation>
+    </message>
+    <message id="menuBar.boost.caption">
+        <translation>Quick Boost</translation>
+    </message>
+    <message id="menuBar.boost.percent">
+        <extracomment>%1: 0 to 100</extracomment>
+        <translation>%1%</translation>
+    </message>
+    <message id="menuBar.helperMissing.title">
+        <translation>Fan control is off</translation>
+    </message>
+    <message id="menuBar.helperMissing.body">
+        <translation>Presets and the quick boost need the helper, which is installed once from the main window.</translation>
+    </message>
+    <message id="menuBar.openSettingsButton">
+        <translation>Set Up Fan Control…</translation>
+    </message>
+    <message id="menuBar.openApplicationButton">
+        <translation>Open Kestrowind</translation>
+    </message>
+    <message id="menuBar.quitButton">
+        <translation>Quit Kestrowind</translation>
+    </message>
+    <message id="menuBar.quitButton.help">
+        <translation>Hands the fans back to the Mac and quits</translation>
     </message>
 </context>
 </TS>
