@@ -134,6 +134,27 @@
     <message id="mainWindow.presetBar.helperMissing">
         <translation>The helper is not installed</translation>
     </message>
+    <message id="mainWindow.presetBar.label">
+        <translation>Presets</translation>
+    </message>
+    <message id="mainWindow.presetBar.morePresets">
+        <translation>More presets</translation>
+    </message>
+    <message id="mainWindow.section.curves">
+        <translation>Curves</translation>
+    </message>
+    <message id="mainWindow.section.dashboard">
+        <translation>Dashboard</translation>
+    </message>
+    <message id="mainWindow.section.presets">
+        <translation>Presets</translation>
+    </message>
+    <message id="mainWindow.section.settings">
+        <translation>Settings</translation>
+    </message>
+    <message id="mainWindow.sectionPicker.label">
+        <translation>Section</translation>
+    </message>
     <message id="menuBar.boost.caption">
         <translation>Quick Boost</translation>
     </message>

@@ -1,7 +1,6 @@
 #include "Core/LocalizedText.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QTranslator>
 
 static void initialiseTextResource() {

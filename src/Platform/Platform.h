@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/ActivationPolicy.h"
 #include "Platform/AdminScriptRunner.h"
 #include "Platform/HelperConnection.h"
 #include "Platform/RunningApplications.h"
@@ -18,6 +19,7 @@ struct Platform {
     std::unique_ptr<SystemInformation> information;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<RunningApplications> runningApplications;
+    std::unique_ptr<ActivationPolicy> activationPolicy;
     std::unique_ptr<AdminScriptRunner> scriptRunner;
     HelperConnectionFactory helperConnection;
     SMCUserClientFactory smc;

@@ -4,6 +4,7 @@
 #include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Linux/LinuxSystemInformation.h"
 #include "Platform/Linux/PortalAppearance.h"
+#include "Platform/Linux/RememberedActivationPolicy.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
 
@@ -44,6 +45,7 @@ Platform makePlatform(const QStringList& arguments) {
         .information = std::make_unique<LinuxSystemInformation>(),
         .userDefaults = std::make_unique<UserDefaults>(arguments, std::move(store)),
         .runningApplications = std::make_unique<LinuxRunningApplications>(),
+        .activationPolicy = std::make_unique<RememberedActivationPolicy>(),
         .scriptRunner = std::make_unique<ProcessScriptRunner>(
             LinuxSystemInformation::machinePath(u"/usr/bin/osascript"_s)),
         .helperConnection =

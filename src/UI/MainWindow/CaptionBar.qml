@@ -1,0 +1,48 @@
+import QtQuick
+import Kestrowind.DesignSystem
+import Kestrowind.MainWindow
+
+// One line about what the fans are doing.
+Item {
+    id: root
+
+    required property CaptionModel model
+    readonly property color tint: model.tint === CaptionModel.Accent ? AppColors.accent
+                                : model.tint === CaptionModel.Warning ? AppColors.warning
+                                : AppColors.secondaryText
+
+    implicitHeight: 22
+    Accessible.role: Accessible.StaticText
+    Accessible.name: model.text
+
+    Row {
+        anchors.centerIn: parent
+        spacing: 5
+
+        SpinningFanMark {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.model.isInProgress
+            diameter: 14
+        }
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !root.model.isInProgress && root.model.symbolName.length > 0
+            name: root.model.symbolName
+            size: 17
+            color: root.tint
+        }
+
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, root.width - 2 * Spacing.huge)
+            text: root.model.text
+            textFormat: Text.PlainText
+            font: Typography.headline
+            color: root.tint
+            elide: Text.ElideRight
+            maximumLineCount: 1
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,144 @@
+#include "UI/MainWindow/MainWindow.h"
+
+#include "Core/LocalizedText.h"
+#include "Platform/UserDefaults.h"
+#include "UI/DesignSystem/Palette.h"
+#include "UI/DesignSystem/SceneAppearance.h"
+#include "UI/MainWindow/MainWindowFrame.h"
+#include "UI/MainWindow/SectionHost.h"
+
+#include <QQmlComponent>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// What the user forces on this scene; anything else follows the system.
+std::optional<ColorScheme> forcedColorScheme(const UserDefaults& userDefaults) {
+    const auto forced = userDefaults.string(u"ForceColorScheme"_s);
+    if (forced == u"light"_s)
+        return ColorScheme::light;
+    if (forced == u"dark"_s)
+        return ColorScheme::dark;
+    return std::nullopt;
+}
+
+} // namespace
+
+MainWindow::MainWindow(const MainWindowServices& services, const MainWindowState& state)
+    : m_services(services)
+    , m_model(services.appState, state.section)
+    , m_controller(m_window, services.visibility, services.userDefaults, services.activationPolicy)
+    , m_heightController(m_window, services.visibility,
+                         [this] { return m_sectionHost ? m_sectionHost->viewportHeight() : 0; }) {
+    m_engine.addImportPath(u"qrc:/qt/qml"_s);
+    SceneAppearance& appearance = SceneAppearance::of(m_engine);
+    appearance.setSystemAppearance(services.systemAppearance);
+    appearance.setForcedScheme(forcedColorScheme(services.userDefaults));
+    connect(&appearance, &SceneAppearance::colorSchemeChanged, this, &MainWindow::updateAppearance);
+    updateAppearance();
+
+    restore(state);
+    buildView();
+    connect(&services.visibility, &MainWindowVisibility::isOnScreenChanged, this,
+            &MainWindow::updateSection);
+    connect(&m_model, &MainWindowModel::sectionChanged, this, [this] {
+        updateSection();
+        m_heightController.refitWindow();
+    });
+    connect(&m_model, &MainWindowModel::closeRequested, &m_controller,
+            &MainWindowController::windowShouldClose);
+    connect(&m_controller, &MainWindowController::closed, &m_heightController,
+            &MainWindowHeightController::finishResizing);
+}
+
+MainWindow::~MainWindow() = default;
+
+MainWindowState MainWindow::state() const {
+    return {
+        .section = m_model.section(),
+        .framePosition = m_window.framePosition(),
+        .size = m_window.size(),
+        .isMaximized = m_window.windowStates().testFlag(Qt::WindowMaximized),
+    };
+}
+
+void MainWindow::show() {
+    m_controller.show();
+    updateSection();
+}
+
+void MainWindow::openAtComfortableWidth() {
+    if (const QScreen* screen = m_window.screen()) {
+        const auto frame =
+            MainWindowFrame::comfortableFrame(m_window.geometry(), screen->availableGeometry());
+        if (frame)
+            m_window.setGeometry(frame->toRect());
+    }
+}
+
+void MainWindow::restore(const MainWindowState& state) {
+    m_window.setTitle(localized("app.window.mainTitle"));
+    m_window.resize(state.size);
+    if (state.framePosition)
+        m_window.setFramePosition(*state.framePosition);
+    if (state.isMaximized)
+        m_window.setWindowStates(Qt::WindowMaximized);
+    // Nothing of a window that nobody sees is worth its memory.
+    m_window.setPersistentSceneGraph(false);
+    m_window.setPersistentGraphics(false);
+}
+
+void MainWindow::buildView() {
+    QQmlComponent component(&m_engine,
+                            QUrl(u"qrc:/qt/qml/Kestrowind/MainWindow/MainWindowView.qml"_s));
+    QObject* object = component.createWithInitialProperties({
+        {u"model"_s, QVariant::fromValue(&m_model)},
+        {u"width"_s, m_window.width()},
+        {u"height"_s, m_window.height()},
+    });
+    auto* view = qobject_cast<QQuickItem*>(object);
+    if (!view)
+        qFatal("the main window cannot be made: %s", qPrintable(component.errorString()));
+    view->setParent(m_window.contentItem());
+    view->setParentItem(m_window.contentItem());
+    const auto fill = [this, view] { view->setSize(m_window.size()); };
+    connect(&m_window, &QWindow::widthChanged, view, fill);
+    connect(&m_window, &QWindow::heightChanged, view, fill);
+
+    m_sectionHost = view->findChild<SectionHost*>();
+    connect(m_sectionHost, &SectionHost::naturalHeightChanged, this,
+            [this] { m_heightController.fitWindow(m_sectionHost->naturalHeight()); });
+    const double chromeHeight = view->height() - m_sectionHost->viewportHeight();
+    m_window.setMinimumSize({static_cast<int>(MainWindowFrame::minimumContentWidth),
+                             qRound(MainWindowFrame::minimumContentHeight + chromeHeight)});
+}
+
+void MainWindow::updateAppearance() {
+    // Seen for a moment at the edges of a window that is being enlarged.
+    m_window.setColor(Palette::color(Palette::Role::windowBackground,
+                                     SceneAppearance::of(m_engine).colorScheme()));
+}
+
+void MainWindow::updateSection() {
+    if (m_services.visibility.isOnScreen())
+        showSection(m_model.section());
+    else
+        m_sectionHost->clear();
+}
+
+void MainWindow::showSection(MainSection section) {
+    const auto view = std::ranges::find(m_services.sectionViews, section, &SectionView::section);
+    if (view != m_services.sectionViews.end() &&
+        m_sectionHost->load(view->qmlUrl, {}, view->makeModel ? view->makeModel() : nullptr))
+        return;
+    m_sectionHost->load(QUrl(u"qrc:/qt/qml/Kestrowind/MainWindow/SectionTitle.qml"_s),
+                        {{u"title"_s, title(section)}, {u"symbolName"_s, symbolName(section)}},
+                        nullptr);
+}
+
+} // namespace kestrowind

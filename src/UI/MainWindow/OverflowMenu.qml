@@ -1,0 +1,65 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrowind.DesignSystem
+import Kestrowind.MainWindow
+
+// The slots that have no pill, behind three dots.
+T.AbstractButton {
+    id: root
+
+    required property PillListModel model
+    required property bool containsActive
+    readonly property int count: model.count
+
+    signal chosen(int index)
+
+    text: qsTrId("mainWindow.presetBar.morePresets")
+    hoverEnabled: true
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.ButtonMenu
+    Accessible.name: text
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+    Keys.onDownPressed: click()
+    onClicked: menu.opened ? menu.close() : menu.popup(root, 0, root.height + Spacing.tight)
+    onEnabledChanged: if (!enabled) menu.close()
+
+    background: PillSurface {
+        isTinted: root.containsActive
+        isLifted: root.hovered && root.enabled && !menu.visible
+        isPressed: root.down || menu.visible
+        isFocused: root.visualFocus
+    }
+
+    contentItem: Item {
+        Symbol {
+            anchors.centerIn: parent
+            name: "ellipsis"
+            size: 18
+            color: root.containsActive || root.hovered ? AppColors.primaryText : AppColors.secondaryText
+        }
+    }
+
+    PopupMenu {
+        id: menu
+
+        Instantiator {
+            model: root.model
+            delegate: PopupMenuItem {
+                required property int index
+                required property string fullName
+                required property bool isActive
+
+                text: fullName
+                checkable: isActive
+                checked: true
+                onToggled: checked = true
+                onTriggered: root.chosen(index)
+            }
+            onObjectAdded: (index, object) => menu.insertItem(index, object as PopupMenuItem)
+            onObjectRemoved: (index, object) => menu.removeItem(object as PopupMenuItem)
+        }
+    }
+
+    Tooltip { text: root.text; shown: root.hovered && !menu.visible }
+}

@@ -1,0 +1,13 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+// How pills enter, leave and change places. What is moved while it enters ends fully there, too.
+Transition {
+    id: root
+
+    required property bool appears
+
+    SpringMotion { property: "x"; timing: Springs.collection }
+    SpringMotion { property: "opacity"; to: root.appears ? 1 : 0; timing: Springs.collection }
+    SpringMotion { property: "entrance"; to: root.appears ? 1 : 0.85; timing: Springs.collection }
+}

@@ -1,0 +1,63 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrowind.DesignSystem
+import Kestrowind.MainWindow
+
+// Switches to one slot's preset.
+T.AbstractButton {
+    id: root
+
+    required property int index
+    required property string title
+    required property string fullName
+    required property string symbolName
+    required property bool isActive
+    required property real pillWidth
+
+    // Grows to 1 as the pill enters the row.
+    property real entrance: 1
+    property real lift: isLifted ? 1.06 : 1
+    readonly property bool isLifted: hovered && enabled
+
+    signal chosen()
+
+    width: pillWidth
+    scale: entrance * lift
+    z: isLifted ? 1 : 0
+    hoverEnabled: true
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.Button
+    Accessible.name: fullName
+    Accessible.selectable: true
+    Accessible.selected: isActive
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+    onClicked: chosen()
+
+    Behavior on lift { SpringMotion { timing: Springs.hover } }
+
+    ListView.onAdd: {
+        opacity = 0
+        entrance = 0.85
+    }
+
+    background: PillSurface {
+        isTinted: root.isActive
+        isLifted: root.isLifted
+        isPressed: root.down
+        isFocused: root.visualFocus
+    }
+
+    contentItem: Item {
+        SymbolLabel {
+            anchors.centerIn: parent
+            symbolName: root.symbolName
+            text: root.title
+            font: root.isActive ? Typography.weighted(Typography.callout, Font.DemiBold)
+                                : Typography.callout
+            color: root.isActive || root.isLifted ? AppColors.primaryText : AppColors.secondaryText
+        }
+    }
+
+    Tooltip { text: root.fullName; shown: root.hovered }
+}

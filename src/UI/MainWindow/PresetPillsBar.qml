@@ -1,0 +1,67 @@
+import QtQuick
+import Kestrowind.DesignSystem
+import Kestrowind.MainWindow
+
+// One pill a slot, as many as have room, and the menu of the others.
+FocusScope {
+    id: root
+
+    required property PresetPillsModel model
+
+    // The row grows and shrinks about its middle, which follows the window at once.
+    property real rowWidth: model.rowWidth
+    readonly property real rowLeft: Math.round((width - rowWidth) / 2)
+
+    implicitHeight: pills.height + 2 * Spacing.tight
+    enabled: model.isSwitchable
+
+    Binding { target: root.model; property: "availableWidth"; value: root.width - 2 * Spacing.regular }
+
+    Behavior on rowWidth {
+        enabled: root.rowWidth > 0
+        SpringMotion { timing: Springs.collection }
+    }
+
+    ListView {
+        id: pills
+
+        x: root.rowLeft
+        y: Spacing.tight
+        width: root.model.rowWidth
+        height: 30
+        orientation: ListView.Horizontal
+        spacing: root.model.spacing
+        interactive: false
+        keyNavigationEnabled: true
+        cacheBuffer: 4000
+        activeFocusOnTab: true
+        model: root.model.shown
+        opacity: root.enabled ? 1 : 0.5
+        Accessible.role: Accessible.Grouping
+        Accessible.name: qsTrId("mainWindow.presetBar.label")
+
+        delegate: PresetPill {
+            height: pills.height
+            onChosen: root.model.activateShown(index)
+        }
+
+        add: PillMotion { appears: true }
+        remove: PillMotion { appears: false }
+        move: PillMotion { appears: true }
+        displaced: PillMotion { appears: true }
+
+        Behavior on opacity { NumberAnimation { duration: 150 } }
+    }
+
+    OverflowMenu {
+        x: Math.round(root.rowLeft + root.rowWidth - width)
+        y: pills.y
+        width: root.model.overflowWidth
+        height: pills.height
+        model: root.model.overflow
+        containsActive: root.model.isActiveInOverflow
+        opacity: root.enabled ? 1 : 0.5
+        visible: count > 0
+        onChosen: index => root.model.activateOverflow(index)
+    }
+}

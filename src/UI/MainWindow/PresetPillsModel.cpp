@@ -1,0 +1,74 @@
+#include "UI/MainWindow/PresetPillsModel.h"
+
+#include "Core/AppState.h"
+#include "Core/AssignIfChanged.h"
+#include "UI/MainWindow/ControlStateObservation.h"
+
+#include <algorithm>
+
+namespace kestrowind {
+
+PresetPillsModel::PresetPillsModel(AppState& appState, QObject* parent)
+    : QObject(parent)
+    , m_appState(appState)
+    , m_isSwitchable(ActivePresetState::current(appState).kind ==
+                     PresetControlState::Kind::switchable) {
+    const PresetStore& presets = appState.presets();
+    connect(&presets, &PresetStore::presetsChanged, this, &PresetPillsModel::updatePills);
+    connect(&presets, &PresetStore::slotOrderChanged, this, &PresetPillsModel::updatePills);
+    connect(&presets, &PresetStore::activePresetIDChanged, this, &PresetPillsModel::updatePills);
+    observeControlState(appState, *this, &PresetPillsModel::updateSwitchable);
+}
+
+void PresetPillsModel::setAvailableWidth(double width) {
+    if (!assignIfChanged(m_availableWidth, width))
+        return;
+    Q_EMIT availableWidthChanged();
+    updatePills();
+}
+
+void PresetPillsModel::activateShown(int row) {
+    activate(m_shown, row);
+}
+
+void PresetPillsModel::activateOverflow(int row) {
+    activate(m_overflow, row);
+}
+
+void PresetPillsModel::updatePills() {
+    if (!(m_availableWidth > 0))
+        return;
+    const PresetStore& presets = m_appState.presets();
+    const QList<PresetPill> pills =
+        PresetPills::pills(presets.slotOrder(), presets.presets(), presets.activePresetID());
+    QList<double> widths;
+    for (const PresetPill& pill : pills)
+        widths.append(pill.width);
+    const PresetPills::Row row = PresetPills::fittingRow(widths, m_availableWidth);
+
+    m_shown.setPills(pills.first(row.count));
+    m_overflow.setPills(pills.sliced(row.count));
+    if (assignIfChanged(m_rowWidth, row.width))
+        Q_EMIT rowWidthChanged();
+    if (assignIfChanged(m_isActiveInOverflow,
+                        std::ranges::any_of(m_overflow.pills(), &PresetPill::isActive)))
+        Q_EMIT isActiveInOverflowChanged();
+}
+
+void PresetPillsModel::updateSwitchable() {
+    const bool isSwitchable =
+        ActivePresetState::current(m_appState).kind == PresetControlState::Kind::switchable;
+    if (assignIfChanged(m_isSwitchable, isSwitchable))
+        Q_EMIT isSwitchableChanged();
+}
+
+void PresetPillsModel::activate(const PillListModel& list, int row) {
+    if (!m_isSwitchable || row < 0 || row >= list.count())
+        return;
+    // A copy: the activation changes the list.
+    const PresetSlot slot = list.pills().at(row).slot;
+    m_appState.presets().setActivePresetID(slot.presetID());
+    m_appState.engine().pushSoon();
+}
+
+} // namespace kestrowind

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "UI/MainWindow/PillListModel.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace kestrowind {
+
+class AppState;
+
+/// The preset bar: the pills that have room, the overflow menu's items, and what choosing one does.
+class PresetPillsModel final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(kestrowind::PillListModel* shown READ shown CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::PillListModel* overflow READ overflow CONSTANT FINAL)
+    Q_PROPERTY(double availableWidth READ availableWidth WRITE setAvailableWidth NOTIFY
+                   availableWidthChanged FINAL)
+    Q_PROPERTY(double rowWidth READ rowWidth NOTIFY rowWidthChanged FINAL)
+    Q_PROPERTY(double spacing READ spacing CONSTANT FINAL)
+    Q_PROPERTY(double overflowWidth READ overflowWidth CONSTANT FINAL)
+    Q_PROPERTY(bool isSwitchable READ isSwitchable NOTIFY isSwitchableChanged FINAL)
+    Q_PROPERTY(
+        bool isActiveInOverflow READ isActiveInOverflow NOTIFY isActiveInOverflowChanged FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the main window")
+
+public:
+    explicit PresetPillsModel(AppState& appState, QObject* parent = nullptr);
+
+    [[nodiscard]] PillListModel* shown() { return &m_shown; }
+    [[nodiscard]] PillListModel* overflow() { return &m_overflow; }
+    /// Points. No pill is shown before there is room at all.
+    [[nodiscard]] double availableWidth() const { return m_availableWidth; }
+    void setAvailableWidth(double width);
+    /// Of the pills and the overflow menu, points.
+    [[nodiscard]] double rowWidth() const { return m_rowWidth; }
+    [[nodiscard]] static double spacing() { return PresetPills::spacing; }
+    [[nodiscard]] static double overflowWidth() { return PresetPills::overflowWidth; }
+    [[nodiscard]] bool isSwitchable() const { return m_isSwitchable; }
+    /// The active slot has no pill of its own now.
+    [[nodiscard]] bool isActiveInOverflow() const { return m_isActiveInOverflow; }
+
+    Q_INVOKABLE void activateShown(int row);
+    Q_INVOKABLE void activateOverflow(int row);
+
+Q_SIGNALS:
+    void availableWidthChanged();
+    void rowWidthChanged();
+    void isSwitchableChanged();
+    void isActiveInOverflowChanged();
+
+private:
+    void updatePills();
+    void updateSwitchable();
+    void activate(const PillListModel& list, int row);
+
+    AppState& m_appState;
+    PillListModel m_shown;
+    PillListModel m_overflow;
+    double m_availableWidth = 0;
+    double m_rowWidth = 0;
+    bool m_isSwitchable;
+    bool m_isActiveInOverflow = false;
+};
+
+} // namespace kestrowind

@@ -1,0 +1,35 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+// Stands for a section that has no view.
+Item {
+    id: root
+
+    required property string title
+    required property string symbolName
+
+    implicitHeight: 240
+    Accessible.role: Accessible.Heading
+    Accessible.name: title
+
+    Column {
+        anchors.centerIn: parent
+        spacing: Spacing.medium
+
+        Symbol {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: root.symbolName
+            size: 44
+            color: AppColors.tertiaryText
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: root.title
+            textFormat: Text.PlainText
+            font: Typography.title2
+            color: AppColors.secondaryText
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,166 @@
+// Shows the main window with made-up presets and helper, writes pictures of it (--grab FILE), and
+// measures it (--measure).
+#include "Core/AppState.h"
+#include "Core/LocalizedText.h"
+#include "Core/PresetCoding.h"
+#include "Core/PreviewHelperClient.h"
+#include "Platform/Linux/RememberedActivationPolicy.h"
+#include "Support/TestDefaults.h"
+#include "UI/MainWindow/MainWindowScene.h"
+
+#include <QCommandLineParser>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QtQml/qqmlextensionplugin.h>
+
+#include <cstdio>
+
+Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
+Q_IMPORT_QML_PLUGIN(Kestrowind_MainWindowPlugin)
+
+using namespace kestrowind;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The presets file, written as another version of the program may have left it: with more presets
+/// than this one lets the user make.
+void writePresets(const QString& folder, int count) {
+    const QStringList names = {u"Performance"_s,     u"夜间静音模式"_s,
+                               u"مروحة هادئة جدا"_s, u"👩‍🚀 Rocket launch"_s,
+                               u"Cool and quiet"_s,  u"Quiet mode"_s,
+                               u"Café Été naïve"_s};
+    const QStringList symbols = {u"wind"_s, u"snowflake"_s, u"bolt.fill"_s, u"fanblades"_s,
+                                 u"cpu"_s,  u"wind"_s,      u"snowflake"_s};
+    QList<FanPreset> presets;
+    for (int i = 0; i < count; ++i) {
+        presets.append({.id = QUuid::createUuid(),
+                        .name = names.at(i % names.size()),
+                        .symbolName = symbols.at(i % symbols.size()),
+                        .curves = {FanPreset::newPresetCurve()}});
+    }
+    QFile file(folder + u"/presets.json"_s);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(encodePresets(presets).value());
+}
+
+std::optional<HelperStatus> statusOf(HelperControlPhase phase) {
+    HelperStatus status;
+    status.phase = phase;
+    return status;
+}
+
+/// A helper that applies whatever it is asked for.
+class ObedientHelper final : public PreviewHelperClient {
+public:
+    QCoro::Task<std::optional<Targets>> setTargets(Targets targets) override { co_return targets; }
+};
+
+void boost(AppState& appState) {
+    appState.telemetry().ingest(
+        {.timestamp = std::chrono::system_clock::now(),
+         .temperatures = {.cpuAverage = 50, .cpuMax = 55, .hottest = 55},
+         .fans = {{.index = 0, .actualRPM = 2000, .minRPM = 1200, .maxRPM = 6000}}});
+    appState.engine().setQuickBoostPercent(60);
+}
+
+/// Resident memory of this process, kibibytes.
+long residentMemory() {
+    QFile file(u"/proc/self/status"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray& line : file.readAll().split('\n')) {
+        if (line.startsWith("VmRSS:"))
+            return line.mid(6).simplified().split(' ').constFirst().toLong();
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    installLocalizable();
+    QCommandLineParser parser;
+    const QCommandLineOption dark(u"dark"_s), grab(u"grab"_s, {}, u"file"_s),
+        width(u"width"_s, {}, u"points"_s), height(u"height"_s, {}, u"points"_s),
+        presets(u"presets"_s, {}, u"count"_s, u"2"_s), section(u"section"_s, {}, u"name"_s),
+        state(u"state"_s, {}, u"missing|unlocking|failed|boosting"_s),
+        active(u"active"_s, {}, u"slot"_s, u"1"_s), tall(u"tall"_s), measure(u"measure"_s);
+    parser.addOptions({dark, grab, width, height, presets, section, state, active, tall, measure});
+    parser.process(application);
+
+    TestHome home;
+    QStringList arguments = {u"-ForceColorScheme"_s, parser.isSet(dark) ? u"dark"_s : u"light"_s};
+    if (parser.isSet(section))
+        arguments << u"-InitialSection"_s << parser.value(section);
+    const auto defaults = home.defaults(arguments);
+    defaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
+    writePresets(home.path(), parser.value(presets).toInt());
+
+    auto telemetry = std::make_unique<TelemetryStore>(*defaults, SMCUserClientFactory());
+    auto helper = std::make_unique<ObedientHelper>();
+    auto store =
+        std::make_unique<PresetStore>(2, *defaults, PresetStore::Storage{.folder = home.path()});
+    auto engine = std::make_unique<ControlEngine>(*telemetry, *store, *helper);
+    const QString what = parser.value(state);
+    if (what == u"missing"_s)
+        helper->setState(HelperState::notInstalled);
+    else if (what == u"unlocking"_s)
+        helper->setLastStatus(statusOf(HelperControlPhase::unlocking));
+    else if (what == u"failed"_s)
+        helper->setLastStatus(statusOf(HelperControlPhase::failed));
+    AppState appState(std::move(telemetry), std::move(helper), std::move(store), std::move(engine));
+    const QList<PresetSlot> slotOrder = appState.presets().slotOrder();
+    appState.presets().setActivePresetID(
+        slotOrder.at(parser.value(active).toInt() % slotOrder.size()).presetID());
+    if (what == u"boosting"_s)
+        boost(appState);
+
+    RememberedActivationPolicy policy;
+    MainWindowScene scene(appState, *defaults, policy, nullptr);
+    if (parser.isSet(tall)) {
+        scene.setSectionViews({{.section = MainSection::dashboard,
+                                .qmlUrl = QUrl(u"qrc:/preview/PreviewSection.qml"_s)}});
+    }
+    QObject::connect(&scene, &MainWindowScene::quitRequested, &application,
+                     &QCoreApplication::quit);
+
+    QElapsedTimer clock;
+    const long before = residentMemory();
+    clock.start();
+    scene.show();
+    QQuickWindow* window = scene.window();
+    if (parser.isSet(width) || parser.isSet(height)) {
+        window->resize(parser.isSet(width) ? parser.value(width).toInt() : window->width(),
+                       parser.isSet(height) ? parser.value(height).toInt() : window->height());
+    }
+    if (parser.isSet(grab)) {
+        QTimer::singleShot(1200, window, [window, file = parser.value(grab)] {
+            QGuiApplication::exit(window->grabWindow().save(file) ? 0 : 1);
+        });
+    }
+    if (parser.isSet(measure)) {
+        const auto connection = std::make_shared<QMetaObject::Connection>();
+        *connection = QObject::connect(
+            window, &QQuickWindow::frameSwapped, &scene, [&clock, connection, before] {
+                std::printf("first frame after %lld ms; resident %ld KiB before\n", clock.elapsed(),
+                            before);
+                QObject::disconnect(*connection);
+            });
+        QTimer::singleShot(2000, &scene, [&scene] {
+            std::printf("shown: %ld KiB\n", residentMemory());
+            scene.close();
+        });
+        QObject::connect(&scene, &MainWindowScene::released, &scene, [] {
+            QTimer::singleShot(1000, qApp, [] {
+                std::printf("released: %ld KiB\n", residentMemory());
+                QCoreApplication::quit();
+            });
+        });
+    }
+    return QGuiApplication::exec();
+}
