@@ -32,7 +32,9 @@ QFont labelFont() {
 QFont fittedFont(const QString& text, double width, double height) {
     // Large enough that hinting does not blur the proportions.
     constexpr int measuredSize = 100;
-    const QFontMetricsF metrics(Typography::font(measuredSize, QFont::DemiBold));
+    QFont measured = Typography::font(measuredSize, QFont::DemiBold);
+    measured.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+    const QFontMetricsF metrics(measured);
     const double fitting = std::min(height / metrics.capHeight(),
                                     width / std::max(1.0, metrics.horizontalAdvance(text)));
     return Typography::font(std::max(5, static_cast<int>(fitting * measuredSize)), QFont::DemiBold);
@@ -78,8 +80,8 @@ QImage square(const MenuBarReading& reading, int side, const QColor& ink) {
     const QString temperature = reading.temperature == WholeNumberText::unknown()
                                     ? reading.temperature
                                     : reading.temperature + u"°"_s;
-    const QFont above = fittedFont(temperature, side, std::round(side * 0.42));
-    const QFont below = fittedFont(reading.fanSpeed, side, std::round(side * 0.36));
+    const QFont above = fittedFont(temperature, side, std::round(side * 0.40));
+    const QFont below = fittedFont(reading.fanSpeed, side, std::round(side * 0.34));
     const double gap = std::max(2.0, std::round(side * 0.1));
     const double aboveHeight = std::round(QFontMetricsF(above).capHeight());
     const double belowHeight = std::round(QFontMetricsF(below).capHeight());

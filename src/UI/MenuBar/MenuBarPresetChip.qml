@@ -22,8 +22,8 @@ T.AbstractButton {
     Accessible.name: row.title
     Accessible.checkable: true
     Accessible.checked: row.isActive
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     background: Item {
         CardBackground {

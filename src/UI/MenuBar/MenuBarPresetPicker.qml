@@ -13,8 +13,8 @@ Column {
         const chip = chips.itemAt(index)
         if (chip === null)
             return
-        currentIndex = index
         chip.forceActiveFocus(Qt.TabFocusReason)
+        currentIndex = index
     }
 
     spacing: Spacing.small
@@ -62,7 +62,8 @@ Column {
                 required property int index
 
                 maximumWidth: root.width
-                focusPolicy: index === root.currentIndex ? Qt.StrongFocus : Qt.ClickFocus
+                focusPolicy: activeFocus || index === root.currentIndex ? Qt.StrongFocus
+                                                                     : Qt.ClickFocus
                 onClicked: {
                     root.currentIndex = index
                     root.model.activate(row.slotID)
