@@ -96,14 +96,14 @@ void MainWindow::restore(const MainWindowState& state) {
 void MainWindow::buildView() {
     QQmlComponent component(&m_engine,
                             QUrl(u"qrc:/qt/qml/Kestrowind/MainWindow/MainWindowView.qml"_s));
-    QObject* object = component.createWithInitialProperties({
+    if (!component.isReady())
+        qFatal("the main window cannot be made: %s", qPrintable(component.errorString()));
+    auto* view = qobject_cast<QQuickItem*>(component.createWithInitialProperties({
         {u"model"_s, QVariant::fromValue(&m_model)},
         {u"width"_s, m_window.width()},
         {u"height"_s, m_window.height()},
-    });
-    auto* view = qobject_cast<QQuickItem*>(object);
-    if (!view)
-        qFatal("the main window cannot be made: %s", qPrintable(component.errorString()));
+    }));
+    Q_ASSERT(view);
     view->setParent(m_window.contentItem());
     view->setParentItem(m_window.contentItem());
     const auto fill = [this, view] { view->setSize(m_window.size()); };

@@ -25,9 +25,9 @@ MainWindowController::MainWindowController(QWindow& window, MainWindowVisibility
 
 void MainWindowController::show() {
     m_activationPolicy.setPolicy(ActivationPolicy::Policy::regular);
-    m_visibility.setOnScreen(true);
-    m_window.setWindowStates(m_window.windowStates() & ~Qt::WindowMinimized);
     m_window.setVisible(true);
+    m_window.setWindowStates(m_window.windowStates() & ~Qt::WindowMinimized);
+    m_visibility.setOnScreen(true);
     m_window.raise();
     m_window.requestActivate();
 }

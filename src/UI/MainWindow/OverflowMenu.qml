@@ -4,7 +4,7 @@ import Kestrowind.DesignSystem
 import Kestrowind.MainWindow
 
 // The slots that have no pill, behind three dots.
-T.AbstractButton {
+T.Button {
     id: root
 
     required property PillListModel model
@@ -18,9 +18,9 @@ T.AbstractButton {
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: text
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
-    Keys.onDownPressed: click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
+    Keys.onDownPressed: root.clicked()
     onClicked: menu.opened ? menu.close() : menu.popup(root, 0, root.height + Spacing.tight)
     onEnabledChanged: if (!enabled) menu.close()
 

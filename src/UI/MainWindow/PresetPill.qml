@@ -4,7 +4,7 @@ import Kestrowind.DesignSystem
 import Kestrowind.MainWindow
 
 // Switches to one slot's preset.
-T.AbstractButton {
+T.Button {
     id: root
 
     required property int index
@@ -30,8 +30,8 @@ T.AbstractButton {
     Accessible.name: fullName
     Accessible.selectable: true
     Accessible.selected: isActive
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
     onClicked: chosen()
 
     Behavior on lift { SpringMotion { timing: Springs.hover } }

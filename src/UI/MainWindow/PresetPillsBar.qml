@@ -36,7 +36,7 @@ FocusScope {
         cacheBuffer: 4000
         activeFocusOnTab: true
         model: root.model.shown
-        opacity: root.enabled ? 1 : 0.5
+        opacity: root.enabled ? 1 : 0.55
         Accessible.role: Accessible.Grouping
         Accessible.name: qsTrId("mainWindow.presetBar.label")
 
@@ -60,7 +60,7 @@ FocusScope {
         height: pills.height
         model: root.model.overflow
         containsActive: root.model.isActiveInOverflow
-        opacity: root.enabled ? 1 : 0.5
+        opacity: root.enabled ? 1 : 0.55
         visible: count > 0
         onChosen: index => root.model.activateOverflow(index)
     }

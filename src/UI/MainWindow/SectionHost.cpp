@@ -44,8 +44,10 @@ bool SectionHost::load(const QUrl& url, QVariantMap initialProperties,
     }
     initialProperties.insert(u"width"_s, width());
     QQmlComponent component(qmlEngine(this), url);
-    std::unique_ptr<QObject> object(
-        component.createWithInitialProperties(initialProperties, qmlContext(this)));
+    // Making an item of a file that could not be read is more than Qt 6.4 can bear.
+    std::unique_ptr<QObject> object(component.isReady() ? component.createWithInitialProperties(
+                                                              initialProperties, qmlContext(this))
+                                                        : nullptr);
     m_content = qobject_cast<QQuickItem*>(object.get());
     if (!m_content) {
         qCCritical(windowLog).noquote() << "a section cannot be shown:" << component.errorString();

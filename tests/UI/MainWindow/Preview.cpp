@@ -1,11 +1,9 @@
 // Shows the main window with made-up presets and helper, writes pictures of it (--grab FILE), and
 // measures it (--measure).
-#include "Core/AppState.h"
 #include "Core/LocalizedText.h"
 #include "Core/PresetCoding.h"
-#include "Core/PreviewHelperClient.h"
 #include "Platform/Linux/RememberedActivationPolicy.h"
-#include "Support/TestDefaults.h"
+#include "TestState.h"
 #include "UI/MainWindow/MainWindowScene.h"
 
 #include <QCommandLineParser>
@@ -45,26 +43,6 @@ void writePresets(const QString& folder, int count) {
         file.write(encodePresets(presets).value());
 }
 
-std::optional<HelperStatus> statusOf(HelperControlPhase phase) {
-    HelperStatus status;
-    status.phase = phase;
-    return status;
-}
-
-/// A helper that applies whatever it is asked for.
-class ObedientHelper final : public PreviewHelperClient {
-public:
-    QCoro::Task<std::optional<Targets>> setTargets(Targets targets) override { co_return targets; }
-};
-
-void boost(AppState& appState) {
-    appState.telemetry().ingest(
-        {.timestamp = std::chrono::system_clock::now(),
-         .temperatures = {.cpuAverage = 50, .cpuMax = 55, .hottest = 55},
-         .fans = {{.index = 0, .actualRPM = 2000, .minRPM = 1200, .maxRPM = 6000}}});
-    appState.engine().setQuickBoostPercent(60);
-}
-
 /// Resident memory of this process, kibibytes.
 long residentMemory() {
     QFile file(u"/proc/self/status"_s);
@@ -93,35 +71,28 @@ int main(int argc, char* argv[]) {
     parser.addOptions({dark, grab, width, height, presets, section, state, active, tall, measure});
     parser.process(application);
 
-    TestHome home;
     QStringList arguments = {u"-ForceColorScheme"_s, parser.isSet(dark) ? u"dark"_s : u"light"_s};
     if (parser.isSet(section))
         arguments << u"-InitialSection"_s << parser.value(section);
-    const auto defaults = home.defaults(arguments);
-    defaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
-    writePresets(home.path(), parser.value(presets).toInt());
-
-    auto telemetry = std::make_unique<TelemetryStore>(*defaults, SMCUserClientFactory());
-    auto helper = std::make_unique<ObedientHelper>();
-    auto store =
-        std::make_unique<PresetStore>(2, *defaults, PresetStore::Storage{.folder = home.path()});
-    auto engine = std::make_unique<ControlEngine>(*telemetry, *store, *helper);
+    TestState test(arguments, [&](const QString& folder) {
+        writePresets(folder, parser.value(presets).toInt());
+    });
+    test.defaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
     const QString what = parser.value(state);
     if (what == u"missing"_s)
-        helper->setState(HelperState::notInstalled);
+        test.helper->setState(HelperState::notInstalled);
     else if (what == u"unlocking"_s)
-        helper->setLastStatus(statusOf(HelperControlPhase::unlocking));
+        test.setPhase(HelperControlPhase::unlocking);
     else if (what == u"failed"_s)
-        helper->setLastStatus(statusOf(HelperControlPhase::failed));
-    AppState appState(std::move(telemetry), std::move(helper), std::move(store), std::move(engine));
-    const QList<PresetSlot> slotOrder = appState.presets().slotOrder();
-    appState.presets().setActivePresetID(
+        test.setPhase(HelperControlPhase::failed);
+    else if (what == u"boosting"_s)
+        test.boost(60);
+    const QList<PresetSlot> slotOrder = test.presets().slotOrder();
+    test.presets().setActivePresetID(
         slotOrder.at(parser.value(active).toInt() % slotOrder.size()).presetID());
-    if (what == u"boosting"_s)
-        boost(appState);
 
     RememberedActivationPolicy policy;
-    MainWindowScene scene(appState, *defaults, policy, nullptr);
+    MainWindowScene scene(*test.appState, *test.defaults, policy, nullptr);
     if (parser.isSet(tall)) {
         scene.setSectionViews({{.section = MainSection::dashboard,
                                 .qmlUrl = QUrl(u"qrc:/preview/PreviewSection.qml"_s)}});

@@ -1,0 +1,271 @@
+#include "Platform/Linux/RememberedActivationPolicy.h"
+#include "Support/QtPrinters.h"
+#include "TestState.h"
+#include "UI/DesignSystem/SceneAppearance.h"
+#include "UI/MainWindow/MainWindowFrame.h"
+#include "UI/MainWindow/MainWindowScene.h"
+#include "UI/MainWindow/SectionHost.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Policy = ActivationPolicy::Policy;
+
+TEST(MainSectionTest, IsFoundByNameInAnyLetterCase) {
+    for (const MainSection section : mainSections)
+        EXPECT_EQ(sectionNamed(rawValue(section).toUpper()), section);
+    EXPECT_EQ(sectionNamed(u"Kurven"_s), MainSection::dashboard);
+    EXPECT_EQ(sectionNamed(QString()), MainSection::dashboard);
+}
+
+TEST(MainWindowFrameTest, FitsTheContentBetweenTheLeastHeightAndTheScreen) {
+    const QRectF screen(0, 25, 1440, 800);
+    const QRectF frame(100, 60, 820, 600); // 480 of content under 120 of chrome
+    struct Row {
+        const char* what;
+        double natural;
+        QRectF frame;
+        std::optional<QRectF> fitted;
+    };
+    for (const auto& [what, natural, from, fitted] : {
+             Row{"nothing reported", 0, frame, std::nullopt},
+             Row{"not a number", std::nan(""), frame, std::nullopt},
+             Row{"higher", 560.5, frame, QRectF(100, 60, 820, 680.5)},
+             Row{"never below the least", 300, frame, QRectF(100, 60, 820, 540)},
+             Row{"as high as the screen allows", 5000, frame, QRectF(100, 49, 820, 776)},
+             Row{"within a point", 480.9, frame, std::nullopt},
+             Row{"a point more", 481, frame, QRectF(100, 60, 820, 601)},
+             Row{"up from under the screen's end", 560, QRectF(100, 300, 820, 600),
+                 QRectF(100, 145, 820, 680)},
+         }) {
+        EXPECT_EQ(MainWindowFrame::fittedFrame({.frame = from,
+                                                .contentHeight = from.height() - 120,
+                                                .naturalContentHeight = natural,
+                                                .visibleScreen = screen}),
+                  fitted)
+            << what;
+    }
+    EXPECT_EQ(MainWindowFrame::fittedFrame({.frame = {0, 0, 820, 200},
+                                            .contentHeight = 80,
+                                            .naturalContentHeight = 300,
+                                            .visibleScreen = {0, 0, 640, 480}}),
+              QRectF(0, 0, 820, 456))
+        << "the screen goes before the least height";
+}
+
+TEST(MainWindowFrameTest, WidensNarrowWindows) {
+    const QRectF screen(0, 0, 1440, 900);
+    EXPECT_EQ(MainWindowFrame::comfortableFrame({5, 5, 780, 700}, screen),
+              QRectF(310, 100, 820, 700));
+    EXPECT_EQ(MainWindowFrame::comfortableFrame({5, 5, 781, 700}, screen), std::nullopt);
+}
+
+class MainWindowTest : public testing::Test {
+protected:
+    explicit MainWindowTest(const QStringList& arguments = {})
+        : state(arguments) {
+        state.defaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
+        scene =
+            std::make_unique<MainWindowScene>(*state.appState, *state.defaults, policy, nullptr);
+        scene->setReleaseDelay(0ms);
+        scene->setSectionViews({
+            {MainSection::dashboard, QUrl(u"qrc:/preview/PreviewSection.qml"_s), {}},
+            {MainSection::settings, QUrl(u"qrc:/preview/Missing.qml"_s), {}},
+        });
+    }
+
+    SectionHost& host() const { return *scene->window()->contentItem()->findChild<SectionHost*>(); }
+    bool hasContent() const { return !host().childItems().isEmpty(); }
+    int contentHeight() const { return qRound(host().viewportHeight()); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
+        QTest::keyClick(scene->window(), key, modifiers);
+    }
+    void closeAndRelease() const {
+        QSignalSpy released(scene.get(), &MainWindowScene::released);
+        scene->close();
+        ASSERT_TRUE(released.wait(1000));
+    }
+
+    TestState state;
+    RememberedActivationPolicy policy;
+    std::unique_ptr<MainWindowScene> scene;
+};
+
+TEST_F(MainWindowTest, ClosingHidesAndThenFreesEverything) {
+    EXPECT_EQ(scene->window(), nullptr);
+    scene->show();
+    EXPECT_TRUE(scene->isVisible());
+    EXPECT_TRUE(hasContent());
+    EXPECT_EQ(policy.policy(), Policy::regular);
+
+    QSignalSpy closed(scene.get(), &MainWindowScene::closed);
+    const QPointer<QQuickWindow> window = scene->window();
+    window->close();
+    EXPECT_EQ(closed.size(), 1);
+    EXPECT_FALSE(scene->isVisible());
+    EXPECT_FALSE(hasContent());
+    EXPECT_EQ(policy.policy(), Policy::accessory);
+    QSignalSpy released(scene.get(), &MainWindowScene::released);
+    ASSERT_TRUE(released.wait(1000));
+    EXPECT_EQ(window, nullptr);
+}
+
+TEST_F(MainWindowTest, ComesBackAsItWas) {
+    scene->show();
+    scene->selectSection(MainSection::presets);
+    // Let the height settle, so that what is chosen now is what stays.
+    QTest::qWait(400);
+    scene->window()->setFramePosition({40, 50});
+    scene->window()->resize(900, scene->window()->height());
+    const QRect geometry = scene->window()->geometry();
+    closeAndRelease();
+
+    scene->show();
+    EXPECT_EQ(scene->window()->geometry(), geometry);
+    const auto* model = qvariant_cast<MainWindowModel*>(
+        scene->window()->contentItem()->childItems().first()->property("model"));
+    EXPECT_EQ(model->section(), MainSection::presets);
+    EXPECT_EQ(policy.policy(), Policy::regular);
+}
+
+TEST_F(MainWindowTest, KeepsTheWindowThatIsWantedBackAtOnce) {
+    scene->setReleaseDelay(60s);
+    scene->show();
+    const QQuickWindow* window = scene->window();
+    scene->close();
+    scene->show();
+    EXPECT_EQ(scene->window(), window);
+    EXPECT_TRUE(hasContent());
+}
+
+TEST_F(MainWindowTest, MinimisingEmptiesTheWindowUntilItIsShown) {
+    state.defaults->setBoolean(u"hideDockIconWhenWindowClosed"_s, false);
+    scene->show();
+    QSignalSpy changed(&scene->visibility(), &MainWindowVisibility::isOnScreenChanged);
+    scene->window()->showMinimized();
+    EXPECT_FALSE(scene->isVisible());
+    EXPECT_FALSE(hasContent());
+    scene->show();
+    EXPECT_TRUE(scene->isVisible());
+    EXPECT_TRUE(hasContent());
+    EXPECT_EQ(changed.size(), 2);
+    scene->close();
+    EXPECT_EQ(policy.policy(), Policy::regular);
+}
+
+TEST_F(MainWindowTest, FollowsTheNaturalHeightOfTheSection) {
+    scene->show();
+    QTest::qWait(400);
+    // The dashboard asks for more than the screen has; the plain title for less than the least.
+    scene->selectSection(MainSection::curves);
+    QTRY_COMPARE_WITH_TIMEOUT(contentHeight(), 420, 1500);
+    EXPECT_EQ(scene->window()->width(), 820);
+}
+
+TEST_F(MainWindowTest, ShowsTheTitleOfASectionThatCannotBeMade) {
+    scene->show();
+    scene->selectSection(MainSection::settings);
+    ASSERT_TRUE(hasContent());
+    EXPECT_EQ(host().childItems().last()->property("title").toString(), u"Settings"_s);
+}
+
+TEST_F(MainWindowTest, TakesItsCommandsFromTheKeyboard) {
+    scene->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(scene->window()));
+    const auto section = [this] {
+        return scene->window()
+            ->contentItem()
+            ->childItems()
+            .first()
+            ->property("model")
+            .value<MainWindowModel*>()
+            ->section();
+    };
+    press(Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(section(), MainSection::presets);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Left);
+    EXPECT_EQ(section(), MainSection::curves);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Right);
+    press(Qt::Key_Space);
+    EXPECT_EQ(state.presets().activePresetID(), FanPreset::coolID);
+    press(Qt::Key_Right);
+    press(Qt::Key_Return);
+    EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID);
+
+    QSignalSpy quit(scene.get(), &MainWindowScene::quitRequested);
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quit.size(), 1);
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(scene->isVisible());
+}
+
+TEST(MainWindowHeightControllerTest, ResizesOnceForSeveralReports) {
+    QWindow window;
+    window.setGeometry(50, 60, 400, 550);
+    MainWindowVisibility visibility;
+    MainWindowHeightController controller(window, visibility, [&] { return window.height() - 50; });
+    QSignalSpy resizing(&controller, &MainWindowHeightController::resizing);
+    controller.fitWindow(450);
+    controller.fitWindow(600);
+    controller.fitWindow(460.2);
+    QTRY_COMPARE_WITH_TIMEOUT(window.height(), 511, 1500);
+    EXPECT_EQ(resizing.size(), 1);
+    EXPECT_EQ(window.position(), QPoint(50, 60));
+
+    visibility.setOnScreen(false);
+    controller.fitWindow(700);
+    QTest::qWait(20);
+    EXPECT_EQ(resizing.size(), 1);
+}
+
+struct LaunchOption {
+    QStringList arguments;
+    bool isDark;
+    MainSection section;
+};
+
+class LaunchedMainWindowTest : public MainWindowTest,
+                               public testing::WithParamInterface<LaunchOption> {
+protected:
+    LaunchedMainWindowTest()
+        : MainWindowTest(GetParam().arguments) {}
+};
+
+TEST_P(LaunchedMainWindowTest, OpensAsTheOptionsSay) {
+    scene->show();
+    auto* view = scene->window()->contentItem()->childItems().first();
+    EXPECT_EQ(SceneAppearance::of(*qmlEngine(view)).isDark(), GetParam().isDark);
+    EXPECT_EQ(view->property("model").value<MainWindowModel*>()->section(), GetParam().section);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Options, LaunchedMainWindowTest,
+    testing::Values(LaunchOption{{u"-ForceColorScheme"_s, u"dark"_s}, true, MainSection::dashboard},
+                    LaunchOption{
+                        {u"-ForceColorScheme"_s, u"Dark"_s, u"-InitialSection"_s, u"Curves"_s},
+                        false,
+                        MainSection::curves}));
+
+class TimedMainWindowTest : public MainWindowTest {
+protected:
+    TimedMainWindowTest()
+        : MainWindowTest({u"-CloseMainWindowAfterSeconds"_s, u"0.05"_s}) {}
+};
+
+TEST_F(TimedMainWindowTest, ClosesItself) {
+    QSignalSpy closed(scene.get(), &MainWindowScene::closed);
+    scene->show();
+    EXPECT_TRUE(closed.wait(2000));
+    EXPECT_EQ(policy.policy(), Policy::accessory);
+}
+
+} // namespace
+} // namespace kestrowind

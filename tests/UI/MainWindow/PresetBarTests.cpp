@@ -1,0 +1,156 @@
+#include "Support/QtPrinters.h"
+#include "TestState.h"
+#include "UI/MainWindow/CaptionModel.h"
+#include "UI/MainWindow/PresetPillsModel.h"
+
+#include <QSignalSpy>
+#include <gmock/gmock.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+using Tint = CaptionModel::Tint;
+
+QStringList titles(const PillListModel* list) {
+    QStringList titles;
+    for (const PresetPill& pill : list->pills())
+        titles.append(pill.title);
+    return titles;
+}
+
+TEST(PresetPillsTest, ShortensLongNamesByPerceivedCharacters) {
+    struct Row {
+        QString name, title;
+    };
+    for (const auto& [name, title] : {
+             Row{u"Performance"_s, u"Performan…"_s},
+             Row{u"Quiet mode"_s, u"Quiet mode"_s},
+             Row{u"Cool and quiet"_s, u"Cool and…"_s},
+             Row{u"  Night shift"_s, u"Night s…"_s},
+             Row{QString(), QString()},
+             // Each cook is four code points but one character; each e with its accent two.
+             Row{u"👩🏽‍🍳👩🏽‍🍳👩🏽‍🍳"_s,
+                 u"👩🏽‍🍳👩🏽‍🍳👩🏽‍🍳"_s},
+             Row{u"e\u0301"_s.repeated(10), u"e\u0301"_s.repeated(10)},
+             Row{u"e\u0301"_s.repeated(11), u"e\u0301"_s.repeated(9) + u'…'},
+             Row{u"😀"_s.repeated(11), u"😀"_s.repeated(9) + u'…'},
+         })
+        EXPECT_EQ(PresetPills::shortenedTitle(name), title);
+}
+
+TEST(PresetPillsTest, TakesTheLongestRowThatFits) {
+    const QList<double> ten(10, 100.0);
+    const QList<double> five(5, 100.0);
+    struct Case {
+        QList<double> widths;
+        double available;
+        PresetPills::Row row;
+    };
+    // The overflow menu is 38 wide, gaps are 10.
+    for (const auto& [widths, available, row] : {
+             Case{ten, 918, {8, 918}},
+             Case{ten, 917.9, {6, 698}},
+             Case{ten, 697, {4, 478}},
+             Case{ten, 477, {2, 258}},
+             Case{ten, 257, {1, 148}},
+             Case{ten, 10, {1, 148}},
+             Case{five, 540, {5, 540}},
+             Case{five, 539, {4, 478}},
+             Case{QList<double>(8, 100.0), 870, {8, 870}},
+             Case{{}, 100, {0, 0}},
+         })
+        EXPECT_EQ(PresetPills::fittingRow(widths, available), row) << available;
+}
+
+TEST(PresetPillsModelTest, ShowsTheSlotsInOrderAndTheRestInTheMenu) {
+    TestState state;
+    const auto mine = state.presets().addPreset(u"Performance"_s);
+    PresetPillsModel model(*state.appState);
+    EXPECT_EQ(model.shown()->count(), 0);
+
+    model.setAvailableWidth(2000);
+    EXPECT_THAT(titles(model.shown()),
+                ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s, u"Performan…"_s));
+    EXPECT_EQ(model.shown()->pills().last().fullName, u"Performance"_s);
+    EXPECT_TRUE(model.shown()->pills().first().isActive);
+    EXPECT_EQ(model.shown()->pills().first().symbolName, u"gearshape"_s);
+
+    state.presets().setActivePresetID(mine->id);
+    model.setAvailableWidth(model.rowWidth() - 1);
+    EXPECT_THAT(titles(model.shown()), ElementsAre(u"Automatic"_s, u"Cool"_s));
+    EXPECT_THAT(titles(model.overflow()), ElementsAre(u"Full Speed"_s, u"Performan…"_s));
+    EXPECT_TRUE(model.isActiveInOverflow());
+    model.activateOverflow(0);
+    EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID);
+    model.activateShown(0);
+    EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
+    EXPECT_FALSE(model.isActiveInOverflow());
+    model.activateShown(7);
+}
+
+TEST(PresetPillsModelTest, TellsMovesAndSingleChangesOnly) {
+    TestState state;
+    PresetPillsModel model(*state.appState);
+    model.setAvailableWidth(2000);
+    PillListModel& shown = *model.shown();
+    QSignalSpy inserted(&shown, &PillListModel::rowsInserted);
+    QSignalSpy removed(&shown, &PillListModel::rowsRemoved);
+    QSignalSpy moved(&shown, &PillListModel::rowsMoved);
+    QSignalSpy changed(&shown, &PillListModel::dataChanged);
+    QSignalSpy reset(&shown, &PillListModel::modelReset);
+
+    state.presets().moveSlot(PresetSlot::automatic(), PresetSlot::preset(FanPreset::fullSpeedID));
+    EXPECT_GT(moved.size(), 0);
+    EXPECT_EQ(changed.size(), 0);
+    state.presets().setActivePresetID(FanPreset::coolID);
+    EXPECT_EQ(changed.size(), 2);
+    const auto added = state.presets().addPreset(u"Mine"_s);
+    EXPECT_EQ(inserted.size(), 1);
+    EXPECT_EQ(removed.size(), 0);
+    state.presets().remove(*added);
+    EXPECT_EQ(removed.size(), 1);
+    EXPECT_EQ(reset.size(), 0);
+}
+
+TEST(PresetPillsModelTest, SwitchesOnlyWhileTheHelperCan) {
+    TestState state;
+    PresetPillsModel model(*state.appState);
+    model.setAvailableWidth(2000);
+    QSignalSpy changed(&model, &PresetPillsModel::isSwitchableChanged);
+    state.setPhase(HelperControlPhase::unlocking);
+    EXPECT_FALSE(model.isSwitchable());
+    model.activateShown(1);
+    EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
+    state.setPhase(HelperControlPhase::failed);
+    EXPECT_TRUE(model.isSwitchable());
+    state.helper->setState(HelperState::notInstalled);
+    EXPECT_FALSE(model.isSwitchable());
+    EXPECT_EQ(changed.size(), 3);
+}
+
+TEST(CaptionModelTest, SaysTheStatusElseWhatThePresetDoes) {
+    TestState state;
+    CaptionModel model(*state.appState);
+    QSignalSpy changed(&model, &CaptionModel::lineChanged);
+    EXPECT_EQ(model.line(), (CaptionModel::Line{.text = u"The Mac controls its fans itself"_s}));
+    state.presets().setActivePresetID(FanPreset::coolID);
+    EXPECT_EQ(model.text(), u"Spins up early to keep the Mac cool"_s);
+    state.setPhase(HelperControlPhase::unlocking);
+    EXPECT_EQ(model.line(), (CaptionModel::Line{u"Taking control of the fans…"_s, u"hourglass"_s,
+                                                Tint::Accent, true}));
+    state.presets().setActivePresetID(std::nullopt);
+    EXPECT_EQ(changed.size(), 2) << "the status hides the preset's caption";
+    state.setPhase(HelperControlPhase::controlling);
+    state.boost(60);
+    EXPECT_EQ(model.line(),
+              (CaptionModel::Line{u"Boosting"_s, u"bolt.fill"_s, Tint::Warning, false}));
+    state.helper->setState(HelperState::notInstalled);
+    EXPECT_EQ(model.line(),
+              (CaptionModel::Line{u"The helper is not installed"_s,
+                                  u"exclamationmark.triangle.fill"_s, Tint::Neutral, false}));
+}
+
+} // namespace
+} // namespace kestrowind

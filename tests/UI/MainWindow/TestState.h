@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Core/AppState.h"
+#include "Core/PreviewHelperClient.h"
+#include "Support/TestDefaults.h"
+
+#include <functional>
+
+namespace kestrowind {
+
+/// The application's state with a helper that applies whatever it is asked for.
+class TestState {
+public:
+    class ObedientHelper final : public PreviewHelperClient {
+    public:
+        QCoro::Task<std::optional<Targets>> setTargets(Targets targets) override {
+            co_return targets;
+        }
+    };
+
+    using Furnish = std::function<void(const QString& folder)>;
+
+    /// `furnish` puts into the presets' folder what is to be found there.
+    explicit TestState(const QStringList& arguments = {}, const Furnish& furnish = {})
+        : defaults(home.defaults(arguments)) {
+        if (furnish)
+            furnish(home.path());
+        auto telemetry = std::make_unique<TelemetryStore>(*defaults, SMCUserClientFactory());
+        auto store = std::make_unique<PresetStore>(2, *defaults,
+                                                   PresetStore::Storage{.folder = home.path()});
+        auto engine = std::make_unique<ControlEngine>(*telemetry, *store, *helper);
+        appState = std::make_unique<AppState>(std::move(telemetry),
+                                              std::unique_ptr<HelperControlling>(helper),
+                                              std::move(store), std::move(engine));
+    }
+
+    [[nodiscard]] PresetStore& presets() const { return appState->presets(); }
+    void setPhase(HelperControlPhase phase) {
+        HelperStatus status;
+        status.phase = phase;
+        helper->setLastStatus(status);
+    }
+    /// Drives the fans by the quick boost; the engine pushes with the sample.
+    void boost(double percent) {
+        appState->engine().setQuickBoostPercent(percent);
+        appState->telemetry().ingest(
+            {.timestamp = std::chrono::system_clock::now(),
+             .temperatures = {.cpuAverage = 50, .cpuMax = 55, .hottest = 55},
+             .fans = {{.index = 0, .actualRPM = 2000, .minRPM = 1200, .maxRPM = 6000}}});
+    }
+
+    TestHome home;
+    std::unique_ptr<UserDefaults> defaults;
+    ObedientHelper* helper = new ObedientHelper;
+    std::unique_ptr<AppState> appState;
+};
+
+} // namespace kestrowind
