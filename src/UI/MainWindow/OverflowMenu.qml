@@ -1,3 +1,4 @@
+import QtQml.Models
 import QtQuick
 import QtQuick.Templates as T
 import Kestrowind.DesignSystem
