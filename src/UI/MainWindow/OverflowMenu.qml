@@ -1,4 +1,3 @@
-import QtQml.Models
 import QtQuick
 import QtQuick.Templates as T
 import Kestrowind.DesignSystem
@@ -52,7 +51,7 @@ T.Button {
             width = widest + leftPadding + rightPadding
         }
 
-        Instantiator {
+        Repeater {
             model: root.model
             delegate: PopupMenuItem {
                 required property int index
@@ -67,8 +66,6 @@ T.Button {
                 onToggled: checked = Qt.binding(() => isActive)
                 onTriggered: root.chosen(index)
             }
-            onObjectAdded: (index, object) => menu.insertItem(index, object as PopupMenuItem)
-            onObjectRemoved: (index, object) => menu.removeItem(object as PopupMenuItem)
         }
     }
 
