@@ -3,30 +3,8 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
-    <message id="preset.builtIn.cool.name">
-        <translation>Cool</translation>
-    </message>
-    <message id="preset.builtIn.fullSpeed.name">
-        <translation>Full Speed</translation>
-    </message>
-    <message id="presets.duplicate.name">
-        <extracomment>%1: name of the preset that was duplicated</extracomment>
-        <translation>%1 Copy</translation>
-    </message>
-    <message id="presets.card.automaticCaption">
-        <translation>The Mac controls its fans itself</translation>
-    </message>
-    <message id="presets.card.coolCaption">
-        <translation>Spins up early to keep the Mac cool</translation>
-    </message>
-    <message id="presets.card.fullSpeedCaption">
-        <translation>Every fan at its highest speed</translation>
-    </message>
-    <message id="presets.card.builtInCurveCaption">
-        <translation>Built-in curve</translation>
-    </message>
-    <message id="presets.card.customCurveCaption">
-        <translation>Your own curve</translation>
+    <message id="app.window.mainTitle">
+        <translation>Kestrowind</translation>
     </message>
     <message id="curves.newPresetName.base">
         <translation>New Preset</translation>
@@ -35,11 +13,138 @@
         <extracomment>%1: 2, 3, ...</extracomment>
         <translation>New Preset %1</translation>
     </message>
-    <message id="mainWindow.section.dashboard">
-        <translation>Dashboard</translation>
+    <message id="dashboard.chart.axisDegrees">
+        <extracomment>%1: whole degrees Celsius</extracomment>
+        <translation>%1 °C</translation>
+    </message>
+    <message id="dashboard.chart.axisMinutesAgo">
+        <extracomment>%1: minutes before now</extracomment>
+        <translation>%1 min ago</translation>
+    </message>
+    <message id="dashboard.chart.axisSecondsAgo">
+        <extracomment>%1: seconds before now</extracomment>
+        <translation>%1 s ago</translation>
+    </message>
+    <message id="dashboard.chart.cpuMaxLegend">
+        <translation>CPU hottest core</translation>
+    </message>
+    <message id="dashboard.chart.gpuMaxLegend">
+        <translation>GPU hottest core</translation>
+    </message>
+    <message id="dashboard.chart.spokenCPU">
+        <extracomment>%1: lowest, %2: highest, whole degrees Celsius</extracomment>
+        <translation>CPU %1 to %2 °C</translation>
+    </message>
+    <message id="dashboard.chart.spokenFanSpeeds">
+        <extracomment>%1: the time shown, such as “Last 30 minutes”, %2: lowest, %3: highest</extracomment>
+        <translation>Fan speed chart. %1: %2 to %3 revolutions per minute</translation>
+    </message>
+    <message id="dashboard.chart.spokenGPU">
+        <extracomment>%1: lowest, %2: highest, whole degrees Celsius</extracomment>
+        <translation>GPU %1 to %2 °C</translation>
+    </message>
+    <message id="dashboard.chart.spokenTemperatures">
+        <extracomment>%1: the time shown, such as “Last 30 minutes”, %2: CPU range, %3: GPU range</extracomment>
+        <translation>Temperature chart. %1: %2, %3</translation>
+    </message>
+    <message id="dashboard.fans.differentSpeedsNote">
+        <translation>It is normal for the fans to run at slightly different speeds.</translation>
+    </message>
+    <message id="dashboard.fans.spokenParked">
+        <extracomment>%1: the fan’s name</extracomment>
+        <translation>%1: parked</translation>
+    </message>
+    <message id="dashboard.fans.spokenSpeed">
+        <extracomment>%1: the fan’s name, %2: revolutions per minute</extracomment>
+        <translation>%1: %2 revolutions per minute</translation>
+    </message>
+    <message id="dashboard.fans.title">
+        <translation>Fans</translation>
+    </message>
+    <message id="dashboard.helperBanner.message">
+        <translation>Fans can be watched, but not controlled: the helper is not installed. Install it in Settings.</translation>
+    </message>
+    <message id="dashboard.history.collectingSubtitle">
+        <translation>The charts begin with the next few readings.</translation>
+    </message>
+    <message id="dashboard.history.collectingTitle">
+        <translation>Collecting Data</translation>
+    </message>
+    <message id="dashboard.history.title">
+        <translation>History</translation>
+    </message>
+    <message id="dashboard.history.windowFallback">
+        <extracomment>Before there is any history</extracomment>
+        <translation>Last 30 minutes</translation>
+    </message>
+    <message id="dashboard.history.windowLastMinute">
+        <translation>Last minute</translation>
+    </message>
+    <message id="dashboard.history.windowLastMinutes">
+        <extracomment>%1: 2 to 30</extracomment>
+        <translation>Last %1 minutes</translation>
+    </message>
+    <message id="dashboard.loading.subtitle">
+        <translation>Fans and temperatures appear here in a moment.</translation>
+    </message>
+    <message id="dashboard.loading.title">
+        <translation>Reading the sensors…</translation>
+    </message>
+    <message id="dashboard.temperature.averageLabel">
+        <translation>Average</translation>
+    </message>
+    <message id="dashboard.temperature.cpuTitle">
+        <translation>CPU</translation>
+    </message>
+    <message id="dashboard.temperature.gpuTitle">
+        <translation>GPU</translation>
+    </message>
+    <message id="dashboard.temperature.hottestCoreCaption">
+        <extracomment>%1: a formatted temperature</extracomment>
+        <translation>Hottest core %1 °C</translation>
+    </message>
+    <message id="dashboard.temperature.sessionPeak">
+        <extracomment>%1: a formatted temperature; the highest since the application was started</extracomment>
+        <translation>Session peak %1 °C</translation>
+    </message>
+    <message id="dashboard.temperature.spoken">
+        <extracomment>%1: CPU or GPU, %2: its average with unit, %3: the line of the hottest core, %4: the line of the session peak</extracomment>
+        <translation>%1: average %2, %3, %4</translation>
+    </message>
+    <message id="dashboard.unsupported.message">
+        <translation>This Mac has no fans, or its sensors cannot be read. There is nothing to show or control here.</translation>
+    </message>
+    <message id="dashboard.unsupported.title">
+        <translation>No Fans Found</translation>
+    </message>
+    <message id="gauge.readout.degrees">
+        <extracomment>%1: a formatted temperature</extracomment>
+        <translation>%1 °C</translation>
+    </message>
+    <message id="gauge.readout.parked">
+        <extracomment>A fan that stands still</extracomment>
+        <translation>parked</translation>
+    </message>
+    <message id="gauge.readout.rpm">
+        <translation>rpm</translation>
+    </message>
+    <message id="mainWindow.presetBar.hardwareFailure">
+        <translation>The fans could not be controlled</translation>
+    </message>
+    <message id="mainWindow.presetBar.helperMissing">
+        <translation>The helper is not installed</translation>
+    </message>
+    <message id="mainWindow.presetBar.label">
+        <translation>Presets</translation>
+    </message>
+    <message id="mainWindow.presetBar.morePresets">
+        <translation>More presets</translation>
     </message>
     <message id="mainWindow.section.curves">
         <translation>Curves</translation>
+    </message>
+    <message id="mainWindow.section.dashboard">
+        <translation>Dashboard</translation>
     </message>
     <message id="mainWindow.section.presets">
         <translation>Presets</translation>
@@ -50,39 +155,98 @@
     <message id="mainWindow.sectionPicker.label">
         <translation>Section</translation>
     </message>
-    <message id="mainWindow.presetBar.label">
-        <translation>Presets</translation>
+    <message id="menuBar.boost.caption">
+        <translation>Quick Boost</translation>
     </message>
-    <message id="mainWindow.presetBar.morePresets">
-        <translation>More presets</translation>
+    <message id="menuBar.boost.percent">
+        <extracomment>%1: 0 to 100</extracomment>
+        <translation>%1%</translation>
     </message>
-    <message id="mainWindow.presetBar.helperMissing">
-        <translation>The helper is not installed</translation>
+    <message id="menuBar.fan.parked">
+        <extracomment>a fan that stands still because the Mac needs no air</extracomment>
+        <translation>Parked</translation>
     </message>
-    <message id="mainWindow.presetBar.hardwareFailure">
-        <translation>The fans could not be controlled</translation>
+    <message id="menuBar.fan.rpmUnit">
+        <translation>RPM</translation>
     </message>
-    <message id="shared.fan.left">
-        <translation>Left fan</translation>
+    <message id="menuBar.fan.spoken">
+        <extracomment>spoken; %1: the fan, %2: its speed, or that it is parked</extracomment>
+        <translation>%1: %2</translation>
     </message>
-    <message id="shared.fan.right">
-        <translation>Right fan</translation>
+    <message id="menuBar.fan.spokenSpeed">
+        <extracomment>spoken; %1: whole number, or --</extracomment>
+        <translation>%1 revolutions per minute</translation>
     </message>
-    <message id="shared.fan.numbered">
-        <extracomment>%1: the fan's number, from 1</extracomment>
-        <translation>Fan %1</translation>
+    <message id="menuBar.helperMissing.body">
+        <translation>Presets and the quick boost need the helper, which is installed once from the main window.</translation>
     </message>
-    <message id="shared.mode.automatic">
-        <translation>Automatic</translation>
+    <message id="menuBar.helperMissing.title">
+        <translation>Fan control is off</translation>
     </message>
-    <message id="app.window.mainTitle">
-        <translation>Kestrowind</translation>
+    <message id="menuBar.item.fanSpeed">
+        <extracomment>%1: revolutions per minute, or --; in the menu bar, as short as can be</extracomment>
+        <translation>%1 rpm</translation>
     </message>
-    <message id="shared.mode.startingBoost">
-        <translation>Taking control of the fans…</translation>
+    <message id="menuBar.item.temperature">
+        <extracomment>%1: whole degrees, or --; in the menu bar, as short as can be</extracomment>
+        <translation>%1°C</translation>
     </message>
-    <message id="shared.mode.boosting">
-        <translation>Boosting</translation>
+    <message id="menuBar.openApplicationButton">
+        <translation>Open Kestrowind</translation>
+    </message>
+    <message id="menuBar.openSettingsButton">
+        <translation>Set Up Fan Control…</translation>
+    </message>
+    <message id="menuBar.preset.caption">
+        <translation>Preset</translation>
+    </message>
+    <message id="menuBar.quitButton">
+        <translation>Quit Kestrowind</translation>
+    </message>
+    <message id="menuBar.quitButton.help">
+        <translation>Hands the fans back to the Mac and quits</translation>
+    </message>
+    <message id="menuBar.temperature.cpu">
+        <translation>CPU</translation>
+    </message>
+    <message id="menuBar.temperature.degrees">
+        <extracomment>%1: whole degrees, or --</extracomment>
+        <translation>%1°C</translation>
+    </message>
+    <message id="menuBar.temperature.gpu">
+        <translation>GPU</translation>
+    </message>
+    <message id="menuBar.temperature.spoken">
+        <extracomment>spoken; %1: CPU or GPU, %2: the temperature</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message id="menuBar.waitingForSensors">
+        <translation>Waiting for the sensors…</translation>
+    </message>
+    <message id="preset.builtIn.cool.name">
+        <translation>Cool</translation>
+    </message>
+    <message id="preset.builtIn.fullSpeed.name">
+        <translation>Full Speed</translation>
+    </message>
+    <message id="presets.card.automaticCaption">
+        <translation>The Mac controls its fans itself</translation>
+    </message>
+    <message id="presets.card.builtInCurveCaption">
+        <translation>Built-in curve</translation>
+    </message>
+    <message id="presets.card.coolCaption">
+        <translation>Spins up early to keep the Mac cool</translation>
+    </message>
+    <message id="presets.card.customCurveCaption">
+        <translation>Your own curve</translation>
+    </message>
+    <message id="presets.card.fullSpeedCaption">
+        <translation>Every fan at its highest speed</translation>
+    </message>
+    <message id="presets.duplicate.name">
+        <extracomment>%1: name of the preset that was duplicated</extracomment>
+        <translation>%1 Copy</translation>
     </message>
     <message id="settings.helper.error.adminScriptFailed">
         <extracomment>%1: what the script runner said</extracomment>
@@ -90,6 +254,28 @@
     </message>
     <message id="settings.helper.error.resourcesMissing">
         <translation>The application is incomplete: its helper is missing from the bundle.</translation>
+    </message>
+    <message id="shared.fan.left">
+        <translation>Left fan</translation>
+    </message>
+    <message id="shared.fan.numbered">
+        <extracomment>%1: the fan's number, from 1</extracomment>
+        <translation>Fan %1</translation>
+    </message>
+    <message id="shared.fan.right">
+        <translation>Right fan</translation>
+    </message>
+    <message id="shared.mode.automatic">
+        <translation>Automatic</translation>
+    </message>
+    <message id="shared.mode.boosting">
+        <translation>Boosting</translation>
+    </message>
+    <message id="shared.mode.controlUnavailable">
+        <translation>Control unavailable</translation>
+    </message>
+    <message id="shared.mode.startingBoost">
+        <translation>Taking control of the fans…</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "Core/LocalizedText.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QTranslator>
 
 static void initialiseTextResource() {

@@ -32,6 +32,10 @@ int KestrowindApp::run() {
     m_terminationSignals.emplace();
     connect(&*m_terminationSignals, &TerminationSignals::terminationRequested, this,
             &KestrowindApp::terminate);
+    m_scenes = std::make_unique<Scenes>(m_appState, m_platform);
+    connect(m_scenes.get(), &Scenes::quitRequested, this, &KestrowindApp::terminate);
+    m_scenes->present();
+    // Set from the start, not with the first window: a hidden start has fans to hand back as well.
     m_delegate.setAppState(&m_appState);
     m_delegate.applicationDidFinishLaunching();
     return QCoreApplication::exec();

@@ -4,6 +4,7 @@
 #include "KestrowindApp/AppDelegate.h"
 #include "KestrowindApp/LaunchOptions.h"
 #include "KestrowindApp/ReadingsPrinter.h"
+#include "KestrowindApp/Scenes.h"
 #include "Platform/Platform.h"
 #include "Platform/TerminationSignals.h"
 
@@ -24,7 +25,8 @@ public:
     KestrowindApp(const QStringList& arguments, const LaunchOptions& options);
     ~KestrowindApp() override;
 
-    /// Runs until the quit path has ended; returns the process's exit status.
+    /// Shows the scenes and runs until the quit path has ended; returns the process's exit status.
+    /// Needs a QApplication.
     int run();
     /// Writes the SMC diagnostic dump to standard output.
     void dumpSMCKeys() const;
@@ -39,6 +41,7 @@ private:
     AppDelegate m_delegate;
     std::optional<TerminationSignals> m_terminationSignals;
     std::unique_ptr<ReadingsPrinter> m_readingsPrinter;
+    std::unique_ptr<Scenes> m_scenes; ///< made when the application runs
 };
 
 } // namespace kestrowind

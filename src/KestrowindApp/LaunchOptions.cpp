@@ -28,6 +28,10 @@ QString LaunchOptions::help() {
 Shows the machine's temperatures and fans, and drives the fans by presets.
 
   -ActivatePreset NAME        activate this preset, or Automatic, for this run only
+  -InitialSection NAME        dashboard, curves, presets or settings
+  -StartHidden YES            start in the menu bar without the window
+  -ForceColorScheme NAME      light or dark, for the main window
+  -CloseMainWindowAfterSeconds N
   -PrintReadings text|json    one line a sample on standard output
   -DumpSMCKeys                write what can be seen in the SMC to standard output and end
   -help, -version             say this, or the version, and end

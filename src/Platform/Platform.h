@@ -28,6 +28,9 @@ struct Platform {
     SystemAppearanceFactory systemAppearance;
 };
 
+/// What has to be set for this system's desktop before the application object is made.
+void prepareDesktop();
+
 /// The platform that this program was built for. `arguments` without the program's name.
 [[nodiscard]] Platform makePlatform(const QStringList& arguments);
 

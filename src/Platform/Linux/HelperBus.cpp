@@ -99,7 +99,7 @@ void HelperBus::call(const QString& method, const QVariantList& arguments,
         peer.asyncCall(message, static_cast<int>(callLifetime.count())), this);
     connect(
         watcher, &QDBusPendingCallWatcher::finished, this,
-        [this, watcher, peerName = m_peerName, replySignature, deliver, error] {
+        [watcher, peerName = m_peerName, replySignature, deliver, error] {
             watcher->deleteLater();
             const QDBusMessage reply = watcher->reply();
             if (!watcher->isError() && reply.signature() == replySignature)

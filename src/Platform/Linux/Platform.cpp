@@ -9,11 +9,14 @@
 #include "Simulator/Link/SimulatedMac.h"
 
 #include <QFile>
+#include <QLoggingCategory>
 
 namespace kestrowind {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(platformLog, "app.kestrowind.platform", QtInfoMsg)
 
 /// A computer that is no Mac: nobody offers the SMC's service.
 class NoSMC final : public SMCUserClient {
@@ -36,6 +39,18 @@ SMCUserClientFactory machineSMC() {
 }
 
 } // namespace
+
+void prepareDesktop() {
+    const auto isSet = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
+    // Our windows are small and mostly still: drawn by the processor they need a third of the
+    // memory that an OpenGL stack takes before it draws anything, and are on the screen sooner.
+    if (!isSet("QT_QUICK_BACKEND") && !isSet("QSG_RHI_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
+    if (!isSet("DISPLAY") && !isSet("WAYLAND_DISPLAY") && !isSet("QT_QPA_PLATFORM")) {
+        qCInfo(platformLog) << "no display: nothing is shown";
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
 
 Platform makePlatform(const QStringList& arguments) {
     auto store = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,

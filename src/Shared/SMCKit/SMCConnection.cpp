@@ -9,7 +9,7 @@ namespace kestrowind {
 
 SMCValue::SMCValue(std::uint32_t typeCode, std::span<const std::uint8_t> bytes)
     : m_typeCode(typeCode)
-    , m_size(static_cast<std::uint8_t>(std::min(bytes.size(), m_bytes.size()))) {
+    , m_size(static_cast<std::uint8_t>(std::min(bytes.size(), capacity))) {
     std::copy_n(bytes.begin(), m_size, m_bytes.begin());
 }
 

@@ -33,9 +33,11 @@ public:
     [[nodiscard]] std::optional<std::uint8_t> asByte() const;
 
 private:
+    static constexpr std::size_t capacity = 32; ///< the record has no room for more
+
     std::uint32_t m_typeCode;
     std::uint8_t m_size;
-    std::array<std::uint8_t, 32> m_bytes{};
+    std::array<std::uint8_t, capacity> m_bytes{};
 };
 
 /// An open user client of the System Management Controller with typed access by key name.

@@ -1,0 +1,57 @@
+#include "KestrowindApp/Scenes.h"
+
+#include "Core/AppState.h"
+#include "Platform/Platform.h"
+#include "UI/Dashboard/DashboardModel.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+std::vector<SectionView> sectionViews(AppState& appState) {
+    return {
+        {.section = MainSection::dashboard,
+         .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
+         .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
+    };
+}
+
+} // namespace
+
+Scenes::Scenes(AppState& appState, Platform& platform)
+    : m_systemAppearance(platform.systemAppearance())
+    , m_startsHidden(platform.userDefaults->boolean(u"StartHidden"_s))
+    , m_mainWindow(appState, *platform.userDefaults, *platform.activationPolicy,
+                   m_systemAppearance.get())
+    , m_menuBarExtra(appState, m_systemAppearance.get()) {
+    // Closing the window hides it; the application lives on in the menu bar.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
+
+    m_mainWindow.setSectionViews(sectionViews(appState));
+    appState.setOpenMainWindow([this] { m_mainWindow.show(); });
+    connect(&m_menuBarExtra, &MenuBarExtra::openMainWindowRequested, &m_mainWindow,
+            &MainWindowScene::show);
+    connect(&m_menuBarExtra, &MenuBarExtra::quitRequested, this, &Scenes::quitRequested);
+    connect(&m_mainWindow, &MainWindowScene::quitRequested, this, &Scenes::quitRequested);
+
+    m_trayWait.setSingleShot(true);
+    m_trayWait.setInterval(trayWait);
+    connect(&m_trayWait, &QTimer::timeout, &m_mainWindow, &MainWindowScene::show);
+    connect(&m_menuBarExtra, &MenuBarExtra::availableChanged, &m_trayWait, &QTimer::stop);
+}
+
+Scenes::~Scenes() = default;
+
+void Scenes::present() {
+    if (!m_startsHidden)
+        m_mainWindow.show();
+    else if (!m_menuBarExtra.isAvailable())
+        m_trayWait.start();
+}
+
+} // namespace kestrowind

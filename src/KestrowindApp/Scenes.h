@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Platform/SystemAppearance.h"
+#include "UI/MainWindow/MainWindowScene.h"
+#include "UI/MenuBar/MenuBarExtra.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+#include <memory>
+
+namespace kestrowind {
+
+class AppState;
+struct Platform;
+
+/// The application's two scenes, the main window and the menu-bar extra, and how they lead to each
+/// other. Needs a QApplication; belongs to the main thread.
+class Scenes final : public QObject {
+    Q_OBJECT
+
+public:
+    /// How long a hidden start waits for a tray, which may come up later than we do at login.
+    static constexpr std::chrono::seconds trayWait{5};
+
+    /// State and platform must outlive the scenes.
+    Scenes(AppState& appState, Platform& platform);
+    ~Scenes() override;
+
+    /// Presents the main window; with the launch option "StartHidden" only where no tray comes up.
+    void present();
+
+Q_SIGNALS:
+    void quitRequested();
+
+private:
+    std::unique_ptr<SystemAppearance> m_systemAppearance;
+    bool m_startsHidden;
+    MainWindowScene m_mainWindow;
+    MenuBarExtra m_menuBarExtra;
+    QTimer m_trayWait;
+};
+
+} // namespace kestrowind

@@ -1,0 +1,27 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+// A mark and what it stands for.
+Row {
+    id: root
+
+    required property string text
+    default property alias mark: frame.data
+
+    spacing: 6
+
+    Item {
+        id: frame
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: childrenRect.width
+        height: childrenRect.height
+    }
+
+    Text {
+        text: root.text
+        textFormat: Text.PlainText
+        font: Typography.caption
+        color: AppColors.secondaryText
+    }
+}

@@ -1,0 +1,26 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+// A card as high as what it holds.
+Item {
+    id: root
+
+    property real padding: Spacing.section
+    default property alias content: body.data
+
+    implicitHeight: body.implicitHeight + 2 * padding
+
+    CardBackground {
+        anchors.fill: parent
+        cornerRadius: Radius.card
+    }
+
+    Item {
+        id: body
+
+        x: root.padding
+        y: root.padding
+        width: root.width - 2 * root.padding
+        implicitHeight: childrenRect.height
+    }
+}

@@ -1,0 +1,68 @@
+import QtQuick
+import Kestrowind.DesignSystem
+import Kestrowind.Dashboard
+
+// The last half hour as two charts.
+DashboardCard {
+    id: root
+
+    required property DashboardModel model
+
+    padding: Spacing.large
+
+    Column {
+        width: parent.width
+        spacing: Spacing.regular
+
+        Item {
+            width: parent.width
+            height: title.height
+
+            Text {
+                id: title
+
+                text: qsTrId("dashboard.history.title")
+                textFormat: Text.PlainText
+                font: Typography.title3
+                color: AppColors.primaryText
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+
+            TabularText {
+                anchors.right: parent.right
+                anchors.baseline: title.baseline
+                text: root.model.windowCaption
+                font: Typography.subheadline
+                color: AppColors.secondaryText
+            }
+        }
+
+        Loader {
+            active: root.model.hasHistory
+            visible: active
+            width: parent.width
+            sourceComponent: Column {
+                spacing: Spacing.regular
+
+                TemperatureHistoryChart {
+                    width: parent.width
+                    chart: root.model.temperatures
+                }
+
+                Separator { width: parent.width }
+
+                FanSpeedHistoryChart {
+                    width: parent.width
+                    chart: root.model.fanSpeeds
+                    fans: root.model.fans
+                }
+            }
+        }
+
+        HistoryPlaceholder {
+            visible: !root.model.hasHistory
+            width: parent.width
+        }
+    }
+}

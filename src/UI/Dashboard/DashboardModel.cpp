@@ -1,0 +1,99 @@
+#include "UI/Dashboard/DashboardModel.h"
+
+#include "Core/AppState.h"
+#include "Core/AssignIfChanged.h"
+#include "Core/LocalizedText.h"
+#include "UI/Dashboard/FanSpeedHistory.h"
+#include "UI/Dashboard/HistorySamples.h"
+#include "UI/Dashboard/TemperatureHistory.h"
+#include "UI/DesignSystem/VisibilityWatch.h"
+
+namespace kestrowind {
+
+DashboardModel::DashboardModel(AppState& appState, QObject* parent)
+    : QObject(parent)
+    , m_appState(appState) {
+    // The history changes with every sample, once the store has taken in all of it.
+    connect(&appState.telemetry(), &TelemetryStore::historyChanged, this,
+            &DashboardModel::takeSample);
+    connect(&appState.helper(), &HelperControlling::stateChanged, this,
+            &DashboardModel::takeHelperState);
+    takeHelperState();
+    takeSample();
+}
+
+DashboardModel::~DashboardModel() = default;
+
+DashboardModel::State DashboardModel::select(const TelemetryStore& telemetry) {
+    if (!telemetry.latest())
+        return State::Loading;
+    return telemetry.smcAvailable() && !telemetry.latest()->fans.empty() ? State::Content
+                                                                         : State::Unsupported;
+}
+
+void DashboardModel::setView(QQuickItem* view) {
+    if (!assignIfChanged(m_view, view))
+        return;
+    m_visibility.reset();
+    if (view) {
+        m_visibility = std::make_unique<VisibilityWatch>(*view);
+        connect(m_visibility.get(), &VisibilityWatch::isSeenChanged, this,
+                &DashboardModel::refreshIfSeen);
+        connect(view, &QObject::destroyed, this, [this] { m_visibility.reset(); });
+    }
+    refreshIfSeen();
+    Q_EMIT viewChanged();
+}
+
+void DashboardModel::takeSample() {
+    // What a state shows is there before the state is.
+    refreshIfSeen();
+    if (assignIfChanged(m_state, select(m_appState.telemetry())))
+        Q_EMIT stateChanged();
+}
+
+void DashboardModel::takeHelperState() {
+    if (assignIfChanged(m_helperMissing, m_appState.helper().state() == HelperState::notInstalled))
+        Q_EMIT helperMissingChanged();
+}
+
+void DashboardModel::refreshIfSeen() {
+    const TelemetryStore& telemetry = m_appState.telemetry();
+    if ((m_visibility && !m_visibility->isSeen()) || select(telemetry) != State::Content)
+        return;
+    m_fans.setFans(telemetry.latest()->fans);
+    refreshTemperatures();
+    refreshHistory();
+}
+
+void DashboardModel::refreshTemperatures() {
+    const TelemetryStore& telemetry = m_appState.telemetry();
+    const SMCTemperatureSnapshot& latest = telemetry.latest()->temperatures;
+    if (assignIfChanged(m_cpu, TemperatureFacts::of(localized("dashboard.temperature.cpuTitle"),
+                                                    {.average = latest.cpuAverage,
+                                                     .hottestCore = telemetry.cpuHottestSmoothed(),
+                                                     .sessionPeak = telemetry.peakCPU()})))
+        Q_EMIT cpuChanged();
+    if (assignIfChanged(m_gpu, TemperatureFacts::of(localized("dashboard.temperature.gpuTitle"),
+                                                    {.average = latest.gpuAverage,
+                                                     .hottestCore = telemetry.gpuHottestSmoothed(),
+                                                     .sessionPeak = telemetry.peakGPU()})))
+        Q_EMIT gpuChanged();
+}
+
+void DashboardModel::refreshHistory() {
+    const QList<TelemetrySample>& history = m_appState.telemetry().history();
+    if (assignIfChanged(m_windowCaption, HistorySamples::windowCaption(history)))
+        Q_EMIT windowCaptionChanged();
+    const bool hasHistory = HistorySamples::areEnough(history);
+    if (hasHistory) {
+        const QList<TelemetrySample> samples = HistorySamples::downsampled(history);
+        m_temperatures = TemperatureHistory::chart(samples);
+        m_fanSpeeds = FanSpeedHistory::chart(samples);
+        Q_EMIT historyChanged();
+    }
+    if (assignIfChanged(m_hasHistory, hasHistory))
+        Q_EMIT hasHistoryChanged();
+}
+
+} // namespace kestrowind

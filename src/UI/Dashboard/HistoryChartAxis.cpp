@@ -1,0 +1,85 @@
+#include "UI/Dashboard/HistoryChartAxis.h"
+
+#include "Core/LocalizedText.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace kestrowind::HistoryChartAxis {
+namespace {
+
+struct TickRule {
+    double longestSpan;
+    double step; ///< also the first tick's distance from the newest sample
+};
+
+constexpr TickRule tickRules[] = {
+    {2.5, 0.5}, {6, 1}, {15, 3}, {std::numeric_limits<double>::infinity(), 5}};
+
+/// Below this, in seconds, a time is told in seconds.
+constexpr double secondsLimit = 95;
+
+constexpr double mostValueTicks = 5;
+
+} // namespace
+
+double minutesFromNow(const TelemetrySample& sample, const TelemetrySample& newest) {
+    return std::chrono::duration<double, std::ratio<60>>(sample.timestamp - newest.timestamp)
+        .count();
+}
+
+qint64 millisecondsFromNow(const TelemetrySample& sample, const TelemetrySample& newest) {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(sample.timestamp -
+                                                                 newest.timestamp)
+        .count();
+}
+
+double span(const QList<TelemetrySample>& samples) {
+    return samples.isEmpty() ? 1 : std::max(-minutesFromNow(samples.first(), samples.last()), 1.0);
+}
+
+LineChart::Domain domain(double span) {
+    return {.lower = -span, .upper = 0};
+}
+
+QList<double> ticks(double span) {
+    const double step = std::ranges::find_if(tickRules, [span](const TickRule& rule) {
+                            return span <= rule.longestSpan;
+                        })->step;
+    QList<double> ticks;
+    for (double tick = -step; tick > -span; tick -= step)
+        ticks.append(tick);
+    return ticks;
+}
+
+QString label(double tick) {
+    const double minutes = -tick;
+    if (minutes * 60 < secondsLimit)
+        return localized("dashboard.chart.axisSecondsAgo").arg(std::lround(minutes * 60));
+    return localized("dashboard.chart.axisMinutesAgo").arg(std::lround(minutes));
+}
+
+QList<LineChart::Tick> labelledTicks(double span) {
+    QList<LineChart::Tick> labelled;
+    for (const double tick : ticks(span))
+        labelled.append({.position = tick, .label = label(tick)});
+    return labelled;
+}
+
+QList<double> valueTicks(const LineChart::Domain& domain) {
+    QList<double> ticks;
+    // 1, 2 or 5 times a power of ten.
+    const double least = domain.length() / mostValueTicks;
+    const double power = std::pow(10.0, std::floor(std::log10(least)));
+    double step = 10 * power;
+    for (const double factor : {5.0, 2.0, 1.0}) {
+        if (factor * power >= least)
+            step = factor * power;
+    }
+    for (double tick = std::ceil(domain.lower / step) * step; tick <= domain.upper; tick += step)
+        ticks.append(tick);
+    return ticks;
+}
+
+} // namespace kestrowind::HistoryChartAxis

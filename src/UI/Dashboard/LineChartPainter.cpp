@@ -1,0 +1,163 @@
+#include "UI/Dashboard/LineChartPainter.h"
+
+#include "UI/DesignSystem/Palette.h"
+#include "UI/DesignSystem/Typography.h"
+
+#include <QFontMetricsF>
+#include <QLinearGradient>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kestrowind::LineChartPainter {
+namespace {
+
+constexpr double lineWidth = 2;
+constexpr double labelColumn = 40; ///< on the left
+constexpr double labelRow = 20;    ///< below
+constexpr double topMargin = 7;    ///< half a label of a tick at the top
+constexpr double rightMargin = 2;
+constexpr double labelGap = 8;
+constexpr double areaOpacity = 0.22;
+constexpr double foregroundOpacity = 0.7;
+
+QColor withOpacity(QColor color, double factor) {
+    color.setAlphaF(static_cast<float>(static_cast<double>(color.alphaF()) * factor));
+    return color;
+}
+
+/// In the middle of a device pixel, so that a one-point line is sharp.
+double sharp(double coordinate) {
+    return std::floor(coordinate) + 0.5;
+}
+
+double tabularWidth(const QString& text, const QFontMetricsF& metrics, double digitWidth) {
+    double width = 0;
+    for (const QChar character : text)
+        width += character.isDigit() ? digitWidth : metrics.horizontalAdvance(character);
+    return width;
+}
+
+/// Every digit has the same width, so that labels above each other and new ones line up.
+void drawTabular(QPainter& painter, QPointF start, const QString& text,
+                 const QFontMetricsF& metrics, double digitWidth) {
+    for (const QChar character : text) {
+        const double advance = metrics.horizontalAdvance(character);
+        const double width = character.isDigit() ? digitWidth : advance;
+        painter.drawText(start + QPointF((width - advance) / 2, 0), QString(character));
+        start.rx() += width;
+    }
+}
+
+void paintAxes(QPainter& painter, const LineChart& chart, const Look& look) {
+    const QFont font = Typography::caption2();
+    const QFontMetricsF metrics(font);
+    const double digitWidth = Typography::digitWidth(font);
+    const QRectF plot = look.plot();
+    const double base = std::round((metrics.ascent() - metrics.descent()) / 2);
+    painter.setFont(font);
+    const QPen grid(Palette::color(Palette::Role::separator, look.scheme), 1);
+    const QPen text(Palette::color(Palette::Role::tertiaryText, look.scheme));
+
+    for (const LineChart::Tick& tick : chart.valueTicks) {
+        const double y = look.position({0, tick.position}, chart).y();
+        painter.setPen(grid);
+        painter.drawLine(QPointF(plot.left(), sharp(y)), QPointF(plot.right(), sharp(y)));
+        painter.setPen(text);
+        const double width = tabularWidth(tick.label, metrics, digitWidth);
+        drawTabular(painter, {std::round(plot.left() - labelGap - width), std::floor(y) + base},
+                    tick.label, metrics, digitWidth);
+    }
+    for (const LineChart::Tick& tick : chart.timeTicks) {
+        const double x = look.position({tick.position, 0}, chart).x();
+        painter.setPen(grid);
+        painter.drawLine(QPointF(sharp(x), plot.top()), QPointF(sharp(x), plot.bottom()));
+        painter.setPen(text);
+        // Centred below its line, but never cut off.
+        const double width = tabularWidth(tick.label, metrics, digitWidth);
+        const double left =
+            std::clamp(x - width / 2, 0.0, std::max(look.size.width() - width, 0.0));
+        drawTabular(painter, {std::round(left), look.size.height() - 4}, tick.label, metrics,
+                    digitWidth);
+    }
+}
+
+QPolygonF placed(const LineChart::Series& series, const LineChart& chart, const Look& look) {
+    QPolygonF line;
+    line.reserve(series.points.size());
+    for (const QPointF& point : series.points) {
+        if (std::isfinite(point.y()))
+            line.append(look.position(point, chart));
+    }
+    return line;
+}
+
+void paintArea(QPainter& painter, const QPolygonF& line, const QRectF& plot, const QColor& color) {
+    QPolygonF area = line;
+    area << QPointF(line.last().x(), plot.bottom()) << QPointF(line.first().x(), plot.bottom());
+    QLinearGradient fade(0, area.boundingRect().top(), 0, plot.bottom());
+    fade.setColorAt(0, withOpacity(color, areaOpacity));
+    fade.setColorAt(1, withOpacity(color, 0));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fade);
+    painter.drawPolygon(area);
+}
+
+} // namespace
+
+QRectF Look::plot() const {
+    return {labelColumn, topMargin, std::max(size.width() - labelColumn - rightMargin, 0.0),
+            std::max(size.height() - topMargin - labelRow, 0.0)};
+}
+
+QPointF Look::position(const QPointF& point, const LineChart& chart) const {
+    const QRectF area = plot();
+    return {area.left() + area.width() * (point.x() - chart.time.lower) / chart.time.length(),
+            area.bottom() -
+                area.height() * (point.y() - chart.values.lower) / chart.values.length()};
+}
+
+QColor color(LineChart::Ink ink, ColorScheme scheme) {
+    switch (ink) {
+    case LineChart::Ink::cpu:
+        return Palette::cpuSeries();
+    case LineChart::Ink::gpu:
+        return Palette::gpuSeries();
+    case LineChart::Ink::foreground:
+        return withOpacity(Palette::color(Palette::Role::primaryText, scheme), foregroundOpacity);
+    }
+    Q_UNREACHABLE();
+}
+
+QPen pen(LineChart::Ink ink, bool isDashed, ColorScheme scheme) {
+    QPen pen(color(ink, scheme), lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (isDashed)
+        pen.setDashPattern({5 / lineWidth, 4 / lineWidth});
+    return pen;
+}
+
+void paint(QPainter& painter, const LineChart& chart, const Look& look) {
+    const QRectF plot = look.plot();
+    if (plot.isEmpty())
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintAxes(painter, chart, look);
+
+    // A clock that was set back must not draw over the labels; half a line may stand out.
+    painter.setClipRect(plot.adjusted(-lineWidth, -lineWidth, lineWidth, lineWidth));
+    QList<QPolygonF> lines;
+    for (const LineChart::Series& series : chart.series) {
+        lines.append(placed(series, chart, look));
+        if (series.isFilled && lines.last().size() > 1)
+            paintArea(painter, lines.last(), plot, color(series.ink, look.scheme));
+    }
+    painter.setBrush(Qt::NoBrush);
+    for (qsizetype index = 0; index < lines.size(); ++index) {
+        const LineChart::Series& series = chart.series[index];
+        painter.setPen(pen(series.ink, series.isDashed, look.scheme));
+        painter.drawPolyline(lines[index]);
+    }
+}
+
+} // namespace kestrowind::LineChartPainter

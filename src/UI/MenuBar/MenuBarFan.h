@@ -1,0 +1,35 @@
+#pragma once
+
+#include "Shared/SMCKit/SMCFanReading.h"
+
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace kestrowind {
+
+/// One fan's row of the panel.
+struct MenuBarFan {
+    Q_GADGET
+    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(bool isParked MEMBER isParked CONSTANT FINAL)
+    Q_PROPERTY(QString speedText MEMBER speedText CONSTANT FINAL)
+    Q_PROPERTY(QString spokenText MEMBER spokenText CONSTANT FINAL)
+    Q_PROPERTY(bool showsBar MEMBER showsBar CONSTANT FINAL)
+    Q_PROPERTY(double fraction MEMBER fraction CONSTANT FINAL)
+    QML_VALUE_TYPE(menuBarFan)
+
+public:
+    QString name;
+    bool isParked = false;
+    QString speedText;  ///< digits, or that the fan is parked
+    QString spokenText; ///< the whole row in one line
+    bool showsBar = false;
+    double fraction = 0; ///< of the highest speed, 0 to 1
+
+    [[nodiscard]] static MenuBarFan of(const SMCFanReading& fan, int totalFanCount);
+
+    bool operator==(const MenuBarFan&) const = default;
+};
+
+} // namespace kestrowind

@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrowind.DesignSystem
+
+// A command as wide as the panel; its highlight reaches beyond the text on both sides.
+T.AbstractButton {
+    id: root
+
+    required property string symbolName
+    required property color tint
+    property string toolTip
+
+    topPadding: 6
+    bottomPadding: 6
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    hoverEnabled: true
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.description: toolTip
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+
+    background: Rectangle {
+        x: -8
+        width: root.width + 16
+        height: root.height
+        radius: Radius.control
+        color: root.down ? AppColors.pressedFill
+             : root.hovered ? AppColors.hoverFill : "transparent"
+
+        FocusRing { shown: root.visualFocus; gap: -1 }
+    }
+
+    contentItem: SymbolLabel {
+        text: root.text
+        symbolName: root.symbolName
+        symbolColor: root.tint
+        font: Typography.weighted(Typography.subheadline, Font.Medium)
+        spacing: 8
+    }
+
+    Tooltip { text: root.toolTip; shown: root.hovered }
+}

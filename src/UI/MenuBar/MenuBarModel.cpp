@@ -1,0 +1,133 @@
+#include "UI/MenuBar/MenuBarModel.h"
+
+#include "Core/AppState.h"
+#include "Core/AssignIfChanged.h"
+#include "Core/LocalizedText.h"
+#include "UI/MenuBar/WholeNumberText.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kestrowind {
+
+using namespace Qt::StringLiterals;
+
+MenuBarModel::MenuBarModel(AppState& appState, QObject* parent)
+    : QObject(parent)
+    , m_appState(appState) {}
+
+MenuBarModel::~MenuBarModel() = default;
+
+void MenuBarModel::setIsFollowing(bool isFollowing) {
+    if (isFollowing == (m_following != nullptr))
+        return;
+    if (!isFollowing) {
+        m_following.reset();
+        setIsBoostDragged(false);
+        return;
+    }
+    m_following = std::make_unique<QObject>();
+    QObject* context = m_following.get();
+    connect(&m_appState.telemetry(), &TelemetryStore::latestChanged, context,
+            [this] { refreshReadings(); });
+    connect(&m_appState.presets(), &PresetStore::presetsChanged, context,
+            [this] { refreshPresets(); });
+    connect(&m_appState.presets(), &PresetStore::activePresetIDChanged, context,
+            [this] { refreshPresets(); });
+    connect(&m_appState.helper(), &HelperControlling::stateChanged, context,
+            [this] { refreshHelper(); });
+    connect(&m_appState.helper(), &HelperControlling::lastStatusChanged, context,
+            [this] { refreshHelper(); });
+    connect(&m_appState.engine(), &ControlEngine::quickBoostPercentChanged, context,
+            [this] { refreshBoost(); });
+    refreshReadings();
+    refreshPresets();
+    refreshHelper();
+    refreshBoost();
+}
+
+void MenuBarModel::refreshReadings() {
+    Readings readings;
+    QList<MenuBarFan> fans;
+    if (const auto& sample = m_appState.telemetry().latest()) {
+        readings = {.isWaiting = false,
+                    .cpu = MenuBarTemperature::cpu(sample->temperatures.cpuMax),
+                    .gpu = MenuBarTemperature::gpu(sample->temperatures.gpuMax)};
+        for (const SMCFanReading& fan : sample->fans)
+            fans.append(MenuBarFan::of(fan, static_cast<int>(sample->fans.size())));
+    }
+    m_fans.setRows(fans);
+    if (assignIfChanged(m_readings, readings))
+        Q_EMIT readingsChanged();
+}
+
+void MenuBarModel::refreshPresets() {
+    const PresetStore& store = m_appState.presets();
+    QList<MenuBarPreset> rows{{.slotID = PresetSlot::automatic().id(),
+                               .title = localized("shared.mode.automatic"),
+                               .symbolName = u"gearshape"_s,
+                               .isActive = !store.activePresetID()}};
+    for (const FanPreset& preset : store.presets())
+        rows.append({.slotID = PresetSlot::preset(preset.id).id(),
+                     .title = preset.name,
+                     .symbolName = preset.symbolName,
+                     .isActive = store.activePresetID() == preset.id});
+    const auto active = std::ranges::find(rows, true, &MenuBarPreset::isActive);
+    const int index = active == rows.end() ? -1 : static_cast<int>(active - rows.begin());
+    m_presets.setRows(rows);
+    if (assignIfChanged(m_activePresetIndex, index))
+        Q_EMIT activePresetIndexChanged();
+}
+
+void MenuBarModel::refreshHelper() {
+    const auto status = m_appState.helper().lastStatus();
+    const Helper helper{.isInstalled = m_appState.helper().isInstalled(),
+                        .isTakingControl = status && status->phase == HelperControlPhase::unlocking,
+                        .isControlUnavailable =
+                            status && status->phase == HelperControlPhase::failed};
+    if (assignIfChanged(m_helper, helper))
+        Q_EMIT helperChanged();
+}
+
+void MenuBarModel::refreshBoost() {
+    if (!m_isBoostDragged &&
+        assignIfChanged(m_boostPercent, m_appState.engine().quickBoostPercent()))
+        Q_EMIT boostChanged();
+}
+
+QString MenuBarModel::boostText() const {
+    return localized("menuBar.boost.percent").arg(WholeNumberText::truncated(m_boostPercent));
+}
+
+void MenuBarModel::setIsBoostDragged(bool isBoostDragged) {
+    if (!assignIfChanged(m_isBoostDragged, isBoostDragged))
+        return;
+    Q_EMIT isBoostDraggedChanged();
+    refreshBoost();
+}
+
+void MenuBarModel::activate(const QString& slotID) {
+    const auto slot = PresetSlot::fromId(slotID);
+    if (!slot)
+        return;
+    m_appState.presets().setActivePresetID(slot->presetID());
+    m_appState.engine().pushSoon();
+}
+
+void MenuBarModel::setBoost(double percent) {
+    const double snapped = std::clamp(std::round(percent / boostStep()) * boostStep(), 0.0, 100.0);
+    if (assignIfChanged(m_boostPercent, snapped))
+        Q_EMIT boostChanged();
+    // Every assignment asks the helper for something: not for each pixel of a movement.
+    if (m_appState.engine().quickBoostPercent() != snapped)
+        m_appState.engine().setQuickBoostPercent(snapped);
+}
+
+void MenuBarModel::openMainWindow() {
+    dismiss();
+    // A copy: what opens the window may be replaced while it runs.
+    if (const auto open = m_appState.openMainWindow())
+        open();
+}
+
+} // namespace kestrowind

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// A measured value as whole digits; "--" for what is not a finite number.
+namespace kestrowind::WholeNumberText {
+
+/// Without its fraction.
+[[nodiscard]] QString truncated(double value);
+/// Half away from zero.
+[[nodiscard]] QString rounded(double value);
+[[nodiscard]] QString unknown();
+
+} // namespace kestrowind::WholeNumberText

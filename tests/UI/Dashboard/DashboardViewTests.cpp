@@ -1,0 +1,115 @@
+#include "UI/Dashboard/DashboardMachine.h"
+#include "UI/Dashboard/DashboardModel.h"
+#include "UI/DesignSystem/FanGaugeArcs.h"
+
+#include <QQmlEngine>
+#include <QQuickView>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+#include <gmock/gmock.h>
+
+Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
+Q_IMPORT_QML_PLUGIN(Kestrowind_DashboardPlugin)
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// Whatever QML complains of while a test runs.
+QStringList* complaints = nullptr;
+
+void collectComplaint(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type != QtDebugMsg && type != QtInfoMsg && complaints)
+        complaints->append(message);
+}
+
+class DashboardViewTest : public testing::Test {
+protected:
+    DashboardViewTest() {
+        complaints = &m_complaints;
+        m_previousHandler = qInstallMessageHandler(collectComplaint);
+        view.engine()->addImportPath(u"qrc:/qt/qml"_s);
+        view.setResizeMode(QQuickView::SizeRootObjectToView);
+        view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
+        view.setSource(QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s));
+        view.resize(820, 700);
+    }
+    ~DashboardViewTest() override {
+        qInstallMessageHandler(m_previousHandler);
+        complaints = nullptr;
+        EXPECT_THAT(m_complaints, testing::IsEmpty());
+    }
+
+    template <class Item>
+    QList<Item*> items() {
+        QList<Item*> found;
+        collect(view.rootObject(), found);
+        return found;
+    }
+
+    DashboardMachine machine;
+    DashboardModel model{machine.state};
+    QQuickView view;
+
+private:
+    template <class Item>
+    static void collect(QQuickItem* below, QList<Item*>& found) {
+        for (QQuickItem* child : below->childItems()) {
+            if (auto* item = qobject_cast<Item*>(child))
+                found.append(item);
+            collect(child, found);
+        }
+    }
+
+    QStringList m_complaints;
+    QtMessageHandler m_previousHandler = nullptr;
+};
+
+TEST_F(DashboardViewTest, IsAsHighAsItsContentAndKeepsItsGauges) {
+    ASSERT_EQ(view.status(), QQuickView::Ready);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    const double loading = view.rootObject()->implicitHeight();
+    EXPECT_GT(loading, 0);
+
+    machine.ingest({sampleAt(0, 50, 50, {2000, 3000})});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return items<FanGaugeArcs>().size() == 2; }, 3000));
+    const QList<FanGaugeArcs*> gauges = items<FanGaugeArcs>();
+    const double placeholder = view.rootObject()->implicitHeight();
+    EXPECT_GT(placeholder, loading);
+    machine.helper().setState(HelperState::notInstalled);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return view.rootObject()->implicitHeight() > placeholder + 20; }, 3000));
+
+    machine.ingest({sampleAt(2, 50, 50, {6550, 3000})});
+    EXPECT_EQ(items<FanGaugeArcs>(), gauges);
+    EXPECT_EQ(gauges[0]->fraction(), 1);
+
+    machine.ingest({sampleAt(4, 0, 0, {})});
+    EXPECT_TRUE(items<FanGaugeArcs>().isEmpty());
+    EXPECT_EQ(view.rootObject()->implicitHeight(), loading);
+}
+
+TEST_F(DashboardViewTest, RestsWhileNobodySeesIt) {
+    QSignalSpy history(&model, &DashboardModel::historyChanged);
+    machine.ingest(realisticSamples(5, 1));
+    EXPECT_EQ(model.state(), DashboardModel::State::Content);
+    EXPECT_EQ(history.size(), 0);
+    EXPECT_EQ(model.fans()->rowCount(), 0);
+
+    view.show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return history.size() == 1; }, 3000));
+    EXPECT_EQ(model.fans()->rowCount(), 1);
+
+    view.rootObject()->setVisible(false);
+    machine.ingest({sampleAt(10, 50, 50, {4000})});
+    EXPECT_EQ(history.size(), 1);
+    view.rootObject()->setVisible(true);
+    EXPECT_EQ(history.size(), 2);
+    EXPECT_EQ(model.fans()->data(model.fans()->index(0), FanGaugeRows::ReadoutRole), u"4000"_s);
+}
+
+} // namespace
+} // namespace kestrowind

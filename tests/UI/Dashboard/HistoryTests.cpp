@@ -1,0 +1,217 @@
+#include "Core/LocalizedText.h"
+#include "UI/Dashboard/DashboardMachine.h"
+#include "UI/Dashboard/FanSpeedHistory.h"
+#include "UI/Dashboard/HistoryChartAxis.h"
+#include "UI/Dashboard/HistorySamples.h"
+#include "UI/Dashboard/LineChartPainter.h"
+#include "UI/Dashboard/TemperatureHistory.h"
+
+#include <QImage>
+#include <QPainter>
+#include <gmock/gmock.h>
+
+#include <limits>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+/// Samples at times in seconds.
+QList<TelemetrySample> samplesAt(const QList<double>& times) {
+    QList<TelemetrySample> samples;
+    for (const double time : times)
+        samples.append(sampleAt(time, 50, 45, {2000, 2100}));
+    return samples;
+}
+
+TEST(HistorySamples, KeepsAboutTwoHundredAndFortyAndTheNewest) {
+    struct Row {
+        int count;
+        int kept;
+        int step;
+    };
+    for (const Row& row : {Row{0, 0, 1},
+                           {1, 1, 1},
+                           {240, 240, 1},
+                           {241, 121, 2},
+                           {242, 122, 2},
+                           {480, 241, 2},
+                           {481, 161, 3},
+                           {900, 226, 4}}) {
+        QList<TelemetrySample> history;
+        for (int index = 0; index < row.count; ++index)
+            history.append(sampleAt(index, 50, 50, {}));
+        const QList<TelemetrySample> kept = HistorySamples::downsampled(history);
+        ASSERT_EQ(kept.size(), row.kept) << row.count;
+        if (kept.isEmpty())
+            continue;
+        EXPECT_EQ(kept.last(), history.last()) << row.count;
+        for (int index = 0; index < row.kept - 1; ++index)
+            ASSERT_EQ(kept[index], history[index * row.step]) << row.count;
+    }
+}
+
+TEST(HistorySamples, SaysHowMuchTimeTheySpan) {
+    const std::pair<QList<double>, QString> rows[] = {
+        {{}, localized("dashboard.history.windowFallback")},
+        {{5}, localized("dashboard.history.windowLastMinute")},
+        {{0, 60}, localized("dashboard.history.windowLastMinute")},
+        {{0, 60.001}, localized("dashboard.history.windowLastMinutes").arg(2)},
+        {{0, 9, 1798}, localized("dashboard.history.windowLastMinutes").arg(30)},
+    };
+    for (const auto& [times, caption] : rows)
+        EXPECT_EQ(HistorySamples::windowCaption(samplesAt(times)), caption);
+}
+
+TEST(HistoryChartAxis, ChoosesTicksByTheSpan) {
+    struct Row {
+        QList<double> times;
+        double span;
+        QList<double> ticks;
+    };
+    const Row rows[] = {
+        {{}, 1, {-0.5}},
+        {{7}, 1, {-0.5}},
+        {{0, 30}, 1, {-0.5}},
+        {{9, 0}, 1, {-0.5}}, // the clock was set back
+        {{0, 90}, 1.5, {-0.5, -1}},
+        {{0, 150}, 2.5, {-0.5, -1, -1.5, -2}},
+        {{0, 153}, 2.55, {-1, -2}},
+        {{0, 360}, 6, {-1, -2, -3, -4, -5}},
+        {{0, 600}, 10, {-3, -6, -9}},
+        {{0, 900}, 15, {-3, -6, -9, -12}},
+        {{0, 1798}, 1798 / 60.0, {-5, -10, -15, -20, -25}},
+    };
+    for (const Row& row : rows) {
+        const double span = HistoryChartAxis::span(samplesAt(row.times));
+        EXPECT_DOUBLE_EQ(span, row.span);
+        EXPECT_EQ(HistoryChartAxis::domain(span), (LineChart::Domain{-span, 0}));
+        EXPECT_EQ(HistoryChartAxis::ticks(span), row.ticks) << span;
+    }
+}
+
+TEST(HistoryChartAxis, LabelsInSecondsThenMinutes) {
+    const std::tuple<double, const char*, int> rows[] = {
+        {-0.5, "dashboard.chart.axisSecondsAgo", 30}, {-1, "dashboard.chart.axisSecondsAgo", 60},
+        {-1.5, "dashboard.chart.axisSecondsAgo", 90}, {-2, "dashboard.chart.axisMinutesAgo", 2},
+        {-25, "dashboard.chart.axisMinutesAgo", 25},
+    };
+    for (const auto& [tick, key, number] : rows)
+        EXPECT_EQ(HistoryChartAxis::label(tick), localized(key).arg(number)) << tick;
+}
+
+TEST(HistoryChartAxis, PutsRoundValueTicksIntoTheDomain) {
+    const std::pair<LineChart::Domain, QList<double>> rows[] = {
+        {{35, 65}, {40, 50, 60}},           {{45, 60}, {45, 50, 55, 60}},
+        {{25, 95}, {40, 60, 80}},           {{0, 1000}, {0, 200, 400, 600, 800, 1000}},
+        {{0, 7000}, {0, 2000, 4000, 6000}},
+    };
+    for (const auto& [domain, ticks] : rows)
+        EXPECT_EQ(HistoryChartAxis::valueTicks(domain), ticks) << domain.upper;
+}
+
+TEST(TemperatureHistory, RoundsItsDomainOutwards) {
+    const std::pair<QList<double>, LineChart::Domain> rows[] = {
+        {{}, {25, 95}},       {{41, 58}, {35, 65}}, {{50, 52}, {45, 60}},
+        {{49, 49}, {45, 55}}, {{0, 3}, {0, 10}},    {{96, 104}, {90, 110}},
+    };
+    for (const auto& [celsius, domain] : rows) {
+        QList<TemperatureHistory::Point> points;
+        for (const double value : celsius)
+            points.append(TemperatureHistory::Point{.celsius = value});
+        EXPECT_EQ(TemperatureHistory::domain(points), domain) << domain.lower;
+    }
+}
+
+TEST(TemperatureHistory, NamesAndNumbersItsPoints) {
+    using Point = TemperatureHistory::Point;
+    QList<TelemetrySample> samples = {sampleAt(0, 61, 55, {}), sampleAt(15, 62, 56, {})};
+    EXPECT_EQ(TemperatureHistory::points(samples),
+              (QList<Point>{Point{-30000, -0.25, u"CPU Max"_s, 61},
+                            Point{-29999, -0.25, u"GPU Max"_s, 55}, Point{0, 0, u"CPU Max"_s, 62},
+                            Point{1, 0, u"GPU Max"_s, 56}}));
+    // Parts of a millisecond are dropped.
+    samples.first().timestamp -= std::chrono::microseconds(900);
+    EXPECT_EQ(TemperatureHistory::points(samples).first().id, -30000);
+}
+
+TEST(FanSpeedHistory, CoversTheFastestFan) {
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    struct Row {
+        double maxRPM;
+        double speed;
+        double upper;
+    };
+    for (const Row& row : {Row{6550, 2000, 7000},
+                           {6000, 2000, 6000},
+                           {500, 300, 1000},
+                           {6000, 6001, 7000},
+                           {nan, 1500, 2000},
+                           {1500, nan, 2000}}) {
+        const QList<TelemetrySample> samples = {sampleAt(0, 50, 50, {row.speed}, 9000),
+                                                sampleAt(2, 50, 50, {900}, row.maxRPM)};
+        EXPECT_EQ(FanSpeedHistory::domain(samples, FanSpeedHistory::points(samples)),
+                  (LineChart::Domain{0, row.upper}));
+    }
+    EXPECT_EQ(FanSpeedHistory::domain({}, {}), (LineChart::Domain{0, 1000}));
+}
+
+TEST(FanSpeedHistory, DrawsTheFirstFanSolid) {
+    QList<TelemetrySample> samples = {sampleAt(0, 50, 50, {1000, 1100, 1200, 1300}),
+                                      sampleAt(2, 50, 50, {2000, 2100, 2200, 2300})};
+    // The newest sample lost the first fan and the last one.
+    samples.last().fans.erase(samples.last().fans.begin());
+    samples.last().fans.pop_back();
+    EXPECT_EQ(FanSpeedHistory::seriesNames(samples), (QStringList{u"Right"_s, u"Fan 3"_s}));
+    const LineChart chart = FanSpeedHistory::chart(samples);
+    QStringList lines;
+    for (const LineChart::Series& line : chart.series)
+        lines.append(u"%1 %2 %3"_s.arg(line.name).arg(line.points.size()).arg(line.isDashed));
+    EXPECT_EQ(lines, (QStringList{u"Left 1 0"_s, u"Right 2 0"_s, u"Fan 3 2 1"_s, u"Fan 4 1 0"_s}));
+
+    const auto points = FanSpeedHistory::points(samples);
+    EXPECT_EQ(points.first().id, -2000 * 16);
+    EXPECT_EQ(points[3].id, -2000 * 16 + 3);
+    EXPECT_EQ(points.last(), (FanSpeedHistory::Point{2, 0, u"Fan 3"_s, 2200}));
+}
+
+TEST(LineChartPainter, KeepsLinesInsideThePlotAndLabelsOutside) {
+    QList<TelemetrySample> samples;
+    for (const TelemetrySample& sample : realisticSamples(60, 2))
+        samples.append(sample);
+    const LineChart chart = TemperatureHistory::chart(samples);
+    const LineChartPainter::Look look{.size = {400, 190}, .scheme = ColorScheme::dark};
+    EXPECT_EQ(look.position({chart.time.lower, chart.values.lower}, chart),
+              look.plot().bottomLeft());
+    EXPECT_EQ(look.position({0, chart.values.upper}, chart), look.plot().topRight());
+
+    const auto painted = [&look](const LineChart& what) {
+        QImage image(look.size.toSize(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        LineChartPainter::paint(painter, what, look);
+        return image;
+    };
+    const QImage picture = painted(chart);
+    LineChart axes = chart;
+    axes.series.clear();
+    const QImage empty = painted(axes);
+    QRect drawn;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) != empty.pixel(x, y))
+                drawn |= QRect(x, y, 1, 1);
+        }
+    }
+    EXPECT_TRUE(look.plot().adjusted(-3, -3, 3, 3).contains(drawn)) << "lines leave the plot";
+    EXPECT_GT(drawn.width(), look.plot().width() - 4) << "lines do not span the plot";
+
+    LineChart broken = chart;
+    broken.series[0].points[3].setY(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_NE(painted(broken), empty);
+}
+
+} // namespace
+} // namespace kestrowind

@@ -1,0 +1,141 @@
+#include "MenuBarState.h"
+
+#include "UI/MenuBar/MenuBarPanel.h"
+#include "UI/MenuBar/MenuBarPanelPlacement.h"
+
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+TEST(MenuBarPanelPlacementTest, StaysAtTheIconAndOnTheScreen) {
+    constexpr QSize panel(300, 400);
+    constexpr QRect screen(0, 24, 1280, 776);
+    struct Row {
+        const char* name;
+        QRect icon;
+        QRect available;
+        QPoint corner;
+    };
+    const Row rows[] = {
+        {"below a panel above", {700, 1, 22, 22}, screen, {561, 30}},
+        {"at the right edge", {1256, 1, 22, 22}, screen, {974, 30}},
+        {"at the left edge", {2, 1, 22, 22}, screen, {6, 30}},
+        {"above a panel below", {700, 778, 22, 22}, {0, 0, 1280, 776}, {561, 370}},
+        {"on a second screen", {1400, 1, 22, 22}, {1280, 24, 800, 576}, {1286, 30}},
+        {"on too small a screen", {700, 1, 22, 22}, {0, 24, 1280, 300}, {561, 30}},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(MenuBarPanelPlacement::topLeft(panel, row.icon, row.available), row.corner)
+            << row.name;
+}
+
+class MenuBarPanelTest : public testing::Test {
+protected:
+    MenuBarPanelTest() {
+        state.ingest(60, 50, {MenuBarState::fan(0, 2000), MenuBarState::fan(1, 2100)});
+    }
+
+    void openAndWait() {
+        panel.open(icon);
+        ASSERT_TRUE(panel.isOpen());
+        ASSERT_TRUE(QTest::qWaitForWindowActive(panel.view()));
+    }
+
+    [[nodiscard]] QQuickItem* focused() const { return panel.view()->activeFocusItem(); }
+
+    MenuBarState state;
+    MenuBarPanel panel{state.appState, nullptr, {.releaseDelay = 50ms, .sameClick = 10s}};
+    QRect icon{300, 0, 22, 22};
+};
+
+TEST_F(MenuBarPanelTest, MakesItsSceneLazilyAndGivesItBack) {
+    EXPECT_EQ(panel.view(), nullptr);
+    openAndWait();
+    const int height = panel.view()->height();
+    state.ingest(60, 50, {MenuBarState::fan(0, 2000)});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.view()->height() < height; }, 3000));
+    state.helper.setState(HelperState::notInstalled);
+    EXPECT_TRUE(panel.isOpen());
+
+    panel.close();
+    EXPECT_FALSE(panel.isOpen());
+    panel.open(icon);
+    QTest::qWait(120);
+    EXPECT_TRUE(panel.isOpen());
+    panel.close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.view() == nullptr; }, 3000));
+    panel.open(icon);
+    EXPECT_TRUE(panel.isOpen());
+}
+
+TEST_F(MenuBarPanelTest, ClosesOnTheIconOnEscapeAndWhenTheUserTurnsAway) {
+    openAndWait();
+    panel.toggle(icon);
+    EXPECT_FALSE(panel.isOpen());
+    panel.toggle(icon);
+    EXPECT_TRUE(panel.isOpen());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(panel.view()));
+    QTest::keyClick(panel.view(), Qt::Key_Escape);
+    EXPECT_FALSE(panel.isOpen());
+
+    openAndWait();
+    QTest::mousePress(panel.view(), Qt::LeftButton, {}, QPoint(-20, 30));
+    EXPECT_FALSE(panel.isOpen());
+    QTest::mouseRelease(panel.view(), Qt::LeftButton, {}, QPoint(-20, 30));
+    // The same click, as the tray tells of it.
+    panel.toggle(icon);
+    EXPECT_FALSE(panel.isOpen());
+}
+
+TEST_F(MenuBarPanelTest, ClosesWhenItLosesTheFocus) {
+    openAndWait();
+    QWindow other;
+    other.show();
+    other.requestActivate();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !panel.isOpen(); }, 3000));
+}
+
+TEST_F(MenuBarPanelTest, IsWorkedByTheKeyboard) {
+    openAndWait();
+    QSignalSpy quit(&panel, &MenuBarPanel::quitRequested);
+    QTest::keyClick(panel.view(), Qt::Key_Tab);
+    EXPECT_EQ(focused()->property("text"), u"Automatic"_s);
+    QTest::keyClick(panel.view(), Qt::Key_Right);
+    QTest::keyClick(panel.view(), Qt::Key_Space);
+    EXPECT_EQ(state.presets.activePresetID(), FanPreset::coolID);
+    QTest::keyClick(panel.view(), Qt::Key_Right);
+    QTest::keyClick(panel.view(), Qt::Key_Return);
+    EXPECT_EQ(state.presets.activePresetID(), FanPreset::fullSpeedID);
+
+    QTest::keyClick(panel.view(), Qt::Key_Tab);
+    QTest::keyClick(panel.view(), Qt::Key_Right);
+    EXPECT_EQ(state.engine.quickBoostPercent(), 5);
+    bool opened = false;
+    state.appState.setOpenMainWindow([&] { opened = true; });
+    QTest::keyClick(panel.view(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quit.size(), 1);
+    QTest::keyClick(panel.view(), Qt::Key_Tab);
+    QTest::keyClick(panel.view(), Qt::Key_Return);
+    EXPECT_TRUE(opened);
+    EXPECT_FALSE(panel.isOpen());
+}
+
+TEST_F(MenuBarPanelTest, OffersNothingWhileControlIsTaken) {
+    state.setPhase(HelperControlPhase::unlocking);
+    openAndWait();
+    QTest::keyClick(panel.view(), Qt::Key_Tab);
+    EXPECT_EQ(focused()->property("text"), u"Open Kestrowind"_s);
+    state.setPhase(HelperControlPhase::controlling);
+    QTest::keyClick(panel.view(), Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_NE(focused()->property("text"), u"Open Kestrowind"_s);
+}
+
+} // namespace
+} // namespace kestrowind
