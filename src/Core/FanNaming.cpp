@@ -5,7 +5,7 @@
 namespace kestrowind {
 
 QString sharedFanName(int forIndex, int totalFanCount) {
-    if (totalFanCount == 2 && (forIndex == 0 || forIndex == 1))
+    if (totalFanCount == 2)
         return localized(forIndex == 0 ? "shared.fan.left" : "shared.fan.right");
     return localized("shared.fan.numbered").arg(forIndex + 1);
 }

@@ -17,7 +17,8 @@ namespace kestrowind {
 /// The real application inside a booted Mac, printing its readings, with a home of its own.
 class RunningApp {
 public:
-    RunningApp(const BootedMac& mac, const QStringList& arguments) {
+    /// Without a display of its own it runs on the offscreen platform.
+    RunningApp(const BootedMac& mac, const QStringList& arguments, const QString& display = {}) {
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QString::fromLatin1(SimulatedMac::rootVariable),
                            QString::fromStdString(mac.root().string()));
@@ -25,7 +26,9 @@ public:
                            m_home.filePath(QStringLiteral("data")));
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
                            m_home.filePath(QStringLiteral("config")));
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
+                           display.isEmpty() ? QStringLiteral("offscreen") : QStringLiteral("xcb"));
+        environment.insert(QStringLiteral("DISPLAY"), display);
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_process.start(QStringLiteral(KESTROWIND_APPLICATION),
