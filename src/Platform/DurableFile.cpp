@@ -35,7 +35,10 @@ std::expected<void, QString> syncFolder(const QString& folder) {
 
 std::expected<void, QString> DurableFile::write(const QString& path, const QByteArray& content) {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+    // Unbuffered, because a failure to flush the buffer on commit goes unnoticed by QSaveFile, and
+    // a full disk would then replace the file by the part of it that still fitted.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
+        file.write(content) != content.size() || !file.commit())
         return std::unexpected(file.errorString());
     return syncFolder(QFileInfo(path).absolutePath());
 }

@@ -11,8 +11,8 @@
 
 #include <sys/stat.h>
 
-#include <limits>
-#include <unistd.h>
+#include <csignal>
+#include <sys/resource.h>
 
 namespace kestrowind {
 namespace {
@@ -168,19 +168,17 @@ TEST_F(PresetStoreTest, KeepsTheOldFileWhenTheNewOneCannotBeWritten) {
     ASSERT_TRUE(makeStore()->addPreset(u"Good"_s));
     const QByteArray good = content(file());
     const auto store = makeStore();
-    // No new file can be made beside the old one.
-    QFile folder(home.path(u"app"_s));
-    if (geteuid() == 0) {
-        // Permissions do not hold root back, a number that has no JSON form does.
-        FanPreset preset = store->presets().last();
-        preset.curves = {FanCurve({{std::numeric_limits<double>::quiet_NaN(), 1}})};
-        store->update(preset);
-    } else {
-        folder.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-        store->addPreset(u"Lost"_s);
-        folder.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
+    // As on a full disk: the first bytes still fit, the rest does not.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit unlimited{};
+    ::getrlimit(RLIMIT_FSIZE, &unlimited);
+    const rlimit full{.rlim_cur = 100, .rlim_max = unlimited.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &full);
+    store->addPreset(u"Too much"_s);
+    ::setrlimit(RLIMIT_FSIZE, &unlimited);
+    EXPECT_EQ(store->presets().size(), 4) << "kept in memory";
     EXPECT_EQ(content(file()), good);
+    EXPECT_EQ(QDir(home.path(u"app"_s)).entryList(QDir::Files).size(), 1) << "leftovers";
 }
 
 TEST_F(PresetStoreTest, OnAFolderOfItsOwnLeavesTheSlotOrderAlone) {
