@@ -54,6 +54,10 @@ MainWindow::MainWindow(const MainWindowServices& services, const MainWindowState
             &MainWindowController::windowShouldClose);
     connect(&m_controller, &MainWindowController::closed, &m_heightController,
             &MainWindowHeightController::finishResizing);
+    // Only once the window stands on the screen is it known how much its title bar takes.
+    connect(&m_window, &QQuickWindow::frameSwapped, &m_heightController,
+            &MainWindowHeightController::refitWindow,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 MainWindow::~MainWindow() = default;

@@ -9,7 +9,7 @@ FocusScope {
     required property MainWindowModel model
 
     focus: true
-    Keys.forwardTo: scroller
+    Keys.forwardTo: [scroller]
 
     Rectangle {
         anchors.fill: parent

@@ -43,21 +43,29 @@ T.Button {
     PopupMenu {
         id: menu
 
-        Instantiator {
+        // As wide as the longest name: here names are never shortened.
+        onAboutToShow: {
+            let widest = 150
+            for (let i = 0; i < count; ++i)
+                widest = Math.max(widest, itemAt(i).implicitWidth)
+            width = widest + leftPadding + rightPadding
+        }
+
+        Repeater {
             model: root.model
             delegate: PopupMenuItem {
                 required property int index
                 required property string fullName
                 required property bool isActive
+                required symbolName
 
                 text: fullName
-                checkable: isActive
-                checked: true
-                onToggled: checked = true
+                // The active one among them makes room for its tick in all.
+                checkable: root.containsActive
+                checked: isActive
+                onToggled: checked = Qt.binding(() => isActive)
                 onTriggered: root.chosen(index)
             }
-            onObjectAdded: (index, object) => menu.insertItem(index, object as PopupMenuItem)
-            onObjectRemoved: (index, object) => menu.removeItem(object as PopupMenuItem)
         }
     }
 

@@ -25,7 +25,7 @@ T.Button {
     scale: entrance * lift
     z: isLifted ? 1 : 0
     hoverEnabled: true
-    focusPolicy: Qt.TabFocus
+    focusPolicy: Qt.NoFocus
     Accessible.role: Accessible.Button
     Accessible.name: fullName
     Accessible.selectable: true
@@ -45,7 +45,7 @@ T.Button {
         isTinted: root.isActive
         isLifted: root.isLifted
         isPressed: root.down
-        isFocused: root.visualFocus
+        isFocused: root.activeFocus
     }
 
     contentItem: Item {

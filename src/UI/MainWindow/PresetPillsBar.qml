@@ -33,8 +33,9 @@ FocusScope {
         spacing: root.model.spacing
         interactive: false
         keyNavigationEnabled: true
-        cacheBuffer: 4000
+        // One stop for Tab; the current pill has the focus, and the arrow keys change it.
         activeFocusOnTab: true
+        cacheBuffer: 4000
         model: root.model.shown
         opacity: root.enabled ? 1 : 0.55
         Accessible.role: Accessible.Grouping
