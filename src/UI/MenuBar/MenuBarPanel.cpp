@@ -2,6 +2,7 @@
 
 #include "Core/LocalizedText.h"
 #include "Core/Logging.h"
+#include "UI/DesignSystem/Palette.h"
 #include "UI/DesignSystem/SceneAppearance.h"
 #include "UI/MenuBar/MenuBarPanelPlacement.h"
 
@@ -115,7 +116,9 @@ bool MenuBarPanel::makeScene() {
     m_view->setTitle(localized("app.window.mainTitle"));
     m_view->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                      Qt::NoDropShadowWindowHint);
-    m_view->setColor(Qt::transparent);
+    updateBackground();
+    connect(&SceneAppearance::of(*m_engine), &SceneAppearance::colorSchemeChanged, this,
+            &MenuBarPanel::updateBackground);
     m_view->setResizeMode(QQuickView::SizeViewToRootObject);
     m_view->setInitialProperties({{u"model"_s, QVariant::fromValue(&m_model)}});
     m_view->installEventFilter(this);
@@ -148,6 +151,18 @@ void MenuBarPanel::place() {
                                       available.height() - 2 * MenuBarPanelPlacement::gap);
     m_view->setPosition(MenuBarPanelPlacement::topLeft(m_view->size(), m_icon, available));
     shape();
+}
+
+void MenuBarPanel::updateBackground() {
+    if (!isX11()) {
+        m_view->setColor(Qt::transparent);
+        return;
+    }
+    // Without compositing what is transparent is black: the smooth edge of the corners blends into
+    // the hairline instead, and the mask cuts off the rest.
+    const ColorScheme scheme = SceneAppearance::of(*m_engine).colorScheme();
+    m_view->setColor(Palette::composited(Palette::color(Palette::Role::controlBorder, scheme),
+                                         Palette::color(Palette::Role::popupBackground, scheme)));
 }
 
 void MenuBarPanel::shape() {

@@ -55,6 +55,7 @@ private:
     void releaseScene();
     void place();
     void shape();
+    void updateBackground();
     void closeFromOutside();
 
     SystemAppearance* m_appearance;

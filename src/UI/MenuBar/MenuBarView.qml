@@ -20,6 +20,13 @@ Item {
         anchors.fill: parent
         radius: 12
         color: AppColors.popupBackground
+    }
+
+    // Above the fill: on its own it would let the desktop through, which is black without compositing.
+    Rectangle {
+        anchors.fill: parent
+        radius: 12
+        color: "transparent"
         border.width: 1
         border.color: AppColors.controlBorder
     }
