@@ -10,6 +10,7 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QSGImageNode>
+#include <QSGRendererInterface>
 #include <QSGTransformNode>
 
 #include <cmath>
@@ -20,12 +21,18 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-/// At most 60 frames a second, on screens that refresh faster too.
-constexpr auto frameInterval = 16666us;
 /// A frame of a 60 Hz screen may come this much early; waiting for a timer then would drop it.
 constexpr auto frameTolerance = 1ms;
 /// The scale of an item that is in no window yet.
 constexpr double scaleWithoutWindow = 2.0;
+
+/// At most 60 frames a second, on screens that refresh faster too; half of it where the processor
+/// draws, and each frame takes its time from the rest of the machine.
+Clock::duration frameInterval(const QQuickWindow& window) {
+    const bool isDrawnByProcessor =
+        window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
+    return isDrawnByProcessor ? 33333us : 16666us;
+}
 
 QBrush paint(const SpinningFanBlades::RenderedLook& look) {
     const ColorScheme scheme = look.isDarkAppearance ? ColorScheme::dark : ColorScheme::light;
@@ -203,16 +210,19 @@ void SpinningFanBlades::applyTurning() {
 void SpinningFanBlades::frameShown() {
     if (!m_frameShown || m_nextFrame.isActive())
         return;
-    const auto passed = Clock::now() - m_lastFrame;
-    if (passed + frameTolerance >= frameInterval) {
+    // Frames are requested at the ticks of one grid, so that all fans of a window share theirs.
+    const Clock::duration interval = frameInterval(*window());
+    const Clock::duration now = Clock::now().time_since_epoch() + frameTolerance;
+    const auto tick = now / interval;
+    if (tick != m_lastTick) {
         requestFrame();
         return;
     }
-    m_nextFrame.start(std::chrono::ceil<std::chrono::milliseconds>(frameInterval - passed));
+    m_nextFrame.start(std::chrono::ceil<std::chrono::milliseconds>((tick + 1) * interval - now));
 }
 
 void SpinningFanBlades::requestFrame() {
-    m_lastFrame = Clock::now();
+    m_lastTick = (Clock::now().time_since_epoch() + frameTolerance) / frameInterval(*window());
     update();
 }
 

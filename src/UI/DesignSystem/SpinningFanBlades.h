@@ -8,6 +8,7 @@
 #include <QQuickItem>
 #include <QTimer>
 
+#include <cstdint>
 #include <optional>
 
 namespace kestrowind {
@@ -87,7 +88,7 @@ private:
     QImage m_blades;
     bool m_bladesAreNew = false;
     QTimer m_nextFrame;
-    SpinClock::TimePoint m_lastFrame = {};
+    std::int64_t m_lastTick = 0; ///< of the grid of frames, when a frame was last requested
     QMetaObject::Connection m_frameShown;
 };
 
