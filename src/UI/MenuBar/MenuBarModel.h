@@ -14,6 +14,13 @@ namespace kestrowind {
 
 class AppState;
 
+/// Tells the linter of QML what the panel's lists are.
+struct ItemModelForeign {
+    Q_GADGET
+    QML_FOREIGN(QAbstractItemModel)
+    QML_ANONYMOUS
+};
+
 /// What the menu-bar panel shows and does. It follows the application's state only while somebody
 /// looks at it.
 class MenuBarModel final : public QObject {
