@@ -3,7 +3,8 @@
 
 add_library(kestrowind_warnings INTERFACE)
 target_compile_options(kestrowind_warnings INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor -Werror
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+    $<$<CXX_COMPILER_ID:GNU>:-Werror> # the compiler whose warnings we know
     # Members that a designated initializer leaves out have their defaults: that is what they are for.
     -Wno-missing-field-initializers)
 target_compile_definitions(kestrowind_warnings INTERFACE
@@ -12,6 +13,10 @@ target_compile_definitions(kestrowind_warnings INTERFACE
 if(KESTROWIND_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(KESTROWIND_FUZZERS)
+    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 find_program(KESTROWIND_MOLD mold)

@@ -1,0 +1,229 @@
+#include "Core/PresetCoding.h"
+#include "Core/PresetStore.h"
+#include "Support/QtPrinters.h"
+#include "Support/TestDefaults.h"
+
+#include <QDir>
+#include <QFile>
+#include <gmock/gmock.h>
+
+#include <cerrno>
+#include <csignal>
+#include <functional>
+#include <set>
+#include <sys/ptrace.h>
+#include <sys/syscall.h>
+#include <sys/user.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// What is done to the traced process at its stops before and after each system call: false kills
+/// it.
+using AtStop = std::function<bool(pid_t)>;
+
+/// Carries a deed out in a process of its own that is stopped at every system call. Absent when
+/// the system forbids tracing; else whether the deed came to its end.
+std::optional<bool> traced(const std::function<void()>& deed, const AtStop& atStop) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
+            ::_exit(77);
+        std::raise(SIGSTOP);
+        deed();
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    if (WIFEXITED(status))
+        return std::nullopt;
+    for (;;) {
+        ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+        ::waitpid(child, &status, 0);
+        if (WIFEXITED(status) || WIFSIGNALED(status))
+            return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        if (!atStop(child)) {
+            ::kill(child, SIGKILL);
+            ::waitpid(child, &status, 0);
+            return false;
+        }
+    }
+}
+
+class PresetDurabilityTest : public testing::Test {
+protected:
+    void SetUp() override {
+        QDir().mkpath(home.path(u"app"_s));
+        auto store = makeStore();
+        ASSERT_TRUE(store.addPreset(u"First"_s));
+        ASSERT_TRUE(store.duplicate(store.presets().first()));
+        before = content();
+    }
+
+    [[nodiscard]] PresetStore makeStore() { return PresetStore(2, *defaults, storage); }
+    [[nodiscard]] QByteArray content() const {
+        QFile in(file);
+        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+    }
+    /// Puts the folder back to how it was before the deed.
+    void restore() const {
+        QDir folder(home.path(u"app"_s));
+        for (const QString& name : folder.entryList(QDir::Files))
+            folder.remove(name);
+        QFile out(file);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(before);
+    }
+
+    /// Changes of a user's presets, from small to large.
+    [[nodiscard]] static QList<std::function<void(PresetStore&)>> deeds() {
+        QList<std::function<void(PresetStore&)>> all;
+        for (const qsizetype length : {1, 300, 5'000, 100'000}) {
+            all.append([length](PresetStore& store) { store.addPreset(QString(length, u'n')); });
+            all.append([length](PresetStore& store) {
+                FanPreset preset = store.presets().at(2);
+                preset.name = QString(length, u'é');
+                store.update(preset);
+            });
+        }
+        all.append([](PresetStore& store) { store.remove(store.presets().at(2)); });
+        return all;
+    }
+    [[nodiscard]] QByteArray contentAfter(const std::function<void(PresetStore&)>& deed) {
+        auto store = makeStore();
+        deed(store);
+        return content();
+    }
+    /// The old or the new presets are there, whole, and nothing was set aside.
+    void expectWhole(const QList<FanPreset>& old, std::set<QByteArray>& seen) {
+        const QByteArray now = content();
+        seen.insert(now);
+        const auto decoded = decodePresets(now);
+        ASSERT_TRUE(decoded) << decoded.error().toStdString() << now.left(200).toStdString();
+        ASSERT_EQ(makeStore().presets(), FanPreset::builtIns(2) + *decoded);
+        ASSERT_EQ(*decoded == old, now == before);
+        ASSERT_TRUE(QDir(home.path(u"app"_s)).entryList({u"*unreadable*"_s}).isEmpty());
+    }
+
+    TestHome home;
+    std::unique_ptr<UserDefaults> defaults = home.defaults();
+    PresetStore::Storage storage{.folder = home.path(u"app"_s)};
+    QString file = home.path(u"app/presets.json"_s);
+    QByteArray before;
+};
+
+TEST_F(PresetDurabilityTest, HasTheOldOrTheNewPresetsWhereverItIsKilled) {
+    const QList<FanPreset> old = *decodePresets(before);
+    int rounds = 0;
+    // New presets have new identifiers, so no two rounds write the same bytes.
+    for (int repeat = 0; rounds < 1000; ++repeat) {
+        for (const auto& deed : deeds()) {
+            std::set<QByteArray> seen;
+            for (int fatalStop = 1;; ++fatalStop, ++rounds) {
+                restore();
+                auto store = makeStore();
+                int stops = 0;
+                const auto ended =
+                    traced([&] { deed(store); }, [&](pid_t) { return ++stops != fatalStop; });
+                if (!ended)
+                    GTEST_SKIP() << "tracing is not allowed here";
+                ASSERT_NO_FATAL_FAILURE(expectWhole(old, seen)) << "killed at stop " << fatalStop;
+                if (*ended)
+                    break;
+            }
+            EXPECT_TRUE(seen.contains(before));
+            EXPECT_GE(seen.size(), 2U) << "killed late enough, the new ones are there";
+        }
+    }
+    RecordProperty("rounds", rounds);
+}
+
+#if defined(__x86_64__) && defined(__linux__)
+TEST_F(PresetDurabilityTest, HasTheOldOrTheNewPresetsWhicheverCallFails) {
+    const std::set<unsigned long long> fileCalls{
+        SYS_open,  SYS_openat, SYS_write,  SYS_pwrite64, SYS_writev,    SYS_fsync,  SYS_fdatasync,
+        SYS_close, SYS_rename, SYS_linkat, SYS_renameat, SYS_renameat2, SYS_unlink, SYS_fchmod,
+        SYS_chmod, SYS_mkdir,  SYS_statx,  SYS_lseek,    SYS_ftruncate, SYS_access, SYS_newfstatat};
+    const QList<FanPreset> old = *decodePresets(before);
+    for (const int error : {EIO, ENOSPC, EROFS, EACCES}) {
+        for (const auto& deed : {deeds().first(), deeds().last()}) {
+            std::set<QByteArray> seen;
+            for (int fatalCall = 1;; ++fatalCall) {
+                restore();
+                auto store = makeStore();
+                int calls = 0;
+                bool isEntry = false;
+                bool isFailing = false;
+                const auto ended =
+                    traced([&] { deed(store); },
+                           [&](pid_t child) {
+                               isEntry = !isEntry;
+                               user_regs_struct registers{};
+                               ::ptrace(PTRACE_GETREGS, child, nullptr, &registers);
+                               if (isEntry && fileCalls.contains(registers.orig_rax) &&
+                                   ++calls == fatalCall) {
+                                   isFailing = true;
+                                   registers.orig_rax = ~0ULL; // no such call
+                                   ::ptrace(PTRACE_SETREGS, child, nullptr, &registers);
+                               } else if (!isEntry && isFailing) {
+                                   isFailing = false;
+                                   registers.rax = static_cast<unsigned long long>(-error);
+                                   ::ptrace(PTRACE_SETREGS, child, nullptr, &registers);
+                               }
+                               return true;
+                           });
+                if (!ended)
+                    GTEST_SKIP() << "tracing is not allowed here";
+                ASSERT_TRUE(*ended) << "crashed when call " << fatalCall << " failed";
+                ASSERT_NO_FATAL_FAILURE(expectWhole(old, seen)) << "call " << fatalCall;
+                if (calls < fatalCall)
+                    break;
+            }
+            EXPECT_GE(seen.size(), 2U);
+        }
+    }
+}
+#endif
+
+TEST_F(PresetDurabilityTest, KeepsEveryDamagedFile) {
+    ASSERT_TRUE(makeStore().addPreset(QString(3000, u'x')));
+    before = content();
+    ASSERT_GE(before.size(), 4096);
+    const auto check = [&](const QByteArray& damaged, bool alsoSave) {
+        restore();
+        QFile out(file);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(damaged);
+        out.close();
+        auto store = makeStore();
+        const auto decoded = decodePresets(damaged);
+        ASSERT_EQ(content(), damaged) << "loading must not touch it";
+        ASSERT_EQ(store.presets().size(), 2 + (decoded ? decoded->size() : 0));
+        if (!alsoSave || decoded)
+            return;
+        ASSERT_TRUE(store.addPreset(u"New"_s));
+        QFile kept(file + u".unreadable"_s);
+        ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+        ASSERT_EQ(kept.readAll(), damaged);
+    };
+    // Every damage is decoded; a store is made of some, and saves over fewer.
+    for (qsizetype length = 0; length < before.size(); ++length) {
+        (void)decodePresets(before.left(length));
+        if (length % 32 == 0)
+            ASSERT_NO_FATAL_FAILURE(check(before.left(length), length % 256 == 0)) << length;
+    }
+    for (qsizetype bit = 0; bit < 8 * before.size(); ++bit) {
+        QByteArray damaged = before;
+        damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << (bit % 8)));
+        (void)decodePresets(damaged);
+        if (bit % 61 == 0)
+            ASSERT_NO_FATAL_FAILURE(check(damaged, bit % 2013 == 0)) << "bit " << bit;
+    }
+}
+
+} // namespace
+} // namespace kestrowind
