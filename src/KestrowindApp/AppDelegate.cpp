@@ -29,7 +29,9 @@ AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate() {
         return TerminateReply::now;
     if (!m_isTerminating) {
         m_isTerminating = true;
-        quit(*m_appState);
+        // Once this has returned: a reply that came before the answer would be lost.
+        QMetaObject::invokeMethod(
+            this, [this] { quit(*m_appState); }, Qt::QueuedConnection);
     }
     return TerminateReply::later;
 }

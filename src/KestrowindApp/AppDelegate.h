@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/ApplicationObject.h"
+
 #include <QCoroTask>
 #include <QObject>
 
@@ -15,12 +17,10 @@ struct Platform;
 
 /// What the application object asks about the process's life: its start, being opened again, and
 /// its end. Belongs to the main thread.
-class AppDelegate final : public QObject {
+class AppDelegate final : public QObject, public ApplicationDelegate {
     Q_OBJECT
 
 public:
-    enum class TerminateReply { now, later };
-
     /// How long an older copy has to end of its own accord.
     static constexpr std::chrono::milliseconds politeWait{2000};
 
@@ -32,10 +32,10 @@ public:
 
     void applicationDidFinishLaunching();
     /// True in every case: the application may go on as it would.
-    bool applicationShouldHandleReopen(bool hasVisibleWindows);
+    bool applicationShouldHandleReopen(bool hasVisibleWindows) override;
     /// `later` starts the quit path: the fans are released, then the helper is shut down, and then
     /// replyToShouldTerminate follows. Asking again meanwhile starts nothing.
-    TerminateReply applicationShouldTerminate();
+    TerminateReply applicationShouldTerminate() override;
 
 Q_SIGNALS:
     void replyToShouldTerminate();

@@ -16,7 +16,7 @@ KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& 
     , m_delegate(m_platform) {
     m_platform.userDefaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
     connect(&m_delegate, &AppDelegate::replyToShouldTerminate, this,
-            [] { QCoreApplication::exit(); });
+            [this] { m_platform.application->replyToShouldTerminate(); });
     if (options.readings) {
         m_readingsPrinter = std::make_unique<ReadingsPrinter>(m_appState, *options.readings);
         // Nobody reads any more: what ran for its readings is done.
@@ -28,6 +28,7 @@ KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& 
 KestrowindApp::~KestrowindApp() = default;
 
 int KestrowindApp::run() {
+    m_platform.application->setDelegate(m_delegate);
     // Only from here on is there a loop that hears of them; a dump simply ends.
     m_terminationSignals.emplace();
     connect(&*m_terminationSignals, &TerminationSignals::terminationRequested, this,
@@ -50,8 +51,7 @@ void KestrowindApp::dumpSMCKeys() const {
 }
 
 void KestrowindApp::terminate() {
-    if (m_delegate.applicationShouldTerminate() == AppDelegate::TerminateReply::now)
-        QCoreApplication::exit();
+    m_platform.application->terminate();
 }
 
 } // namespace kestrowind

@@ -12,6 +12,8 @@ public:
 
     [[nodiscard]] virtual Policy policy() const = 0;
     virtual void setPolicy(Policy policy) = 0;
+    /// Brings the application in front of all others.
+    virtual void activate() = 0;
 };
 
 } // namespace kestrowind

@@ -2,7 +2,9 @@
 
 #include "Platform/ActivationPolicy.h"
 #include "Platform/AdminScriptRunner.h"
+#include "Platform/ApplicationObject.h"
 #include "Platform/HelperConnection.h"
+#include "Platform/LoginItem.h"
 #include "Platform/RunningApplications.h"
 #include "Platform/SystemAppearance.h"
 #include "Platform/SystemInformation.h"
@@ -16,10 +18,12 @@ namespace kestrowind {
 /// Everything that the system gives to the application, one member a facility. The application is
 /// built from one of these; tests put their own parts in.
 struct Platform {
+    std::unique_ptr<ApplicationObject> application;
     std::unique_ptr<SystemInformation> information;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<RunningApplications> runningApplications;
     std::unique_ptr<ActivationPolicy> activationPolicy;
+    std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<AdminScriptRunner> scriptRunner;
     HelperConnectionFactory helperConnection;
     SMCUserClientFactory smc;

@@ -24,6 +24,17 @@ void wakeUp(int /*signalNumber*/) {
     errno = savedError;
 }
 
+/// False when the system has none left.
+bool openPipe(int (&ends)[2]) {
+    if (::pipe(ends) != 0)
+        return false;
+    for (const int end : ends) {
+        ::fcntl(end, F_SETFD, FD_CLOEXEC);
+        ::fcntl(end, F_SETFL, O_NONBLOCK);
+    }
+    return true;
+}
+
 void setHandler(void (*handler)(int)) {
     struct sigaction action {};
     action.sa_handler = handler;
@@ -36,7 +47,7 @@ void setHandler(void (*handler)(int)) {
 
 TerminationSignals::TerminationSignals(QObject* parent)
     : QObject(parent) {
-    if (::pipe2(m_pipe, O_CLOEXEC | O_NONBLOCK) != 0)
+    if (!openPipe(m_pipe))
         qFatal("no pipe for termination signals: errno %d", errno);
     m_notifier = std::make_unique<QSocketNotifier>(m_pipe[0], QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {

@@ -99,9 +99,12 @@ void HelperBus::call(const QString& method, const QVariantList& arguments,
         peer.asyncCall(message, static_cast<int>(callLifetime.count())), this);
     connect(
         watcher, &QDBusPendingCallWatcher::finished, this,
-        [watcher, peerName = m_peerName, replySignature, deliver, error] {
+        [this, watcher, peerName = m_peerName, replySignature, deliver, error] {
             watcher->deleteLater();
             const QDBusMessage reply = watcher->reply();
+            // A call that waited has met the helper's end: the next one may connect again.
+            if (watcher->isError() && peerName == m_peerName && isInterrupted())
+                disconnectFromService();
             if (!watcher->isError() && reply.signature() == replySignature)
                 deliver(reply);
             else if (!watcher->isError())

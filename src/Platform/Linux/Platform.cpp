@@ -1,5 +1,6 @@
 #include "Platform/Platform.h"
 
+#include "Platform/Linux/EventLoopApplication.h"
 #include "Platform/Linux/HelperBus.h"
 #include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Linux/LinuxSystemInformation.h"
@@ -57,6 +58,7 @@ Platform makePlatform(const QStringList& arguments) {
                                              u"Kestrowind"_s, u"Kestrowind"_s);
     store->setFallbacksEnabled(false);
     return {
+        .application = std::make_unique<EventLoopApplication>(),
         .information = std::make_unique<LinuxSystemInformation>(),
         .userDefaults = std::make_unique<UserDefaults>(arguments, std::move(store)),
         .runningApplications = std::make_unique<LinuxRunningApplications>(),

@@ -30,6 +30,7 @@ void MainWindowController::show() {
     m_visibility.setOnScreen(true);
     m_window.raise();
     m_window.requestActivate();
+    m_activationPolicy.activate();
 }
 
 bool MainWindowController::windowShouldClose() {

@@ -1,26 +1,12 @@
 #include "UI/MenuBar/SystemTrayWatch.h"
 
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QDBusServiceWatcher>
-#include <QGuiApplication>
 #include <QSystemTrayIcon>
 
 #include <array>
-#include <chrono>
 
 namespace kestrowind {
-namespace {
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-
-// The bus name under which desktops take icons in (freedesktop.org, StatusNotifierItem).
-constexpr auto watcherName = "org.kde.StatusNotifierWatcher"_L1;
-
-constexpr std::array waits = {1500ms, 5000ms, 15000ms, 30000ms};
-
-} // namespace
 
 SystemTrayWatch::SystemTrayWatch(QObject* parent)
     : QObject(parent) {
@@ -30,32 +16,9 @@ SystemTrayWatch::SystemTrayWatch(QObject* parent)
 
 SystemTrayWatch::~SystemTrayWatch() = default;
 
-// The toolkit decides between the bus and X11's own trays when it is first asked, and never again:
-// a desktop that is still starting gets a moment before that question.
-void SystemTrayWatch::start() {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
-        look();
-        return;
-    }
-    const bool isRegistered = bus.interface()->isServiceRegistered(watcherName);
-    if (isRegistered) {
-        look();
-        return;
-    }
-    m_watcher = std::make_unique<QDBusServiceWatcher>(watcherName, bus,
-                                                      QDBusServiceWatcher::WatchForRegistration);
-    connect(m_watcher.get(), &QDBusServiceWatcher::serviceRegistered, this, &SystemTrayWatch::look);
-    // On Wayland only the bus leads to a tray.
-    if (QGuiApplication::platformName().startsWith("wayland"_L1)) {
-        m_isMissing = true;
-        Q_EMIT missing();
-    } else {
-        m_nextLook.start(waits.front());
-    }
-}
-
 void SystemTrayWatch::look() {
+    static constexpr std::array<std::chrono::milliseconds, 4> waits = {firstWait, 5000ms, 15000ms,
+                                                                       30000ms};
     if (QSystemTrayIcon::isSystemTrayAvailable()) {
         m_nextLook.stop();
         if (m_watcher)

@@ -3,14 +3,13 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <memory>
-
-class QDBusServiceWatcher;
 
 namespace kestrowind {
 
-/// Tells when the desktop has a place for the icon: at once, or when its panel has started. It
-/// listens on the session bus and otherwise looks a few times in the first minute.
+/// Tells when the desktop has a place for the icon: at once, or when its panel has started. Where
+/// there is a session bus it listens there, and otherwise looks a few times in the first minute.
 class SystemTrayWatch final : public QObject {
     Q_OBJECT
 
@@ -26,9 +25,12 @@ Q_SIGNALS:
     void missing();
 
 private:
+    /// What a desktop that is still starting gets before the first look.
+    static constexpr std::chrono::milliseconds firstWait{1500};
+
     void look();
 
-    std::unique_ptr<QDBusServiceWatcher> m_watcher;
+    std::unique_ptr<QObject> m_watcher; ///< tells of a panel that has started
     QTimer m_nextLook;
     int m_looks = 0;
     bool m_isMissing = false;

@@ -1,0 +1,65 @@
+// A program that is run several times over, to find and to end its own older copies.
+// usage: kestrowind_seam_copy count|terminate|force
+// It says "up", and for each line that it reads how many older copies there are; then, unless it
+// only counts, it ends them and says "ended". It goes when its input does.
+
+#include "ThisSystem.h"
+
+#include <QGuiApplication>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+void say(const char* text) {
+    std::puts(text);
+    std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    using namespace kestrowind;
+
+    QGuiApplication application(argc, argv);
+    const QString mode = QGuiApplication::arguments().value(1);
+    const auto applications = ThisSystem::Workspace::applications();
+    std::vector<std::unique_ptr<RunningApplication>> copies;
+
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &application, [&] {
+        if (std::ranges::all_of(copies, [](const auto& copy) { return copy->isTerminated(); })) {
+            look.stop();
+            say("ended");
+        }
+    });
+    const auto act = [&] {
+        copies = applications->olderCopies(QStringLiteral("app.kestrowind.seam-copy"));
+        say(std::to_string(copies.size()).c_str());
+        if (mode == QLatin1StringView("count"))
+            return;
+        for (const auto& copy : copies) {
+            if (mode == QLatin1StringView("force"))
+                copy->forceTerminate();
+            else
+                copy->terminate();
+        }
+        look.start(10);
+    };
+
+    QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, &application, [&] {
+        char bytes[64];
+        if (::read(STDIN_FILENO, bytes, sizeof bytes) > 0)
+            act();
+        else
+            QCoreApplication::exit();
+    });
+    // Once the loop runs, the system knows of the application.
+    QTimer::singleShot(0, &application, [] { say("up"); });
+    return QCoreApplication::exec();
+}

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "Platform/Linux/HelperBus.h"
+#include "Platform/Linux/LinuxRunningApplications.h"
+#include "Platform/Linux/LinuxSystemInformation.h"
+#include "Simulator/BootedMac.h"
+#include "Simulator/Link/SMCLink.h"
+#include "Simulator/SimulatedSMC.h"
+
+#if __has_include("Platform/Linux/AutostartEntry.h")
+#include "Platform/Linux/AutostartEntry.h"
+#endif
+
+#include <QSettings>
+#include <QTemporaryDir>
+
+/// The implementations that the seams' tests run against on this system. Each is made with the
+/// machine around it, and leaves nothing behind.
+namespace kestrowind::ThisSystem {
+
+/// The simulated kernel, over its socket.
+class Kernel {
+public:
+    std::shared_ptr<SMCUserClient> userClient() {
+        return std::make_shared<SMCLink>(SimulatedMac::smcSocket(m_mac.root()));
+    }
+
+private:
+    BootedMac m_mac{{}};
+};
+
+/// The simulated SMC alone.
+class KernelInProcess {
+public:
+    std::shared_ptr<SMCUserClient> userClient() { return std::make_shared<SimulatedSMC>(); }
+};
+
+using Kernels = testing::Types<Kernel, KernelInProcess>;
+
+class Helper {
+public:
+    Helper() { qputenv(SimulatedMac::rootVariable, m_mac.root().c_str()); }
+    ~Helper() { qunsetenv(SimulatedMac::rootVariable); }
+
+    /// Whether a test may drive the fans, and shut down and uninstall the helper.
+    static constexpr bool isExpendable = true;
+
+    [[nodiscard]] bool isInstalled() const { return m_mac.isUp(); }
+    std::unique_ptr<HelperConnection> connection(const QString& machServiceName) {
+        return std::make_unique<HelperBus>(machServiceName);
+    }
+
+private:
+    BootedMac m_mac{{QStringLiteral("--installed")}};
+};
+
+using Helpers = testing::Types<Helper>;
+
+class Defaults {
+public:
+    std::unique_ptr<QSettings> open() {
+        return std::make_unique<QSettings>(m_folder.filePath(QStringLiteral("defaults.ini")),
+                                           QSettings::IniFormat);
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+using DefaultsStores = testing::Types<Defaults>;
+
+/// Copies find each other inside one simulated Mac, which no other test shares.
+class Workspace {
+public:
+    Workspace() { qputenv(SimulatedMac::rootVariable, m_root.path().toUtf8()); }
+    ~Workspace() { qunsetenv(SimulatedMac::rootVariable); }
+
+    static std::unique_ptr<RunningApplications> applications() {
+        return std::make_unique<LinuxRunningApplications>();
+    }
+
+private:
+    QTemporaryDir m_root;
+};
+
+#if __has_include("Platform/Linux/AutostartEntry.h")
+class Login {
+public:
+    std::unique_ptr<LoginItem> item() {
+        return std::make_unique<AutostartEntry>(m_folder.filePath(QStringLiteral("a/x.desktop")),
+                                                QStringList{QStringLiteral("/opt/x/program")});
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+using Logins = testing::Types<Login>;
+#endif
+
+class Machine {
+public:
+    Machine() { qputenv(SimulatedMac::rootVariable, m_mac.root().c_str()); }
+    ~Machine() { qunsetenv(SimulatedMac::rootVariable); }
+    std::unique_ptr<SystemInformation> information() {
+        return std::make_unique<LinuxSystemInformation>();
+    }
+
+private:
+    BootedMac m_mac{{QStringLiteral("--installed")}};
+};
+
+using Machines = testing::Types<Machine>;
+
+} // namespace kestrowind::ThisSystem

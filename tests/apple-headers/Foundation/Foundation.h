@@ -1,0 +1,108 @@
+#pragma once
+
+#include <stddef.h>
+#include <stdint.h>
+
+// How wide a BOOL is depends on the processor; the compiler knows.
+#if __OBJC_BOOL_IS_BOOL
+typedef bool BOOL;
+#else
+typedef signed char BOOL;
+#endif
+#define YES __objc_yes
+#define NO __objc_no
+#define nil nullptr
+
+#if __LP64__
+typedef long NSInteger;
+typedef unsigned long NSUInteger;
+#endif
+
+#define NS_ENUM(type, name)                                                                        \
+    enum name : type name;                                                                         \
+    enum name : type
+#define NS_OPTIONS(type, name) NS_ENUM(type, name)
+
+typedef struct objc_selector* SEL;
+typedef struct _NSZone NSZone;
+
+@protocol NSObject
+- (BOOL)respondsToSelector:(SEL)selector;
+- (BOOL)conformsToProtocol:(Protocol*)protocol;
+- (BOOL)isKindOfClass:(Class)kind;
+@end
+
+__attribute__((objc_root_class))
+@interface NSObject<NSObject>
++ (instancetype)alloc;
+- (instancetype)init;
++ (Class)class;
+- (BOOL)respondsToSelector:(SEL)selector;
+- (id)forwardingTargetForSelector:(SEL)selector;
+@end
+
+typedef struct {
+    unsigned long state;
+    id __unsafe_unretained* itemsPtr;
+    unsigned long* mutationsPtr;
+    unsigned long extra[5];
+} NSFastEnumerationState;
+
+@protocol NSFastEnumeration
+- (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState*)state
+                                  objects:(id __unsafe_unretained[])buffer
+                                    count:(NSUInteger)length;
+@end
+
+@interface NSString : NSObject
+@end
+
+@interface NSData : NSObject
+@end
+
+@interface NSNumber : NSObject
++ (NSNumber*)numberWithDouble:(double)value;
+@property(readonly) double doubleValue;
+@end
+
+@interface NSArray<__covariant ObjectType> : NSObject <NSFastEnumeration>
+@property(readonly) NSUInteger count;
+@end
+
+@interface NSMutableArray<ObjectType> : NSArray <ObjectType>
++ (instancetype)arrayWithCapacity:(NSUInteger)capacity;
+- (void)addObject:(ObjectType)object;
+@end
+
+@interface NSError : NSObject
+@property(readonly, copy) NSString* localizedDescription;
+@end
+
+@interface NSBundle : NSObject
+@property(class, readonly, strong) NSBundle* mainBundle;
+@property(readonly, copy) NSString* bundleIdentifier;
+- (id)objectForInfoDictionaryKey:(NSString*)key;
+- (NSString*)pathForResource:(NSString*)name ofType:(NSString*)extension;
+@end
+
+@interface NSProcessInfo : NSObject
+@property(class, readonly, strong) NSProcessInfo* processInfo;
+@property(readonly, copy) NSString* operatingSystemVersionString;
+@end
+
+@interface NSXPCInterface : NSObject
++ (NSXPCInterface*)interfaceWithProtocol:(Protocol*)protocol;
+@end
+
+typedef NS_OPTIONS(NSUInteger, NSXPCConnectionOptions) {
+    NSXPCConnectionPrivileged = 1UL << 12UL,
+};
+
+@interface NSXPCConnection : NSObject
+- (instancetype)initWithMachServiceName:(NSString*)name options:(NSXPCConnectionOptions)options;
+@property(strong) NSXPCInterface* remoteObjectInterface;
+@property(copy) void (^invalidationHandler)(void);
+- (id)remoteObjectProxyWithErrorHandler:(void (^)(NSError* error))handler;
+- (void)resume;
+- (void)invalidate;
+@end

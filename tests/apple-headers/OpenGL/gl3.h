@@ -1,0 +1,4 @@
+#pragma once
+
+// For the toolkit's headers: the same interface as elsewhere.
+#include <GL/gl.h>
