@@ -3,6 +3,7 @@
 #include "Platform/ActivationPolicy.h"
 #include "Platform/AdminScriptRunner.h"
 #include "Platform/HelperConnection.h"
+#include "Platform/LoginItem.h"
 #include "Platform/RunningApplications.h"
 #include "Platform/SystemAppearance.h"
 #include "Platform/SystemInformation.h"
@@ -20,6 +21,7 @@ struct Platform {
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<RunningApplications> runningApplications;
     std::unique_ptr<ActivationPolicy> activationPolicy;
+    std::unique_ptr<LoginItem> loginItem;
     std::unique_ptr<AdminScriptRunner> scriptRunner;
     HelperConnectionFactory helperConnection;
     SMCUserClientFactory smc;
