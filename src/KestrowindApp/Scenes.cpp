@@ -3,6 +3,7 @@
 #include "Core/AppState.h"
 #include "Platform/Platform.h"
 #include "UI/Dashboard/DashboardModel.h"
+#include "UI/Settings/SettingsModel.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -12,11 +13,27 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-std::vector<SectionView> sectionViews(AppState& appState) {
+/// The settings' view model, and what of it outlives a visit to that section.
+std::function<std::unique_ptr<QObject>()> makeSettings(AppState& appState, Platform& platform) {
+    return
+        [&appState, &platform, operation = std::make_shared<HelperOperation>(appState.helper())] {
+            return std::make_unique<SettingsModel>(
+                SettingsServices{.helper = appState.helper(),
+                                 .helperOperation = *operation,
+                                 .userDefaults = *platform.userDefaults,
+                                 .loginItem = *platform.loginItem,
+                                 .information = *platform.information});
+        };
+}
+
+std::vector<SectionView> sectionViews(AppState& appState, Platform& platform) {
     return {
         {.section = MainSection::dashboard,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
          .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
+        {.section = MainSection::settings,
+         .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Settings/SettingsRootView.qml"_s),
+         .makeModel = makeSettings(appState, platform)},
     };
 }
 
@@ -32,7 +49,7 @@ Scenes::Scenes(AppState& appState, Platform& platform)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 
-    m_mainWindow.setSectionViews(sectionViews(appState));
+    m_mainWindow.setSectionViews(sectionViews(appState, platform));
     appState.setOpenMainWindow([this] { m_mainWindow.show(); });
     connect(&m_menuBarExtra, &MenuBarExtra::openMainWindowRequested, &m_mainWindow,
             &MainWindowScene::show);

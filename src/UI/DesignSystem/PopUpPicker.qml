@@ -1,0 +1,101 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrowind.DesignSystem
+
+// One of a few texts (the model, a list), behind a button that shows the current one. The owner
+// answers activated(index) by setting currentIndex.
+T.ComboBox {
+    id: root
+
+    required property string label
+
+    readonly property real tickWidth: 18
+
+    font: Typography.body
+    leftPadding: 12
+    rightPadding: 28
+    topPadding: 4
+    bottomPadding: 4
+    implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
+    implicitHeight: Math.max(28, implicitContentHeight + topPadding + bottomPadding)
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.45
+    Accessible.name: label
+    Accessible.description: displayText
+    Keys.onReturnPressed: popup.open()
+    Keys.onEnterPressed: popup.open()
+
+    background: ControlBackground {
+        prominent: false
+        hovered: root.hovered
+        pressed: root.down
+
+        FocusRing { shown: root.visualFocus }
+    }
+
+    // All of them, one over the other: as wide as the widest, whichever is current.
+    contentItem: Item {
+        implicitWidth: childrenRect.width
+        implicitHeight: childrenRect.height
+
+        Repeater {
+            model: root.model
+            delegate: Text {
+                required property int index
+                required property string modelData
+
+                text: modelData
+                textFormat: Text.PlainText
+                font: Typography.body
+                color: AppColors.primaryText
+                // The delegate lives inside its root: Qt 6.4 has no way to say so to the linter.
+                // qmllint disable unqualified
+                opacity: index === root.currentIndex ? 1 : 0
+                // qmllint enable unqualified
+                Accessible.ignored: true
+            }
+        }
+    }
+
+    indicator: Symbol {
+        x: root.width - width - 8
+        y: Math.round((root.height - height) / 2)
+        name: "chevron.up.chevron.down"
+        size: 14
+        color: AppColors.secondaryText
+    }
+
+    delegate: PopUpPickerItem {
+        required property int index
+        required property string modelData
+
+        width: ListView.view ? ListView.view.width : implicitWidth
+        text: modelData
+        // The delegate lives inside its root: Qt 6.4 has no way to say so to the linter.
+        // qmllint disable unqualified
+        isCurrent: index === root.currentIndex
+        highlighted: index === root.highlightedIndex
+        // qmllint enable unqualified
+    }
+
+    popup: T.Popup {
+        y: root.height + Spacing.tight
+        width: Math.max(root.width, root.implicitContentWidth + root.tickWidth + 31)
+        padding: 5
+        margins: 6
+        implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+
+        contentItem: ListView {
+            implicitHeight: contentHeight
+            model: root.delegateModel
+            currentIndex: root.highlightedIndex
+            interactive: contentHeight > height
+            clip: interactive
+        }
+
+        background: PopupBackground {}
+
+        enter: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: 90 } }
+        exit: Transition { NumberAnimation { property: "opacity"; to: 0; duration: 110 } }
+    }
+}
