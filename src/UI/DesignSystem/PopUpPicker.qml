@@ -35,15 +35,20 @@ T.ComboBox {
 
     // All of them, one over the other: as wide as the widest, whichever is current.
     contentItem: Item {
-        implicitWidth: childrenRect.width
-        implicitHeight: childrenRect.height
+        implicitWidth: texts.widest
 
         Repeater {
+            id: texts
+
+            property real widest: 0
+
             model: root.model
+            onItemAdded: (index, item) => widest = Math.max(widest, item.implicitWidth)
             delegate: Text {
                 required property int index
                 required property string modelData
 
+                y: parent ? Math.round((parent.height - height) / 2) : 0
                 text: modelData
                 textFormat: Text.PlainText
                 font: Typography.body
