@@ -22,8 +22,13 @@ T.ComboBox {
     opacity: enabled ? 1 : 0.45
     Accessible.name: label
     Accessible.description: displayText
-    Keys.onReturnPressed: popup.open()
-    Keys.onEnterPressed: popup.open()
+    // As the space bar does; on release, because with the release it would close again.
+    Keys.onReleased: event => {
+        const opens = !popup.visible && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
+        if (opens)
+            popup.open()
+        event.accepted = opens
+    }
 
     background: ControlBackground {
         prominent: false
