@@ -181,10 +181,12 @@ TEST(AutostartEntry, SaysWhyItCannotBeChanged) {
     const TestHome home;
     ASSERT_TRUE(DurableFile::write(home.path(u"config"_s), "a file"));
     AutostartEntry entry(home.path(u"config/autostart/app.desktop"_s), {u"/bin/kestrowind"_s});
-    EXPECT_EQ(entry.registerApplication().error(), u"Not a directory"_s);
+    EXPECT_EQ(entry.registerApplication().error(),
+              home.path(u"config/autostart/app.desktop: Not a directory"_s));
     ASSERT_TRUE(QDir(home.path()).mkpath(u"full.desktop/inside"_s));
     AutostartEntry folder(home.path(u"full.desktop"_s), {u"/bin/kestrowind"_s});
-    EXPECT_EQ(folder.unregisterApplication().error(), u"Directory not empty"_s);
+    EXPECT_EQ(folder.unregisterApplication().error(),
+              home.path(u"full.desktop: Directory not empty"_s));
     EXPECT_FALSE(folder.isEnabled());
 }
 

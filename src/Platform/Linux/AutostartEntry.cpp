@@ -115,21 +115,27 @@ std::expected<void, QString> AutostartEntry::registerApplication() {
     std::filesystem::create_directories(
         QFile::encodeName(QFileInfo(m_file).absolutePath()).toStdString(), error);
     if (error)
-        return std::unexpected(QString::fromLocal8Bit(error.message().c_str()));
+        return failure(QString::fromLocal8Bit(error.message().c_str()));
     const QString entry = u"[Desktop Entry]\n"
                           "Type=Application\n"
                           "Name=Kestrowind\n"
                           "Exec=%1\n"
                           "Terminal=false\n"_s.arg(execValue(m_command));
-    return DurableFile::write(m_file, entry.toUtf8());
+    if (const auto written = DurableFile::write(m_file, entry.toUtf8()); !written)
+        return failure(written.error());
+    return {};
 }
 
 std::expected<void, QString> AutostartEntry::unregisterApplication() {
     std::error_code error;
     std::filesystem::remove(QFile::encodeName(m_file).toStdString(), error);
     if (error)
-        return std::unexpected(QString::fromLocal8Bit(error.message().c_str()));
+        return failure(QString::fromLocal8Bit(error.message().c_str()));
     return {};
+}
+
+std::unexpected<QString> AutostartEntry::failure(const QString& reason) const {
+    return std::unexpected(m_file + u": "_s + reason);
 }
 
 QString AutostartEntry::execValue(const QStringList& command) {

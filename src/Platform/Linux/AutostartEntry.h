@@ -28,6 +28,8 @@ public:
     [[nodiscard]] static std::optional<QStringList> commandOf(const QString& execValue);
 
 private:
+    [[nodiscard]] std::unexpected<QString> failure(const QString& reason) const;
+
     QString m_file;
     QStringList m_command;
 };

@@ -1,10 +1,14 @@
 #include "SettingsMachine.h"
 
+#include "Core/HelperClient.h"
 #include "Core/LocalizedText.h"
 #include "Core/TelemetryStore.h"
+#include "Platform/AdminScriptRunner.h"
 #include "Simulator/SimulatedSMC.h"
+#include "Support/FakeHelperConnection.h"
 #include "Support/QtPrinters.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 #include <gmock/gmock.h>
@@ -145,6 +149,27 @@ TEST(HelperSettings, AsksForTheStatusAgainAndAgainWhileItIsSeen) {
     helper.answerQuestions();
     ASSERT_TRUE(QTest::qWaitFor([&] { return helper.questions == 6; }));
     EXPECT_TRUE(nothingFollows());
+}
+
+TEST(HelperSettings, AsksASilentHelperOnceInItsPatienceAndTheInterval) {
+    FakeHelper silent;
+    FakeSystemInformation files;
+    files.files = {QString::fromLatin1(HelperConstants::daemonPlistPath),
+                   QString::fromLatin1(HelperConstants::helperInstallPath)};
+    ProcessScriptRunner runner(u"/nonexistent"_s);
+    HelperClient client({.makeConnection = silent.factory(),
+                         .information = files,
+                         .scriptRunner = runner,
+                         .callTimeout = 60ms});
+    HelperOperation operation(client);
+    HelperSettings settings(client, operation, 40ms);
+    QElapsedTimer timer;
+    timer.start();
+    settings.setSeen(true);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return silent.calls.size() == 4; }));
+    EXPECT_GE(timer.elapsed(), 3 * 100);
+    EXPECT_EQ(client.state(), HelperState::installed);
+    settings.setSeen(false);
 }
 
 TEST(FanBoostSettings, CountsFromTheNextSampleOn) {
