@@ -340,7 +340,7 @@
         <translation>Helper not installed</translation>
     </message>
     <message id="settings.helper.status.unreachable.description">
-        <translation>The helper is installed, but the connection to it broke. If this does not pass, reinstall it.</translation>
+        <translation>The connection to it broke. If this does not pass, reinstall the helper.</translation>
     </message>
     <message id="settings.helper.status.unreachable.title">
         <translation>Helper unreachable</translation>

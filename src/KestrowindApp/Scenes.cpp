@@ -13,27 +13,23 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// The settings' view model, and what of it outlives a visit to that section.
-std::function<std::unique_ptr<QObject>()> makeSettings(AppState& appState, Platform& platform) {
-    return
-        [&appState, &platform, operation = std::make_shared<HelperOperation>(appState.helper())] {
-            return std::make_unique<SettingsModel>(
-                SettingsServices{.helper = appState.helper(),
-                                 .helperOperation = *operation,
-                                 .userDefaults = *platform.userDefaults,
-                                 .loginItem = *platform.loginItem,
-                                 .information = *platform.information});
-        };
-}
-
-std::vector<SectionView> sectionViews(AppState& appState, Platform& platform) {
+std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
+                                      HelperOperation& helperOperation) {
     return {
         {.section = MainSection::dashboard,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
          .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
         {.section = MainSection::settings,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Settings/SettingsRootView.qml"_s),
-         .makeModel = makeSettings(appState, platform)},
+         .makeModel =
+             [&appState, &platform, &helperOperation] {
+                 return std::make_unique<SettingsModel>(
+                     SettingsServices{.helper = appState.helper(),
+                                      .helperOperation = helperOperation,
+                                      .userDefaults = *platform.userDefaults,
+                                      .loginItem = *platform.loginItem,
+                                      .information = *platform.information});
+             }},
     };
 }
 
@@ -42,6 +38,7 @@ std::vector<SectionView> sectionViews(AppState& appState, Platform& platform) {
 Scenes::Scenes(AppState& appState, Platform& platform)
     : m_systemAppearance(platform.systemAppearance())
     , m_startsHidden(platform.userDefaults->boolean(u"StartHidden"_s))
+    , m_helperOperation(appState.helper())
     , m_mainWindow(appState, *platform.userDefaults, *platform.activationPolicy,
                    m_systemAppearance.get())
     , m_menuBarExtra(appState, m_systemAppearance.get()) {
@@ -49,7 +46,7 @@ Scenes::Scenes(AppState& appState, Platform& platform)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 
-    m_mainWindow.setSectionViews(sectionViews(appState, platform));
+    m_mainWindow.setSectionViews(sectionViews(appState, platform, m_helperOperation));
     appState.setOpenMainWindow([this] { m_mainWindow.show(); });
     connect(&m_menuBarExtra, &MenuBarExtra::openMainWindowRequested, &m_mainWindow,
             &MainWindowScene::show);
