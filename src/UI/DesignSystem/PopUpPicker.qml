@@ -38,33 +38,9 @@ T.ComboBox {
         FocusRing { shown: root.visualFocus }
     }
 
-    // All of them, one over the other: as wide as the widest, whichever is current.
-    contentItem: Item {
-        implicitWidth: texts.widest
-
-        Repeater {
-            id: texts
-
-            property real widest: 0
-
-            model: root.model
-            onItemAdded: (index, item) => widest = Math.max(widest, item.implicitWidth)
-            delegate: Text {
-                required property int index
-                required property string modelData
-
-                y: parent ? Math.round((parent.height - height) / 2) : 0
-                text: modelData
-                textFormat: Text.PlainText
-                font: Typography.body
-                color: AppColors.primaryText
-                // The delegate lives inside its root: Qt 6.4 has no way to say so to the linter.
-                // qmllint disable unqualified
-                opacity: index === root.currentIndex ? 1 : 0
-                // qmllint enable unqualified
-                Accessible.ignored: true
-            }
-        }
+    contentItem: PopUpPickerText {
+        model: root.model
+        currentIndex: root.currentIndex
     }
 
     indicator: Symbol {
@@ -97,7 +73,10 @@ T.ComboBox {
 
         contentItem: ListView {
             implicitHeight: contentHeight
+            // The linter does not know the type of this, which is in a module of its own.
+            // qmllint disable
             model: root.delegateModel
+            // qmllint enable
             currentIndex: root.highlightedIndex
             interactive: contentHeight > height
             clip: interactive

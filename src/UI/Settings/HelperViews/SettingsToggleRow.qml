@@ -12,9 +12,9 @@ T.Switch {
     required property bool isOn
 
     width: parent ? parent.width : 0
-    implicitHeight: label.implicitHeight + topPadding + bottomPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
     leftPadding: Spacing.regular
-    rightPadding: Spacing.regular
+    rightPadding: implicitIndicatorWidth + 2 * Spacing.regular
     topPadding: Spacing.medium
     bottomPadding: Spacing.medium
     checked: isOn
@@ -37,20 +37,13 @@ T.Switch {
         }
     }
 
-    contentItem: Item {
-        SettingsRowLabel {
-            id: label
-
-            width: root.availableWidth - track.width - Spacing.regular
-            title: root.title
-            subtitle: root.subtitle
-        }
+    contentItem: SettingsRowLabel {
+        title: root.title
+        subtitle: root.subtitle
     }
 
     indicator: SwitchTrack {
-        id: track
-
-        x: root.width - root.rightPadding - width
+        x: root.width - width - Spacing.regular
         y: Math.round((root.height - height) / 2)
         checked: root.checked
         pressed: root.down

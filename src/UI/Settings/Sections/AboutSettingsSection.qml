@@ -1,5 +1,4 @@
 import QtQuick
-import Kestrowind.DesignSystem
 import Kestrowind.Settings
 
 SettingsSection {
