@@ -248,12 +248,111 @@
         <extracomment>%1: name of the preset that was duplicated</extracomment>
         <translation>%1 Copy</translation>
     </message>
+    <message id="settings.about.applicationName">
+        <translation>Kestrowind</translation>
+    </message>
+    <message id="settings.about.helperVersionLabel">
+        <translation>Helper version</translation>
+    </message>
+    <message id="settings.about.optimisedForCaption">
+        <translation>Optimised for Mac computers</translation>
+    </message>
+    <message id="settings.about.sectionTitle">
+        <translation>About</translation>
+    </message>
+    <message id="settings.about.versionLabel">
+        <translation>Version</translation>
+    </message>
+    <message id="settings.fanBoost.sectionTitle">
+        <translation>Fan Boost</translation>
+    </message>
+    <message id="settings.fanBoost.temperatureSource.average">
+        <translation>Average</translation>
+    </message>
+    <message id="settings.fanBoost.temperatureSource.hottest">
+        <translation>Hottest core</translation>
+    </message>
+    <message id="settings.fanBoost.temperatureSource.subtitle">
+        <translation>“Average” keeps the fans calm; “Hottest core” reacts sooner to short peaks.</translation>
+    </message>
+    <message id="settings.fanBoost.temperatureSource.title">
+        <translation>Temperature that drives the fans</translation>
+    </message>
+    <message id="settings.general.hideDockIcon.subtitle">
+        <translation>Kestrowind lives on in the menu bar.</translation>
+    </message>
+    <message id="settings.general.hideDockIcon.title">
+        <translation>Hide the Dock icon while the window is closed</translation>
+    </message>
+    <message id="settings.general.launchAtLogin.subtitle">
+        <translation>Starts quietly in the menu bar, without a window.</translation>
+    </message>
+    <message id="settings.general.launchAtLogin.title">
+        <translation>Launch at login</translation>
+    </message>
+    <message id="settings.general.sectionTitle">
+        <translation>General</translation>
+    </message>
     <message id="settings.helper.error.adminScriptFailed">
         <extracomment>%1: what the script runner said</extracomment>
         <translation>The administrator script failed: %1</translation>
     </message>
     <message id="settings.helper.error.resourcesMissing">
         <translation>The application is incomplete: its helper is missing from the bundle.</translation>
+    </message>
+    <message id="settings.helper.installButton">
+        <translation>Install…</translation>
+    </message>
+    <message id="settings.helper.outdatedNotice">
+        <translation>The installed helper is not the version that this application comes with. Reinstall it to bring both together again.</translation>
+    </message>
+    <message id="settings.helper.reinstallButton">
+        <translation>Reinstall…</translation>
+    </message>
+    <message id="settings.helper.reinstallHelperButton">
+        <translation>Reinstall Helper…</translation>
+    </message>
+    <message id="settings.helper.safety.automaticRelease">
+        <translation>When Kestrowind quits, crashes or stops responding, the helper gives the fans back to macOS within seconds.</translation>
+    </message>
+    <message id="settings.helper.safety.boostOnly">
+        <translation>The helper lets no fan run slower than a safety floor, which rises with the temperature.</translation>
+    </message>
+    <message id="settings.helper.safety.macOSProtection">
+        <translation>macOS and the hardware keep their own protection against overheating, whatever the helper does.</translation>
+    </message>
+    <message id="settings.helper.safety.title">
+        <translation>Safe by design</translation>
+    </message>
+    <message id="settings.helper.sectionTitle">
+        <translation>Privileged Helper</translation>
+    </message>
+    <message id="settings.helper.status.installed.description">
+        <translation>Kestrowind can control the fans.</translation>
+    </message>
+    <message id="settings.helper.status.installed.title">
+        <translation>Helper installed</translation>
+    </message>
+    <message id="settings.helper.status.notInstalled.description">
+        <translation>Without it Kestrowind can only watch the fans. Installing takes an administrator password, once.</translation>
+    </message>
+    <message id="settings.helper.status.notInstalled.title">
+        <translation>Helper not installed</translation>
+    </message>
+    <message id="settings.helper.status.unreachable.description">
+        <translation>The connection to it broke. If this does not pass, reinstall the helper.</translation>
+    </message>
+    <message id="settings.helper.status.unreachable.title">
+        <translation>Helper unreachable</translation>
+    </message>
+    <message id="settings.helper.uninstallButton">
+        <translation>Uninstall…</translation>
+    </message>
+    <message id="settings.helper.unlockingCaption">
+        <translation>Taking control of the fans. This can take some seconds.</translation>
+    </message>
+    <message id="settings.helper.workingSpinner">
+        <translation>Waiting for the administrator script</translation>
     </message>
     <message id="shared.fan.left">
         <translation>Left fan</translation>

@@ -3,6 +3,7 @@
 #include "Core/AppState.h"
 #include "Platform/Platform.h"
 #include "UI/Dashboard/DashboardModel.h"
+#include "UI/Settings/SettingsModel.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
@@ -12,11 +13,23 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-std::vector<SectionView> sectionViews(AppState& appState) {
+std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
+                                      HelperOperation& helperOperation) {
     return {
         {.section = MainSection::dashboard,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
          .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
+        {.section = MainSection::settings,
+         .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Settings/SettingsRootView.qml"_s),
+         .makeModel =
+             [&appState, &platform, &helperOperation] {
+                 return std::make_unique<SettingsModel>(
+                     SettingsServices{.helper = appState.helper(),
+                                      .helperOperation = helperOperation,
+                                      .userDefaults = *platform.userDefaults,
+                                      .loginItem = *platform.loginItem,
+                                      .information = *platform.information});
+             }},
     };
 }
 
@@ -25,6 +38,7 @@ std::vector<SectionView> sectionViews(AppState& appState) {
 Scenes::Scenes(AppState& appState, Platform& platform)
     : m_systemAppearance(platform.systemAppearance())
     , m_startsHidden(platform.userDefaults->boolean(u"StartHidden"_s))
+    , m_helperOperation(appState.helper())
     , m_mainWindow(appState, *platform.userDefaults, *platform.activationPolicy,
                    m_systemAppearance.get())
     , m_menuBarExtra(appState, m_systemAppearance.get()) {
@@ -32,7 +46,7 @@ Scenes::Scenes(AppState& appState, Platform& platform)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 
-    m_mainWindow.setSectionViews(sectionViews(appState));
+    m_mainWindow.setSectionViews(sectionViews(appState, platform, m_helperOperation));
     appState.setOpenMainWindow([this] { m_mainWindow.show(); });
     connect(&m_menuBarExtra, &MenuBarExtra::openMainWindowRequested, &m_mainWindow,
             &MainWindowScene::show);

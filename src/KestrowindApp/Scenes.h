@@ -3,6 +3,7 @@
 #include "Platform/SystemAppearance.h"
 #include "UI/MainWindow/MainWindowScene.h"
 #include "UI/MenuBar/MenuBarExtra.h"
+#include "UI/Settings/HelperOperation.h"
 
 #include <QObject>
 #include <QTimer>
@@ -37,6 +38,7 @@ Q_SIGNALS:
 private:
     std::unique_ptr<SystemAppearance> m_systemAppearance;
     bool m_startsHidden;
+    HelperOperation m_helperOperation;
     MainWindowScene m_mainWindow;
     MenuBarExtra m_menuBarExtra;
     QTimer m_trayWait;

@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QPromise>
 #include <QStringDecoder>
+#include <QThreadPool>
 
 #include <memory>
 
@@ -11,10 +12,30 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// Nobody waits for these workers, so they are never destroyed: a password dialog may stay open
+/// while the application ends.
+QThreadPool& workers() {
+    static auto* const pool = new QThreadPool;
+    return *pool;
+}
+
 QString decodedError(const QByteArray& standardError) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder.decode(standardError);
     return decoder.hasError() ? u"unknown error"_s : text.trimmed();
+}
+
+/// Blocks until the runner has ended.
+ScriptOutcome runAndWait(const QString& executable, const QString& appleScript) {
+    QProcess process;
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.start(executable, {u"-e"_s, appleScript}, QIODevice::ReadOnly);
+    process.waitForFinished(-1);
+    if (process.error() == QProcess::FailedToStart)
+        return {ScriptOutcome::Kind::notStarted, process.errorString()};
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+        return {ScriptOutcome::Kind::succeeded};
+    return {ScriptOutcome::Kind::failed, decodedError(process.readAllStandardError())};
 }
 
 } // namespace
@@ -25,28 +46,10 @@ ProcessScriptRunner::ProcessScriptRunner(QString executable)
 QFuture<ScriptOutcome> ProcessScriptRunner::run(const QString& appleScript) {
     auto promise = std::make_shared<QPromise<ScriptOutcome>>();
     promise->start();
-    // The process outlives this object: a password dialog may stay open while the caller goes.
-    auto* process = new QProcess;
-    process->setStandardOutputFile(QProcess::nullDevice());
-    const auto settle = [promise, process](ScriptOutcome outcome) {
-        promise->addResult(std::move(outcome));
+    workers().start([promise, executable = m_executable, appleScript] {
+        promise->addResult(runAndWait(executable, appleScript));
         promise->finish();
-        process->deleteLater();
-    };
-    QObject::connect(process, &QProcess::errorOccurred, process,
-                     [process, settle](QProcess::ProcessError error) {
-                         if (error == QProcess::FailedToStart)
-                             settle({ScriptOutcome::Kind::notStarted, process->errorString()});
-                     });
-    QObject::connect(process, &QProcess::finished, process,
-                     [process, settle](int exitCode, QProcess::ExitStatus status) {
-                         if (status == QProcess::NormalExit && exitCode == 0)
-                             settle({ScriptOutcome::Kind::succeeded});
-                         else
-                             settle({ScriptOutcome::Kind::failed,
-                                     decodedError(process->readAllStandardError())});
-                     });
-    process->start(m_executable, {u"-e"_s, appleScript}, QIODevice::ReadOnly);
+    });
     return promise->future();
 }
 

@@ -31,7 +31,8 @@ public:
 };
 
 /// The runner that starts an executable (/usr/bin/osascript of the machine) with the arguments "-e"
-/// and the script, and waits for it without blocking the caller's thread.
+/// and the script, on a worker that waits for its end. Runs overlap; one that waits for a password
+/// outlives this object, and does not hold up the end of the application.
 class ProcessScriptRunner final : public AdminScriptRunner {
 public:
     explicit ProcessScriptRunner(QString executable);

@@ -1,5 +1,6 @@
 #include "Platform/AdminScriptRunner.h"
 #include "Platform/DurableFile.h"
+#include "Platform/Linux/AutostartEntry.h"
 #include "Support/QtPrinters.h"
 #include "Support/TestDefaults.h"
 
@@ -131,9 +132,62 @@ TEST(ProcessScriptRunner, ReportsHowTheRunnerEnded) {
                   (ScriptOutcome{Kind::failed, u"unknown error"_s}));
     }
     EXPECT_EQ(outcomeOf("kill -9 $$").kind, Kind::failed);
+    // More than a pipe holds.
+    EXPECT_EQ(outcomeOf("head -c 300000 /dev/zero | tr '\\0' x >&2; exit 1").message.size(),
+              300000);
     auto missing = ProcessScriptRunner(home.path(u"missing"_s)).run({});
     EXPECT_TRUE(QTest::qWaitFor([&] { return missing.isFinished(); }));
     EXPECT_EQ(missing.result().kind, Kind::notStarted);
+    EXPECT_FALSE(missing.result().message.isEmpty());
+}
+
+TEST(AutostartEntry, QuotesACommandSoThatADesktopFindsIt) {
+    QString all = u"ä\n\t\r"_s;
+    for (char16_t character = u' '; character <= u'~'; ++character)
+        all += QChar(character);
+    for (const QStringList& command :
+         {QStringList{u"/bin/x"_s}, QStringList{all, all}, QStringList{u"/a b"_s, u""_s, u"%f"_s}})
+        EXPECT_EQ(AutostartEntry::commandOf(AutostartEntry::execValue(command)), command);
+    EXPECT_EQ(AutostartEntry::execValue({u"/a \"b\\$c`%"_s}), uR"("/a \\"b\\\\\\$c\\`%%")"_s);
+    EXPECT_EQ(AutostartEntry::commandOf(u"/bin/x  -a"_s), QStringList({u"/bin/x"_s, u"-a"_s}));
+    for (const QString& bad : {u"\"/bin/x"_s, u"/bin/x %f"_s, u"/bin/x \\q"_s, u"/bin/x \\"_s})
+        EXPECT_EQ(AutostartEntry::commandOf(bad), std::nullopt) << bad.toStdString();
+}
+
+TEST(AutostartEntry, IsEnabledWhileItStartsThisProgram) {
+    const TestHome home;
+    const QString file = home.path(u"config/autostart/app.desktop"_s);
+    AutostartEntry entry(file, {u"/opt/my \"apps\"/kestrowind"_s, u"-StartHidden"_s, u"YES"_s});
+    EXPECT_FALSE(entry.isEnabled());
+    EXPECT_TRUE(entry.unregisterApplication()) << "there is none";
+    ASSERT_TRUE(entry.registerApplication());
+    EXPECT_TRUE(entry.isEnabled());
+    const QByteArray written = content(file);
+    EXPECT_TRUE(written.contains("\"-StartHidden\" \"YES\""));
+    EXPECT_FALSE(AutostartEntry(file, {u"/opt/other/kestrowind"_s}).isEnabled());
+    for (const char* change : {"Hidden=true\n", "X-GNOME-Autostart-enabled=false\n", "Exec=\n"}) {
+        ASSERT_TRUE(DurableFile::write(file, written + change));
+        EXPECT_FALSE(entry.isEnabled()) << change;
+    }
+    ASSERT_TRUE(DurableFile::write(file, written + "[Another Group]\nHidden=true\n"));
+    EXPECT_TRUE(entry.isEnabled());
+    ASSERT_TRUE(entry.registerApplication());
+    EXPECT_EQ(content(file), written);
+    ASSERT_TRUE(entry.unregisterApplication());
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+TEST(AutostartEntry, SaysWhyItCannotBeChanged) {
+    const TestHome home;
+    ASSERT_TRUE(DurableFile::write(home.path(u"config"_s), "a file"));
+    AutostartEntry entry(home.path(u"config/autostart/app.desktop"_s), {u"/bin/kestrowind"_s});
+    EXPECT_EQ(entry.registerApplication().error(),
+              home.path(u"config/autostart/app.desktop: Not a directory"_s));
+    ASSERT_TRUE(QDir(home.path()).mkpath(u"full.desktop/inside"_s));
+    AutostartEntry folder(home.path(u"full.desktop"_s), {u"/bin/kestrowind"_s});
+    EXPECT_EQ(folder.unregisterApplication().error(),
+              home.path(u"full.desktop: Directory not empty"_s));
+    EXPECT_FALSE(folder.isEnabled());
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "Platform/Platform.h"
 
+#include "Platform/Linux/AutostartEntry.h"
 #include "Platform/Linux/EventLoopApplication.h"
 #include "Platform/Linux/HelperBus.h"
 #include "Platform/Linux/LinuxRunningApplications.h"
@@ -63,6 +64,7 @@ Platform makePlatform(const QStringList& arguments) {
         .userDefaults = std::make_unique<UserDefaults>(arguments, std::move(store)),
         .runningApplications = std::make_unique<LinuxRunningApplications>(),
         .activationPolicy = std::make_unique<RememberedActivationPolicy>(),
+        .loginItem = AutostartEntry::ofThisApplication(),
         .scriptRunner = std::make_unique<ProcessScriptRunner>(
             LinuxSystemInformation::machinePath(u"/usr/bin/osascript"_s)),
         .helperConnection =

@@ -8,9 +8,11 @@
 #include <QDBusArgument>
 #include <QDBusPendingCallWatcher>
 
+#include <algorithm>
 #include <optional>
 #include <set>
 #include <system_error>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -56,13 +58,58 @@ HelperService::HelperService(FanController& controller, QDBusServer& server,
 HelperService::~HelperService() = default;
 
 void HelperService::accept(const QDBusConnection& connection) {
+    if (m_peers.size() >= mostPeers)
+        makeRoom();
     QDBusConnection peer = connection;
     peer.registerVirtualObject(QLatin1StringView(HelperWire::objectPath), this);
-    const auto* watch = new ConnectionWatch(peer, this);
+    auto* const watch = new ConnectionWatch(peer, this);
     connect(watch, &ConnectionWatch::lost, this, &HelperService::loseConnection);
+    const auto now = Clock::now();
+    m_peers.insert_or_assign(connection.name(),
+                             Peer{.watch = watch, .lastWord = now, .secondBegan = now});
+}
+
+void HelperService::makeRoom() {
+    // Whoever came and said nothing goes first, then whoever was silent for longest; whoever drives
+    // the fans stays.
+    const auto isBetter = [this](const auto& one, const auto& other) {
+        const auto rank = [this](const auto& peer) {
+            return std::tuple(peer.first == m_owner, peer.second.hasCalled, peer.second.lastWord);
+        };
+        return rank(one) < rank(other);
+    };
+    const QString name = std::ranges::min_element(m_peers, isBetter)->first;
+    hangUp(name);
+}
+
+bool HelperService::admitCall(const QString& name) {
+    const auto found = m_peers.find(name);
+    if (found == m_peers.end())
+        return false;
+    Peer& peer = found->second;
+    const auto now = Clock::now();
+    if (now - peer.secondBegan >= std::chrono::seconds(1)) {
+        peer.secondBegan = now;
+        peer.callsThisSecond = 0;
+    }
+    peer.hasCalled = true;
+    peer.lastWord = now;
+    if (++peer.callsThisSecond <= mostCallsPerSecond)
+        return true;
+    hangUp(name);
+    return false;
+}
+
+void HelperService::hangUp(const QString& name) {
+    m_peers.at(name).watch->deleteLater();
+    loseConnection(name);
+    // Not while the connection is delivering a call.
+    QMetaObject::invokeMethod(
+        this, [name] { QDBusConnection::disconnectFromPeer(name); }, Qt::QueuedConnection);
 }
 
 void HelperService::loseConnection(const QString& name) {
+    m_peers.erase(name);
     if (name != m_owner)
         return;
     m_controller.releaseControl();
@@ -88,6 +135,8 @@ QString HelperService::introspect(const QString& /*path*/) const {
 }
 
 bool HelperService::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
+    if (!admitCall(connection.name()))
+        return true;
     if (message.interface() != QLatin1StringView(HelperWire::interfaceName))
         return false;
     const auto signature = argumentSignature(message.member());

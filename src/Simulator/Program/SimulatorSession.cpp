@@ -29,9 +29,9 @@ std::expected<std::string, std::string> jobDescription() {
     return file.readAll().toStdString();
 }
 
-std::filesystem::path helperExecutable() {
-    return std::filesystem::path(QCoreApplication::applicationDirPath().toStdString()) /
-           "kestrowind-simulated-helper";
+/// A program that is built beside this one.
+std::filesystem::path sibling(const char* name) {
+    return std::filesystem::path(QCoreApplication::applicationDirPath().toStdString()) / name;
 }
 
 } // namespace
@@ -86,12 +86,14 @@ std::expected<void, std::string> SimulatorSession::boot(SimulatorOptions& option
     m_controlService.emplace(*m_control);
     if (auto listening = m_controlService->listen(*root); !listening)
         return listening;
+    if (auto placed = m_machine->placeCommands(sibling("kestrowind-simulated-osascript")); !placed)
+        return placed;
     if (!options.isHelperInstalled)
         return {};
     const auto job = jobDescription();
     if (!job)
         return std::unexpected(job.error());
-    return m_machine->installHelper(helperExecutable(), *job);
+    return m_machine->installHelper(sibling("kestrowind-simulated-helper"), *job);
 }
 
 std::expected<void, std::string>

@@ -61,14 +61,17 @@ void ControlService::acceptClients() {
     while (QLocalSocket* const client = m_server.nextPendingConnection()) {
         client->setReadBufferSize(longestLine);
         QObject::connect(client, &QLocalSocket::disconnected, client, &QObject::deleteLater);
+        auto* const limit = new QTimer(client);
+        limit->setSingleShot(true);
+        QObject::connect(limit, &QTimer::timeout, client, [client] { client->abort(); });
+        limit->start(patience);
         QObject::connect(client, &QLocalSocket::readyRead, client,
-                         [this, client] { read(client); });
-        QTimer::singleShot(patience, client, [client] { client->abort(); });
-        read(client);
+                         [this, client, limit] { read(client, *limit); });
+        read(client, *limit);
     }
 }
 
-void ControlService::read(QLocalSocket* client) {
+void ControlService::read(QLocalSocket* client, QTimer& limit) {
     if (!client->canReadLine()) {
         if (client->bytesAvailable() >= longestLine)
             client->abort();
@@ -77,9 +80,12 @@ void ControlService::read(QLocalSocket* client) {
     const auto words = parseWords(client->readLine());
     // One command a client: what else it sends is not read.
     QObject::disconnect(client, &QLocalSocket::readyRead, nullptr, nullptr);
-    const auto answer = [caller = QPointer(client)](const MachineControl::Result& result) {
+    // How long the answer takes is not the client's fault.
+    limit.stop();
+    const auto answer = [caller = QPointer(client), &limit](const MachineControl::Result& result) {
         if (!caller)
             return;
+        limit.start(patience);
         caller->write(answerLine(result));
         caller->disconnectFromServer();
     };

@@ -8,6 +8,7 @@
 #include <string>
 
 class QLocalSocket;
+class QTimer;
 
 namespace kestrowind {
 
@@ -22,7 +23,7 @@ public:
 
 private:
     void acceptClients();
-    void read(QLocalSocket* client);
+    void read(QLocalSocket* client, QTimer& limit);
 
     MachineControl& m_control;
     QLocalServer m_server;

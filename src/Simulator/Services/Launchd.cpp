@@ -45,6 +45,8 @@ Launchd::Result Launchd::bootstrap(const std::filesystem::path& propertyList) {
     const auto failure = [](const std::string& why) {
         return std::unexpected("Bootstrap failed: 5: Input/output error (" + why + ")");
     };
+    if (m_isFailing)
+        return failure("launchd was told to fail");
     auto description = readLaunchdJob(propertyList);
     if (!description)
         return failure(propertyList.string() + ": " + description.error());

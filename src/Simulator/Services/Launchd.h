@@ -39,6 +39,8 @@ public:
     /// Forgets a job and ends its program; done is called once that has ended, or at once with the
     /// error. A program that does not end on its own is killed after a while.
     void bootout(const std::string& label, std::function<void(Result)> done);
+    /// Whether every bootstrap fails from now on; jobs that it already has stay.
+    void setFailing(bool isFailing) { m_isFailing = isFailing; }
     /// Boots all jobs out; done is called after the last.
     void shutDown(std::function<void()> done);
 
@@ -72,6 +74,7 @@ private:
     void depart(std::unique_ptr<ChildProcess> process, std::function<void(Result)> done);
 
     std::filesystem::path m_root;
+    bool m_isFailing = false;
     std::map<std::string, std::unique_ptr<Job>> m_jobs; ///< by label
     std::map<ChildProcess*, std::unique_ptr<Departure>> m_departures;
 };

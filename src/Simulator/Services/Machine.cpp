@@ -2,6 +2,7 @@
 
 #include "Shared/HelperShared/HelperConstants.h"
 #include "Simulator/Link/SimulatedMac.h"
+#include "Simulator/ScriptRunner/MacCommand.h"
 #include "Simulator/Services/AtomicFile.h"
 
 #include <algorithm>
@@ -123,6 +124,22 @@ std::expected<void, std::string> Machine::installHelper(const fs::path& executab
         return std::unexpected("cannot set the permissions of " + job.string() + ": " +
                                error.message());
     return m_launchd.bootstrap(job);
+}
+
+std::expected<void, std::string> Machine::placeCommands(const fs::path& program) {
+    std::vector<std::string_view> places(MacCommand::paths.begin(), MacCommand::paths.end());
+    places.emplace_back(MacCommand::scriptRunnerPath);
+    for (const std::string_view place : places) {
+        const fs::path link = SimulatedMac::systemPath(m_root, place);
+        std::error_code error;
+        fs::create_directories(link.parent_path(), error);
+        // A machine before this one may have been another program's.
+        fs::remove(link, error);
+        fs::create_symlink(program, link, error);
+        if (error)
+            return std::unexpected("cannot create " + link.string() + ": " + error.message());
+    }
+    return {};
 }
 
 void Machine::shutDown(std::function<void()> done) {

@@ -37,6 +37,10 @@ public:
     [[nodiscard]] std::expected<void, std::string>
     installHelper(const std::filesystem::path& executable, const std::string& jobDescription);
 
+    /// Puts the commands of an administrator's scripts where the Mac has them: all are one program.
+    [[nodiscard]] std::expected<void, std::string>
+    placeCommands(const std::filesystem::path& program);
+
     /// Ends the helper in good order; done is called when it is gone.
     void shutDown(std::function<void()> done);
 

@@ -87,6 +87,9 @@ std::string MachineControl::usage() {
   helper fail TEXT            it fails for this reason
   helper version TEXT         it reports this version
   helper kill|stop|continue   its process is killed, stopped, continued
+  password grant|refuse|hang  what becomes of the dialog that asks for an administrator's
+                              password: it is filled in, cancelled, or left open until then
+  launchd normal|failing      whether launchd takes on jobs at all
   bootstrap FILE              launchd takes on the job that FILE describes
   bootout LABEL               launchd ends a job and forgets it
 
@@ -106,6 +109,10 @@ void MachineControl::execute(const Words& words, Done done) {
         });
         return;
     }
+    if (command == "authorize" && words.size() == 1) {
+        authorize(std::move(done));
+        return;
+    }
     if (command == "status" && words.size() == 1)
         done(status());
     else if (command == "load" && words.size() == 2)
@@ -118,6 +125,10 @@ void MachineControl::execute(const Words& words, Done done) {
         done(openResult(words));
     else if (command == "helper" && words.size() >= 2)
         done(helper(words));
+    else if (command == "password" && words.size() == 2)
+        done(password(words));
+    else if (command == "launchd" && words.size() == 2)
+        done(launchd(words));
     else if (command == "bootstrap" && words.size() == 2)
         done(bootstrap(words));
     else
@@ -129,6 +140,8 @@ MachineControl::Result MachineControl::status() const {
     Json status = machineStatus(m_machine);
     status["services"] = m_services;
     status["openResult"] = m_openResult;
+    status["password"] = m_password;
+    status["openPasswordDialogs"] = m_passwordDialogs.size();
     return status;
 }
 
@@ -217,6 +230,29 @@ MachineControl::Result MachineControl::signalHelper(const std::string& deed) {
     const int number = deed == "kill" ? SIGKILL : deed == "stop" ? SIGSTOP : SIGCONT;
     if (!m_machine.launchd().sendSignal(HelperConstants::machServiceName, number))
         return error("the helper is not running");
+    return Json();
+}
+
+void MachineControl::authorize(Done done) {
+    if (m_password == "hang")
+        m_passwordDialogs.push_back(std::move(done));
+    else
+        done(Json(m_password == "grant"));
+}
+
+MachineControl::Result MachineControl::password(const Words& words) {
+    if (words[1] != "grant" && words[1] != "refuse" && words[1] != "hang")
+        return error("\"" + words[1] + "\" is none of grant, refuse, hang");
+    m_password = words[1];
+    for (const Done& done : std::exchange(m_passwordDialogs, {}))
+        authorize(done);
+    return Json();
+}
+
+MachineControl::Result MachineControl::launchd(const Words& words) {
+    if (words[1] != "normal" && words[1] != "failing")
+        return error("\"" + words[1] + "\" is neither normal nor failing");
+    m_machine.launchd().setFailing(words[1] == "failing");
     return Json();
 }
 

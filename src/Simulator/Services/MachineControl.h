@@ -35,11 +35,17 @@ private:
     [[nodiscard]] Result openResult(const Words& words);
     [[nodiscard]] Result helper(const Words& words);
     [[nodiscard]] Result signalHelper(const std::string& deed);
+    /// Done once the person in front of the machine has answered: true with the password.
+    void authorize(Done done);
+    [[nodiscard]] Result password(const Words& words);
+    [[nodiscard]] Result launchd(const Words& words);
     [[nodiscard]] Result bootstrap(const Words& words);
 
     Machine& m_machine;
     std::string m_services = "both";
     std::int32_t m_openResult = 0;
+    std::string m_password = "grant";
+    std::vector<Done> m_passwordDialogs; ///< open ones
 };
 
 } // namespace kestrowind

@@ -8,8 +8,8 @@ T.Switch {
 
     required property string label
 
-    implicitWidth: 38
-    implicitHeight: 22
+    implicitWidth: implicitIndicatorWidth
+    implicitHeight: implicitIndicatorHeight
     hoverEnabled: true
     opacity: enabled ? 1 : 0.45
     Accessible.name: label
@@ -22,32 +22,12 @@ T.Switch {
         toggled()
     }
 
-    indicator: Rectangle {
+    indicator: SwitchTrack {
         width: root.width
         height: root.height
-        radius: height / 2
-        color: root.checked ? AppColors.accentFill : AppColors.track
-        border.width: 1
-        border.color: root.checked ? "transparent" : AppColors.controlBorder
-
-        Behavior on color { ColorAnimation { duration: 150 } }
-
-        Rectangle {
-            x: 2 + root.visualPosition * (parent.width - width - 4)
-            y: 2
-            width: parent.height - 4
-            height: width
-            radius: width / 2
-            color: AppColors.knob
-            border.width: 1
-            border.color: Qt.alpha("black", 0.12)
-
-            Behavior on x {
-                enabled: !root.down
-                SpringMotion { timing: Springs.hover }
-            }
-        }
-
-        FocusRing { shown: root.visualFocus; cornerRadius: parent.radius }
+        checked: root.checked
+        pressed: root.down
+        focused: root.visualFocus
+        visualPosition: root.visualPosition
     }
 }

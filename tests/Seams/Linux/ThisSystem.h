@@ -1,15 +1,12 @@
 #pragma once
 
+#include "Platform/Linux/AutostartEntry.h"
 #include "Platform/Linux/HelperBus.h"
 #include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Linux/LinuxSystemInformation.h"
 #include "Simulator/BootedMac.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/SimulatedSMC.h"
-
-#if __has_include("Platform/Linux/AutostartEntry.h")
-#include "Platform/Linux/AutostartEntry.h"
-#endif
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -83,7 +80,6 @@ private:
     QTemporaryDir m_root;
 };
 
-#if __has_include("Platform/Linux/AutostartEntry.h")
 class Login {
 public:
     std::unique_ptr<LoginItem> item() {
@@ -96,7 +92,6 @@ private:
 };
 
 using Logins = testing::Types<Login>;
-#endif
 
 class Machine {
 public:

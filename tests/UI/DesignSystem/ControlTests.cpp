@@ -1,5 +1,7 @@
 #include "UI/DesignSystem/Scene.h"
 
+#include "UI/DesignSystem/Spinner.h"
+
 #include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
@@ -73,6 +75,47 @@ TEST(ControlTests, ASwitchTogglesByKeyAndPointer) {
     EXPECT_FALSE(scene.item().property("checked").toBool());
     scene.click({10, 10});
     EXPECT_EQ(toggled.count(), 3);
+}
+
+TEST(ControlTests, APopUpPickerIsWorkedByKeysAloneAndIsAsWideAsItsWidestText) {
+    Shown scene("PopUpPicker { label: 'Source'; model: ['A', 'B', 'A much longer one'] }");
+    QSignalSpy activated(&scene.item(), SIGNAL(activated(int)));
+    const auto current = [&] { return scene.item().property("currentIndex").toInt(); };
+    scene.press(Qt::Key_Down);
+    EXPECT_EQ(current(), 1);
+    const double width = scene.item().implicitWidth();
+    scene.press(Qt::Key_Return);
+    auto* const popup = scene.item().property("popup").value<QObject*>();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return popup->property("opened").toBool(); }));
+    scene.press(Qt::Key_Down);
+    EXPECT_EQ(current(), 1) << "not chosen yet";
+    scene.press(Qt::Key_Return);
+    EXPECT_EQ(current(), 2);
+    EXPECT_EQ(activated.count(), 2);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !popup->property("visible").toBool(); }));
+    EXPECT_EQ(scene.item().implicitWidth(), width);
+    EXPECT_GT(width, Shown("PopUpPicker { label: 'S'; model: ['A', 'B'] }").item().implicitWidth());
+
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&scene.item());
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_EQ(spoken->role(), QAccessible::ComboBox);
+    EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Source"));
+    EXPECT_EQ(spoken->text(QAccessible::Description), QStringLiteral("A much longer one"));
+}
+
+TEST(ControlTests, ASpinnerTurnsOnlyWhileSomebodySeesIt) {
+    Shown scene("Spinner {}");
+    const auto* spinner = qobject_cast<Spinner*>(&scene.item());
+    ASSERT_NE(spinner, nullptr);
+    const QImage before = scene.window().grabWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scene.window().grabWindow() != before; }));
+    EXPECT_TRUE(spinner->isTurning());
+    scene.item().setVisible(false);
+    EXPECT_FALSE(spinner->isTurning());
+    scene.item().setVisible(true);
+    EXPECT_TRUE(spinner->isTurning());
+    scene.window().hide();
+    EXPECT_FALSE(spinner->isTurning());
 }
 
 TEST(ControlTests, ASegmentedPickerAsksForTheNeighbourOrTheClickedSegmentOnly) {

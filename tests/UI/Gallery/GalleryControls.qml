@@ -26,6 +26,15 @@ GalleryCard {
             Switch { label: "Disabled"; checked: true; enabled: false; anchors.verticalCenter: parent.verticalCenter }
         }
         Row {
+            spacing: Spacing.small
+
+            PopUpPicker { label: "Source"; model: ["Average", "Hottest core"] }
+            PopUpPicker { label: "Disabled"; model: ["Average"]; enabled: false }
+            Spinner { color: AppColors.secondaryText; anchors.verticalCenter: parent.verticalCenter }
+            Spinner { diameter: 26; color: AppColors.accent; anchors.verticalCenter: parent.verticalCenter }
+            AppIcon { width: 46; height: 46; side: 34; anchors.verticalCenter: parent.verticalCenter }
+        }
+        Row {
             spacing: Spacing.regular
 
             Slider { label: "Boost"; from: 0; to: 100; stepSize: 5; value: 0; width: 120 }

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "UI/Settings/HelperOperation.h"
+#include "UI/Settings/HelperStatusFacts.h"
+
+#include <QObject>
+#include <QTimer>
+#include <QtQml/qqmlregistration.h>
+
+#include <chrono>
+
+namespace kestrowind {
+
+/// What the helper section shows. While somebody can see it, it keeps the helper's status fresh.
+class HelperSettings final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(kestrowind::HelperStatusFacts status READ status NOTIFY statusChanged FINAL)
+    Q_PROPERTY(bool isOutdated READ isOutdated NOTIFY lastStatusChanged FINAL)
+    Q_PROPERTY(bool hasFailure READ hasFailure NOTIFY lastStatusChanged FINAL)
+    Q_PROPERTY(QString failure READ failure NOTIFY lastStatusChanged FINAL)
+    Q_PROPERTY(bool isUnlocking READ isUnlocking NOTIFY lastStatusChanged FINAL)
+    Q_PROPERTY(bool isWorking READ isWorking NOTIFY isWorkingChanged FINAL)
+    Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("made with the application's state")
+
+public:
+    /// From the end of a question for the status to the next one.
+    static constexpr std::chrono::milliseconds defaultInterval{2000};
+
+    /// Both references must outlive this.
+    HelperSettings(HelperControlling& helper, HelperOperation& operation,
+                   std::chrono::milliseconds interval = defaultInterval);
+    ~HelperSettings() override;
+
+    [[nodiscard]] HelperStatusFacts status() const;
+    /// The helper is another version than the one that this application comes with.
+    [[nodiscard]] bool isOutdated() const { return m_helper.isHelperOutdated(); }
+    /// The helper reports that it failed, and why.
+    [[nodiscard]] bool hasFailure() const;
+    [[nodiscard]] QString failure() const;
+    [[nodiscard]] bool isUnlocking() const;
+    [[nodiscard]] bool isWorking() const { return m_operation.isWorking(); }
+    /// Why the last installation failed; empty otherwise.
+    [[nodiscard]] QString errorMessage() const { return m_operation.errorMessage(); }
+
+    Q_INVOKABLE void install() { m_operation.install(); }
+    Q_INVOKABLE void uninstall() { m_operation.uninstall(); }
+
+    void setSeen(bool isSeen);
+
+Q_SIGNALS:
+    void statusChanged();
+    void lastStatusChanged();
+    void isWorkingChanged();
+    void errorMessageChanged();
+
+private:
+    QCoro::Task<void> askForStatus();
+
+    HelperControlling& m_helper;
+    HelperOperation& m_operation;
+    QTimer m_nextQuestion;
+    bool m_isSeen = false;
+    int m_appearance = 0; ///< counts; a question of an earlier one leads to no other
+};
+
+} // namespace kestrowind

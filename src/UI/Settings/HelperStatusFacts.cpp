@@ -1,0 +1,38 @@
+#include "UI/Settings/HelperStatusFacts.h"
+
+#include "Core/LocalizedText.h"
+
+namespace kestrowind {
+
+using namespace Qt::StringLiterals;
+using HelperTone::Tone;
+
+HelperStatusFacts HelperStatusFacts::of(HelperState state) {
+    switch (state) {
+    case HelperState::notInstalled:
+        return {.symbolName = u"shield.slash.fill"_s,
+                .tone = Tone::Neutral,
+                .title = localized("settings.helper.status.notInstalled.title"),
+                .description = localized("settings.helper.status.notInstalled.description"),
+                .installTitle = localized("settings.helper.installButton"),
+                .wantsInstall = true};
+    case HelperState::installed:
+        return {.symbolName = u"checkmark.seal.fill"_s,
+                .tone = Tone::Good,
+                .title = localized("settings.helper.status.installed.title"),
+                .description = localized("settings.helper.status.installed.description"),
+                .installTitle = localized("settings.helper.reinstallButton"),
+                .uninstallTitle = localized("settings.helper.uninstallButton")};
+    case HelperState::unreachable:
+        return {.symbolName = u"exclamationmark.triangle.fill"_s,
+                .tone = Tone::Warning,
+                .title = localized("settings.helper.status.unreachable.title"),
+                .description = localized("settings.helper.status.unreachable.description"),
+                .installTitle = localized("settings.helper.reinstallHelperButton"),
+                .wantsInstall = true,
+                .uninstallTitle = localized("settings.helper.uninstallButton")};
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace kestrowind

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "UI/Settings/AboutSettings.h"
+#include "UI/Settings/FanBoostSettings.h"
+#include "UI/Settings/GeneralSettings.h"
+#include "UI/Settings/HelperSettings.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+namespace kestrowind {
+
+class VisibilityWatch;
+
+/// What the settings work on. All of it must outlive the model.
+struct SettingsServices {
+    HelperControlling& helper;
+    HelperOperation& helperOperation;
+    UserDefaults& userDefaults;
+    LoginItem& loginItem;
+    const SystemInformation& information;
+};
+
+/// The settings screen: a model for each of its four sections, and whether anybody can see it.
+class SettingsModel final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(kestrowind::HelperSettings* helper READ helper CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::FanBoostSettings* fanBoost READ fanBoost CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::GeneralSettings* general READ general CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::AboutSettings* about READ about CONSTANT FINAL)
+    Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("made with the application's state")
+
+public:
+    explicit SettingsModel(const SettingsServices& services);
+    ~SettingsModel() override;
+
+    [[nodiscard]] HelperSettings* helper() { return &m_helper; }
+    [[nodiscard]] FanBoostSettings* fanBoost() { return &m_fanBoost; }
+    [[nodiscard]] GeneralSettings* general() { return &m_general; }
+    [[nodiscard]] AboutSettings* about() { return &m_about; }
+
+    /// The item that shows the model; without one nobody sees it.
+    [[nodiscard]] QQuickItem* view() const { return m_view; }
+    void setView(QQuickItem* view);
+
+Q_SIGNALS:
+    void viewChanged();
+
+private:
+    void takeVisibility();
+
+    HelperSettings m_helper;
+    FanBoostSettings m_fanBoost;
+    GeneralSettings m_general;
+    AboutSettings m_about;
+    QPointer<QQuickItem> m_view;
+    std::unique_ptr<VisibilityWatch> m_visibility;
+};
+
+} // namespace kestrowind

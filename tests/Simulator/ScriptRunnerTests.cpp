@@ -1,0 +1,219 @@
+#include "Simulator/BootedMac.h"
+
+#include "Core/HelperInstallation.h"
+#include "Simulator/ScriptRunner/AdministratorSentence.h"
+#include "Simulator/ScriptRunner/MacCommand.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+/// Every character that a file name can be written with on a keyboard, the line feed, and some that
+/// take more than one byte.
+QString everyCharacter() {
+    QString text = u"ä€𝄞\n\t"_s;
+    for (char16_t character = u' '; character <= u'~'; ++character)
+        text += QChar(character);
+    return text;
+}
+
+TEST(AdministratorSentence, UndoesTheEscapesOfAScript) {
+    for (const QString& text : {QString(), u"echo hi"_s, everyCharacter(), u"\\n\\\"\\\\\""_s}) {
+        const QString script = HelperInstallation::withAdministratorPrivileges(text);
+        EXPECT_EQ(parseAdministratorSentence(script.toStdString()), text.toStdString());
+    }
+    EXPECT_EQ(parseAdministratorSentence(
+                  " do \t shell script\"a\\tb\\r\\n\"with administrator privileges "),
+              "a\tb\r\n");
+}
+
+TEST(AdministratorSentence, RefusesEverythingElse) {
+    struct Row {
+        std::string script;
+        std::size_t position;
+    };
+    for (const auto& [script, position] : std::initializer_list<Row>{
+             {"", 0},
+             {"tell application \"Finder\" to quit", 0},
+             {"do shell script id with administrator privileges", 16},
+             {"do shell scripts \"id\" with administrator privileges", 15},
+             {"do shell script \"id", 19},
+             {R"(do shell script "a\qb" with administrator privileges)", 19},
+             {R"(do shell script "a\)", 19},
+             {R"(do shell script "id")", 20},
+             {R"(do shell script "a" & "b" with administrator privileges)", 20},
+             {"do shell script \"a\" with administrator privileges\nbeep", 49},
+         }) {
+        const auto text = parseAdministratorSentence(script);
+        ASSERT_FALSE(text) << script;
+        EXPECT_EQ(text.error().position, position) << script << ": " << text.error().message;
+    }
+}
+
+TEST(MacCommand, ReachesOnlyIntoTheMachinesLibrary) {
+    using Words = MacCommand::Words;
+    const auto here = [](const std::string& name, const Words& arguments) {
+        return MacCommand::translate("/mac", name, arguments);
+    };
+    EXPECT_EQ(here("mkdir", {"-p", "/Library/A b"}),
+              (Words{"mkdir", "-p", "--", "/mac/Library/A b"}));
+    EXPECT_EQ(here("cp", {"/home/x", "/Library/x"}),
+              (Words{"cp", "--", "/home/x", "/mac/Library/x"}));
+    EXPECT_EQ(here("chmod", {"755", "/Library/x"}),
+              (Words{"chmod", "--", "755", "/mac/Library/x"}));
+    for (const auto& [name, arguments] : std::initializer_list<std::pair<std::string, Words>>{
+             {"rm", {"-rf", "/Library/x"}},
+             {"rm", {"-f", "/home/x"}},
+             {"rm", {"-f", "/Library/../home/x"}},
+             {"rm", {"-f", "Library/x"}},
+             {"cp", {"/Library/x", "/home/x"}},
+             {"chown", {"nobody:wheel", "/Library/x"}},
+             {"chmod", {"4755", "/bin/sh"}},
+             {"ln", {"/Library/x", "/Library/y"}},
+         })
+        EXPECT_FALSE(here(name, arguments)) << name;
+}
+
+/// The script runner of a running machine, and what the application hands to it.
+class ScriptRunnerTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(mac.isUp()); }
+
+    Outcome runAppleScript(const QString& script) const {
+        QProcess process;
+        start(process, {u"-e"_s, script});
+        if (!process.waitForFinished(20'000))
+            return {};
+        return {.status = process.exitCode(),
+                .output = process.readAllStandardOutput().toStdString(),
+                .errors = process.readAllStandardError().trimmed().toStdString()};
+    }
+    Outcome runShell(const QString& text) const {
+        return runAppleScript(HelperInstallation::withAdministratorPrivileges(text));
+    }
+    void start(QProcess& process, const QStringList& arguments) const {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QString::fromLatin1(SimulatedMac::rootVariable),
+                           QString::fromStdString(mac.root().string()));
+        process.setProcessEnvironment(environment);
+        process.start(
+            QString::fromStdString(
+                SimulatedMac::systemPath(mac.root(), MacCommand::scriptRunnerPath).string()),
+            arguments);
+        ASSERT_TRUE(process.waitForStarted());
+    }
+    void say(const QStringList& words) const { ASSERT_EQ(mac.control(words).status, 0); }
+
+    const BootedMac mac{{}};
+    const fs::path program =
+        SimulatedMac::systemPath(mac.root(), HelperConstants::helperInstallPath);
+    const fs::path job = SimulatedMac::systemPath(mac.root(), HelperConstants::daemonPlistPath);
+};
+
+std::string content(const fs::path& path) {
+    QFile file(QString::fromStdString(path.string()));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(missing)";
+}
+
+TEST_F(ScriptRunnerTest, RunsTheShellTextAsItWasWritten) {
+    QString quoted = everyCharacter();
+    quoted.replace(u'\'', u"'\\''"_s);
+    EXPECT_EQ(runShell(u"printf %s '"_s + quoted + u'\'').output, everyCharacter().toStdString());
+}
+
+TEST_F(ScriptRunnerTest, SaysHowAScriptFailedAsTheRealOneDoes) {
+    const auto errors = [this](const QString& text) {
+        const Outcome outcome = runShell(text);
+        EXPECT_EQ(outcome.status, 1);
+        return outcome.errors;
+    };
+    EXPECT_THAT(errors(u"echo 'no luck' >&2; exit 7"_s), HasSubstr("execution error: no luck (7)"));
+    EXPECT_THAT(errors(u"exit 9"_s), HasSubstr("exited with a non-zero status. (9)"));
+    EXPECT_THAT(errors(u"kill -9 $$"_s), HasSubstr("(137)"));
+    EXPECT_THAT(errors(u"ls /"_s), HasSubstr("(127)")) << "no command of this computer";
+    EXPECT_THAT(errors(u"cp /no/such '/Library/x'"_s), HasSubstr("No such file or directory"));
+    EXPECT_THAT(errors(u"launchctl bootstrap system /Library/no.plist"_s),
+                testing::EndsWith(" (5)"));
+    EXPECT_THAT(errors(u"launchctl bootout system/nobody"_s),
+                HasSubstr("Boot-out failed: 3: No such process (3)"));
+    EXPECT_THAT(errors(u"launchctl list"_s), HasSubstr("(64)"));
+    EXPECT_THAT(runAppleScript(u"beep"_s).errors, HasSubstr("syntax error: Expected “do”"));
+    QProcess process;
+    start(process, {u"-e"_s, u"beep"_s, u"twice"_s});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 64);
+}
+
+TEST_F(ScriptRunnerTest, RunsNothingWithoutThePassword) {
+    const QString touch = u"mkdir -p /Library/Made"_s;
+    const auto wasRun = [this] { return fs::exists(mac.root() / "Library/Made"); };
+    say({u"password"_s, u"refuse"_s});
+    EXPECT_THAT(runShell(touch).errors, HasSubstr("execution error: User canceled. (-128)"));
+    EXPECT_FALSE(wasRun());
+
+    say({u"password"_s, u"hang"_s});
+    QProcess waiting;
+    start(waiting, {u"-e"_s, HelperInstallation::withAdministratorPrivileges(touch)});
+    ASSERT_TRUE(waitUntil([this] { return mac.status()["openPasswordDialogs"] == 1; }));
+    EXPECT_FALSE(wasRun());
+    say({u"password"_s, u"grant"_s});
+    ASSERT_TRUE(waiting.waitForFinished());
+    EXPECT_EQ(waiting.exitCode(), 0);
+    EXPECT_TRUE(wasRun());
+}
+
+TEST_F(ScriptRunnerTest, InstallsReinstallsAndRemovesTheHelper) {
+    // From a folder whose name has it all.
+    const QTemporaryDir bundle;
+    QString name = everyCharacter();
+    name.remove(u'/');
+    ASSERT_TRUE(QDir(bundle.path()).mkpath(name));
+    const QString folder = bundle.path() + u'/' + name + u'/';
+    const QString resources = QStringLiteral(KESTROWIND_BUNDLE_RESOURCES) + u'/';
+    for (const QString& file :
+         {HelperInstallation::executableResource(), HelperInstallation::jobDescriptionResource()})
+        ASSERT_TRUE(QFile::copy(resources + file, folder + file)) << file.toStdString();
+    const QString install =
+        HelperInstallation::installScript(folder + HelperInstallation::executableResource(),
+                                          folder + HelperInstallation::jobDescriptionResource());
+
+    Outcome outcome = runShell(install);
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    const auto mode = [](const fs::path& path) { return fs::status(path).permissions(); };
+    EXPECT_EQ(mode(program), fs::perms{0755});
+    EXPECT_EQ(mode(job), fs::perms{0644});
+    EXPECT_EQ(content(job),
+              content((resources + HelperInstallation::jobDescriptionResource()).toStdString()));
+    {
+        HelperCaller caller(mac, u"installed"_s);
+        EXPECT_EQ(caller.status().at("version"), HelperConstants::helperVersion);
+    }
+    const auto helper = mac.status()["helper"]["pid"].get<pid_t>();
+    EXPECT_EQ(fs::read_symlink("/proc/" + std::to_string(helper) + "/exe"), program);
+
+    EXPECT_EQ(runShell(install).status, 0) << "over a helper that runs";
+    EXPECT_NE(::kill(helper, 0), 0) << "which was stopped before";
+    {
+        HelperCaller caller(mac, u"reinstalled"_s);
+        EXPECT_EQ(caller.status().at("phase"), "idle");
+    }
+
+    EXPECT_EQ(runShell(HelperInstallation::removalScript()).status, 0);
+    EXPECT_FALSE(fs::exists(program) || fs::exists(job));
+    EXPECT_EQ(mac.status()["helper"]["bootstrapped"], false);
+    EXPECT_EQ(runShell(HelperInstallation::removalScript()).status, 0) << "nothing to remove";
+
+    say({u"launchd"_s, u"failing"_s});
+    outcome = runShell(install);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.errors, HasSubstr("Bootstrap failed: 5: Input/output error"));
+}
+
+} // namespace
+} // namespace kestrowind
