@@ -41,8 +41,9 @@ TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
             }
         }
         for (const Role fill : {Role::accentFill, Role::dangerFill}) {
-            EXPECT_GE(contrast(Palette::color(Role::onAccent, scheme), Palette::color(fill, scheme)),
-                      4.5);
+            EXPECT_GE(
+                contrast(Palette::color(Role::onAccent, scheme), Palette::color(fill, scheme)),
+                4.5);
         }
     }
 }
