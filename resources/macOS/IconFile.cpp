@@ -1,13 +1,11 @@
 // Draws the application's icon for a Mac, in every size that the system asks for.
 // usage: kestrowind_icon FILE.icns
 
-#include "UI/DesignSystem/FanBladesShape.h"
-#include "UI/DesignSystem/Palette.h"
+#include "UI/DesignSystem/AppIcon.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QImage>
-#include <QLinearGradient>
 #include <QPainter>
 #include <QSaveFile>
 #include <QtEndian>
@@ -28,25 +26,12 @@ constexpr Picture pictures[] = {
     {"ic10", 1024}, {"ic11", 32}, {"ic12", 64},  {"ic13", 256}, {"ic14", 512},
 };
 
-/// White blades on the colours of air. The rounded square leaves the margin that icons on a Mac
-/// have, in which the system draws nothing of its own.
 QImage icon(int side) {
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double margin = side * 100.0 / 1024;
-    const auto square = QRectF(0, 0, side, side).adjusted(margin, margin, -margin, -margin);
-    const double body = square.width();
-
-    QLinearGradient air(square.topLeft(), square.bottomRight());
-    air.setStops(Palette::fanGradientStops());
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(air);
-    painter.drawRoundedRect(square, body * 0.225, body * 0.225);
-    const double inset = body * 0.1;
-    painter.fillPath(FanBladesShape::path(square.adjusted(inset, inset, -inset, -inset)),
-                     Qt::white);
+    AppIcon::paintIcon(painter, QRectF(0, 0, side, side));
     return image;
 }
 

@@ -229,8 +229,14 @@
     <message id="preset.builtIn.fullSpeed.name">
         <translation>Full Speed</translation>
     </message>
+    <message id="presets.card.activeBadge">
+        <translation>Active</translation>
+    </message>
     <message id="presets.card.automaticCaption">
         <translation>The Mac controls its fans itself</translation>
+    </message>
+    <message id="presets.card.automaticHelp">
+        <translation>Kestrowind leaves the fans alone, as if it were not running</translation>
     </message>
     <message id="presets.card.builtInCurveCaption">
         <translation>Built-in curve</translation>
@@ -244,9 +250,61 @@
     <message id="presets.card.fullSpeedCaption">
         <translation>Every fan at its highest speed</translation>
     </message>
+    <message id="presets.card.limitReached">
+        <translation>No Room for More</translation>
+    </message>
+    <message id="presets.card.newPreset">
+        <translation>New Preset</translation>
+    </message>
+    <message id="presets.contextMenu.activate">
+        <translation>Activate</translation>
+    </message>
+    <message id="presets.contextMenu.delete">
+        <translation>Delete…</translation>
+    </message>
+    <message id="presets.contextMenu.duplicate">
+        <translation>Duplicate</translation>
+    </message>
+    <message id="presets.contextMenu.rename">
+        <translation>Rename…</translation>
+    </message>
+    <message id="presets.delete.confirm">
+        <translation>Delete</translation>
+    </message>
+    <message id="presets.delete.message">
+        <translation>Its curves cannot be brought back.</translation>
+    </message>
+    <message id="presets.delete.titleFallback">
+        <translation>Delete this preset?</translation>
+    </message>
+    <message id="presets.delete.titleNamed">
+        <extracomment>%1: the preset’s name</extracomment>
+        <translation>Delete “%1”?</translation>
+    </message>
+    <message id="presets.dialog.cancel">
+        <translation>Cancel</translation>
+    </message>
     <message id="presets.duplicate.name">
         <extracomment>%1: name of the preset that was duplicated</extracomment>
         <translation>%1 Copy</translation>
+    </message>
+    <message id="presets.explainer">
+        <translation>Click a card to let its preset drive the fans. Drag cards to arrange them; the row above follows their order.</translation>
+    </message>
+    <message id="presets.limitReachedHelp">
+        <translation>There can be three presets of your own. Delete one to make room for another.</translation>
+    </message>
+    <message id="presets.newPresetDefaultName">
+        <translation>New Preset</translation>
+    </message>
+    <message id="presets.rename.confirm">
+        <translation>Rename</translation>
+    </message>
+    <message id="presets.rename.fieldLabel">
+        <translation>Name</translation>
+    </message>
+    <message id="presets.rename.title">
+        <translation>Name of the Preset</translation>
     </message>
     <message id="settings.about.applicationName">
         <translation>Kestrowind</translation>

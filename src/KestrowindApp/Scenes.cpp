@@ -3,6 +3,7 @@
 #include "Core/AppState.h"
 #include "Platform/Platform.h"
 #include "UI/Dashboard/DashboardModel.h"
+#include "UI/Presets/PresetsModel.h"
 #include "UI/Settings/SettingsModel.h"
 
 #include <QGuiApplication>
@@ -19,6 +20,9 @@ std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
         {.section = MainSection::dashboard,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
          .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
+        {.section = MainSection::presets,
+         .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Presets/PresetsRootView.qml"_s),
+         .makeModel = [&appState] { return std::make_unique<PresetsModel>(appState); }},
         {.section = MainSection::settings,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Settings/SettingsRootView.qml"_s),
          .makeModel =

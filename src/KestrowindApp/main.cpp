@@ -18,6 +18,7 @@ Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_DashboardPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_MainWindowPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_MenuBarPlugin)
+Q_IMPORT_QML_PLUGIN(Kestrowind_PresetsPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_SettingsPlugin)
 
 namespace {

@@ -43,6 +43,9 @@ public:
     RunningApp(const RunningApp&) = delete;
     RunningApp& operator=(const RunningApp&) = delete;
 
+    /// Where the application keeps a file of its own: below data/Kestrowind or config/Kestrowind.
+    [[nodiscard]] QString file(const QString& name) const { return m_home.filePath(name); }
+
     void send(int signalNumber) const {
         ::kill(static_cast<pid_t>(m_process.processId()), signalNumber);
     }

@@ -31,7 +31,7 @@ public:
     VirtualScreen& operator=(const VirtualScreen&) = delete;
 
     [[nodiscard]] bool isUp() const { return m_isUp; }
-    [[nodiscard]] QString display() const { return QLatin1Char(':') + QString::number(m_number); }
+    [[nodiscard]] QString display() const { return u':' + QString::number(m_number); }
 
     /// What xdotool prints; nothing when it fails.
     QString tool(const QStringList& arguments) const {
@@ -49,10 +49,27 @@ public:
         return tool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
                      QStringLiteral("--name"), QStringLiteral("^Kestrowind$")});
     }
-    void click(const QString& window, int x, int y) const {
+    /// In the window's coordinates, points.
+    void movePointer(const QString& window, int x, int y) const {
         tool({QStringLiteral("mousemove"), QStringLiteral("--window"), window, QString::number(x),
               QString::number(y)});
+    }
+    void click(const QString& window, int x, int y) const {
+        movePointer(window, x, y);
         tool({QStringLiteral("click"), QStringLiteral("1")});
+    }
+    void key(const QString& name) const { tool({QStringLiteral("key"), name}); }
+    void type(const QString& text) const { tool({QStringLiteral("type"), text}); }
+    /// Takes what lies at one point to another, as a hand does: by steps.
+    void drag(const QString& window, QPoint from, QPoint to) const {
+        movePointer(window, from.x(), from.y());
+        tool({QStringLiteral("mousedown"), QStringLiteral("1")});
+        constexpr int steps = 12;
+        for (int step = 1; step <= steps; ++step) {
+            const QPoint at = from + (to - from) * step / steps;
+            movePointer(window, at.x(), at.y());
+        }
+        tool({QStringLiteral("mouseup"), QStringLiteral("1")});
     }
     /// A window that still moves into its place may make a first click miss.
     [[nodiscard]] bool clickUntil(const QString& window, QPoint at,

@@ -6,11 +6,13 @@ Rectangle {
     id: root
 
     required property bool prominent
+    property bool destructive: false
     required property bool hovered
     required property bool pressed
 
     radius: Radius.control
-    color: prominent ? AppColors.accentFill : AppColors.controlFill
+    color: prominent ? (destructive ? AppColors.dangerFill : AppColors.accentFill)
+                     : AppColors.controlFill
     border.width: prominent ? 0 : 1
     border.color: AppColors.controlBorder
 

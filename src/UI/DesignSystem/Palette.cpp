@@ -59,10 +59,18 @@ QColor darkColor(Role role) {
         return QColor(0xff, 0x9f, 0x0a);
     case Role::danger:
         return QColor(0xff, 0x69, 0x61);
+    case Role::dangerFill:
+        return QColor(0xd2, 0x2d, 0x32);
     case Role::success:
         return QColor(0x30, 0xd1, 0x58);
     case Role::shadow:
         return grey(0, 0.5);
+    case Role::scrim:
+        return grey(0, 0.48);
+    case Role::fieldFill:
+        return grey(0, 0.28);
+    case Role::popupBorder:
+        return grey(1, 0.20);
     }
     Q_UNREACHABLE();
 }
@@ -109,11 +117,18 @@ QColor lightColor(Role role) {
     case Role::warning:
         return QColor(0xae, 0x50, 0x00);
     case Role::danger:
+    case Role::dangerFill:
         return QColor(0xc8, 0x14, 0x1e);
     case Role::success:
         return QColor(0x1c, 0x77, 0x33);
     case Role::shadow:
         return grey(0, 0.22);
+    case Role::scrim:
+        return grey(0, 0.26);
+    case Role::fieldFill:
+        return grey(1);
+    case Role::popupBorder:
+        return grey(0, 0.14);
     }
     Q_UNREACHABLE();
 }

@@ -30,8 +30,12 @@ enum class Role {
     knob,
     warning,
     danger,
+    dangerFill, ///< under onAccent
     success,
     shadow,
+    scrim,     ///< over what a dialog leaves out of reach
+    fieldFill, ///< where text is typed, over a popup
+    popupBorder,
 };
 
 [[nodiscard]] QColor color(Role role, ColorScheme scheme);

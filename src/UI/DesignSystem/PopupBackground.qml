@@ -8,7 +8,7 @@ Rectangle {
     color: AppColors.popupBackground
     radius: Radius.popup
     border.width: 1
-    border.color: AppColors.controlBorder
+    border.color: AppColors.popupBorder
 
     Repeater {
         model: 5
@@ -27,7 +27,7 @@ Rectangle {
             height: root.height + 2 * halo.index
             radius: root.radius + halo.index
             // qmllint enable unqualified
-            color: Qt.alpha("black", AppColors.isDark ? 0.06 : 0.025)
+            color: Qt.alpha("black", AppColors.isDark ? 0.09 : 0.025)
         }
     }
 }

@@ -12,6 +12,10 @@ T.Menu {
     implicitWidth: Math.max(160, contentItem.implicitWidth + leftPadding + rightPadding)
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     delegate: PopupMenuItem {}
+    onAboutToShow: before.remember(parent)
+    onAboutToHide: before.giveBack()
+
+    readonly property FocusMemory before: FocusMemory {}
 
     contentItem: ListView {
         implicitWidth: contentItem.childrenRect.width
@@ -20,7 +24,6 @@ T.Menu {
         currentIndex: root.currentIndex
         interactive: contentHeight > height
         clip: interactive
-        keyNavigationEnabled: true
     }
 
     background: PopupBackground {}

@@ -24,6 +24,8 @@ T.MenuItem {
     width: menu ? menu.availableWidth : implicitWidth
     opacity: enabled ? 1 : 0.45
     Accessible.name: text
+    Keys.onReturnPressed: triggered()
+    Keys.onEnterPressed: triggered()
 
     background: Rectangle {
         radius: Radius.small

@@ -2,11 +2,12 @@ import QtQuick
 import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 
-// Prominent is the one that a screen wants to be pressed.
+// Prominent is the one that a screen wants to be pressed; destructive what cannot be undone.
 T.Button {
     id: root
 
     property bool prominent: false
+    property bool destructive: false
     property string symbolName
     property string toolTip
 
@@ -26,6 +27,7 @@ T.Button {
 
     background: ControlBackground {
         prominent: root.prominent
+        destructive: root.destructive
         hovered: root.hovered
         pressed: root.down
 
@@ -37,7 +39,8 @@ T.Button {
         text: root.text
         symbolName: root.symbolName
         font: root.font
-        color: root.prominent ? AppColors.onAccent : AppColors.primaryText
+        color: root.prominent ? AppColors.onAccent
+             : root.destructive ? AppColors.danger : AppColors.primaryText
     }
 
     Tooltip { text: root.toolTip; shown: root.hovered }

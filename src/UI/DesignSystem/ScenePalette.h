@@ -37,8 +37,12 @@ class ScenePalette : public QObject, public QQmlParserStatus {
     Q_PROPERTY(QColor knob READ knob NOTIFY changed FINAL)
     Q_PROPERTY(QColor warning READ warning NOTIFY changed FINAL)
     Q_PROPERTY(QColor danger READ danger NOTIFY changed FINAL)
+    Q_PROPERTY(QColor dangerFill READ dangerFill NOTIFY changed FINAL)
     Q_PROPERTY(QColor success READ success NOTIFY changed FINAL)
     Q_PROPERTY(QColor shadow READ shadow NOTIFY changed FINAL)
+    Q_PROPERTY(QColor scrim READ scrim NOTIFY changed FINAL)
+    Q_PROPERTY(QColor fieldFill READ fieldFill NOTIFY changed FINAL)
+    Q_PROPERTY(QColor popupBorder READ popupBorder NOTIFY changed FINAL)
     Q_PROPERTY(QColor fanGradientStart READ fanGradientStart CONSTANT FINAL)
     Q_PROPERTY(QColor fanGradientEnd READ fanGradientEnd CONSTANT FINAL)
     Q_PROPERTY(QColor cpuSeries READ cpuSeries CONSTANT FINAL)
@@ -73,8 +77,12 @@ public:
     [[nodiscard]] QColor knob() const { return color(Palette::Role::knob); }
     [[nodiscard]] QColor warning() const { return color(Palette::Role::warning); }
     [[nodiscard]] QColor danger() const { return color(Palette::Role::danger); }
+    [[nodiscard]] QColor dangerFill() const { return color(Palette::Role::dangerFill); }
     [[nodiscard]] QColor success() const { return color(Palette::Role::success); }
     [[nodiscard]] QColor shadow() const { return color(Palette::Role::shadow); }
+    [[nodiscard]] QColor scrim() const { return color(Palette::Role::scrim); }
+    [[nodiscard]] QColor fieldFill() const { return color(Palette::Role::fieldFill); }
+    [[nodiscard]] QColor popupBorder() const { return color(Palette::Role::popupBorder); }
     [[nodiscard]] static QColor fanGradientStart() { return Palette::fanGradientStops()[0].second; }
     [[nodiscard]] static QColor fanGradientEnd() { return Palette::fanGradientStops()[1].second; }
     [[nodiscard]] static QColor cpuSeries() { return Palette::cpuSeries(); }

@@ -7,12 +7,14 @@ T.ToolTip {
     id: root
 
     required property bool shown
+    // Between its parent and itself, points.
+    property real gap: 6
 
     visible: shown && text.length > 0
     delay: 700
     timeout: 8000
     x: parent ? Math.round((parent.width - implicitWidth) / 2) : 0
-    y: parent ? parent.height + 6 : 0
+    y: parent ? parent.height + gap : 0
     leftPadding: 8
     rightPadding: 8
     topPadding: 4
@@ -28,6 +30,8 @@ T.ToolTip {
         font: Typography.caption
         color: AppColors.primaryText
         wrapMode: Text.Wrap
+        elide: Text.ElideRight
+        maximumLineCount: 8
     }
 
     background: PopupBackground { radius: Radius.small }

@@ -69,5 +69,5 @@ T.Button {
         }
     }
 
-    Tooltip { text: root.text; shown: root.hovered && !menu.visible }
+    Tooltip { text: root.text; shown: root.hovered && !menu.visible; gap: 36 }
 }

@@ -5,9 +5,10 @@
 namespace kestrowind {
 namespace {
 
-/// -1 when no pill has the slot.
-int rowOf(const QList<PresetPill>& pills, const PresetSlot& slot) {
-    const auto found = std::ranges::find(pills, slot, &PresetPill::slot);
+/// The first row, from a given one on, with the slot; -1 when there is none.
+int rowOf(const QList<PresetPill>& pills, const PresetSlot& slot, int begin = 0) {
+    const auto found =
+        std::ranges::find(pills.begin() + begin, pills.end(), slot, &PresetPill::slot);
     return found == pills.end() ? -1 : static_cast<int>(found - pills.begin());
 }
 
@@ -18,6 +19,9 @@ void PillListModel::setPills(const QList<PresetPill>& pills) {
     removeAllBut(pills);
     for (int row = 0; row < pills.size(); ++row)
         place(row, pills.at(row));
+    // A slot may occur more than once, and now less often than before.
+    for (int row = count() - 1; row >= pills.size(); --row)
+        remove(row);
     if (count() != oldCount)
         Q_EMIT countChanged();
 }
@@ -26,14 +30,19 @@ void PillListModel::removeAllBut(const QList<PresetPill>& pills) {
     for (int row = count() - 1; row >= 0; --row) {
         if (rowOf(pills, m_pills.at(row).slot) >= 0)
             continue;
-        beginRemoveRows({}, row, row);
-        m_pills.removeAt(row);
-        endRemoveRows();
+        remove(row);
     }
 }
 
+void PillListModel::remove(int row) {
+    beginRemoveRows({}, row, row);
+    m_pills.removeAt(row);
+    endRemoveRows();
+}
+
 void PillListModel::place(int row, const PresetPill& pill) {
-    const int from = rowOf(m_pills, pill.slot);
+    // What lies before is in its place already.
+    const int from = rowOf(m_pills, pill.slot, row);
     if (from < 0) {
         beginInsertRows({}, row, row);
         m_pills.insert(row, pill);

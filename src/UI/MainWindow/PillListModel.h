@@ -34,6 +34,7 @@ Q_SIGNALS:
 private:
     void removeAllBut(const QList<PresetPill>& pills);
     /// Puts the pill into the row, from wherever it is.
+    void remove(int row);
     void place(int row, const PresetPill& pill);
 
     QList<PresetPill> m_pills;

@@ -31,6 +31,14 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: height / 2
+        color: "transparent"
+        border.width: 1
+        border.color: root.isTinted ? Qt.alpha(AppColors.accent, 0.4) : AppColors.controlBorder
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
         color: "white"
         visible: opacity > 0
         opacity: root.isLifted ? 0.06 : 0

@@ -1,6 +1,7 @@
 #include "UI/MainWindow/PresetPill.h"
 
 #include "Core/LocalizedText.h"
+#include "Core/OneLine.h"
 #include "UI/DesignSystem/Typography.h"
 
 #include <QFontMetricsF>
@@ -24,6 +25,8 @@ constexpr std::array<qsizetype, 5> candidateCounts = {8, 6, 4, 2, 1};
 constexpr double horizontalPadding = 16;
 constexpr double symbolSize = 18;
 constexpr double symbolSpacing = 6;
+/// There are characters as wide as whole words.
+constexpr double widestTitle = 160;
 
 /// The position behind the given number of perceived characters; absent if there are fewer.
 std::optional<qsizetype> positionAfter(const QString& text, int characters) {
@@ -40,7 +43,7 @@ std::optional<qsizetype> positionAfter(const QString& text, int characters) {
 double pillWidth(const QString& title) {
     const QFontMetricsF metrics(Typography::weighted(Typography::callout(), QFont::DemiBold));
     return 2 * horizontalPadding + symbolSize + symbolSpacing +
-           std::ceil(metrics.horizontalAdvance(title));
+           std::min(std::ceil(metrics.horizontalAdvance(title)), widestTitle);
 }
 
 PresetPill pill(const PresetSlot& slot, const QList<FanPreset>& presets,
@@ -49,8 +52,8 @@ PresetPill pill(const PresetSlot& slot, const QList<FanPreset>& presets,
     const auto preset = std::ranges::find_if(
         presets, [&](const FanPreset& candidate) { return candidate.id == slot.presetID(); });
     if (preset != presets.end()) {
-        pill.fullName = preset->name;
-        pill.title = shortenedTitle(preset->name);
+        pill.fullName = oneLine(preset->name);
+        pill.title = shortenedTitle(pill.fullName);
         pill.symbolName = preset->symbolName;
     } else {
         pill.fullName = localized("shared.mode.automatic");

@@ -49,8 +49,12 @@ T.Button {
     }
 
     contentItem: Item {
+        // Names may be written in letters of any height.
+        clip: true
+
         SymbolLabel {
             anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width)
             symbolName: root.symbolName
             text: root.title
             font: root.isActive ? Typography.weighted(Typography.callout, Font.DemiBold)
@@ -59,5 +63,6 @@ T.Button {
         }
     }
 
-    Tooltip { text: root.fullName; shown: root.hovered }
+    // Below the caption, which it would else hide.
+    Tooltip { text: root.fullName; shown: root.hovered; gap: 36 }
 }

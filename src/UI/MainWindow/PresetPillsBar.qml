@@ -37,7 +37,9 @@ FocusScope {
         activeFocusOnTab: true
         cacheBuffer: 4000
         model: root.model.shown
-        opacity: root.enabled ? 1 : 0.55
+        opacity: root.enabled ? 1 : 0.7
+        // The keyboard comes in at the active pill.
+        onActiveFocusChanged: if (activeFocus) currentIndex = root.model.activeRow
         Accessible.role: Accessible.Grouping
         Accessible.name: qsTrId("mainWindow.presetBar.label")
 
@@ -46,7 +48,7 @@ FocusScope {
             onChosen: root.model.activateShown(index)
         }
 
-        add: PillMotion { appears: true }
+        add: PillMotion { appears: true; travels: false }
         remove: PillMotion { appears: false }
         move: PillMotion { appears: true }
         displaced: PillMotion { appears: true }
@@ -61,7 +63,7 @@ FocusScope {
         height: pills.height
         model: root.model.overflow
         containsActive: root.model.isActiveInOverflow
-        opacity: root.enabled ? 1 : 0.55
+        opacity: root.enabled ? 1 : 0.7
         visible: count > 0
         onChosen: index => root.model.activateOverflow(index)
     }

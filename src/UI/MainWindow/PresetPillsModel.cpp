@@ -50,6 +50,10 @@ void PresetPillsModel::updatePills() {
     m_overflow.setPills(pills.sliced(row.count));
     if (assignIfChanged(m_rowWidth, row.width))
         Q_EMIT rowWidthChanged();
+    const auto active = std::ranges::find(m_shown.pills(), true, &PresetPill::isActive);
+    const auto activeRow = active == m_shown.pills().end() ? 0 : active - m_shown.pills().begin();
+    if (assignIfChanged(m_activeRow, static_cast<int>(activeRow)))
+        Q_EMIT activeRowChanged();
     if (assignIfChanged(m_isActiveInOverflow,
                         std::ranges::any_of(m_overflow.pills(), &PresetPill::isActive)))
         Q_EMIT isActiveInOverflowChanged();

@@ -19,6 +19,7 @@ class PresetPillsModel final : public QObject {
     Q_PROPERTY(double rowWidth READ rowWidth NOTIFY rowWidthChanged FINAL)
     Q_PROPERTY(double spacing READ spacing CONSTANT FINAL)
     Q_PROPERTY(double overflowWidth READ overflowWidth CONSTANT FINAL)
+    Q_PROPERTY(int activeRow READ activeRow NOTIFY activeRowChanged FINAL)
     Q_PROPERTY(bool isSwitchable READ isSwitchable NOTIFY isSwitchableChanged FINAL)
     Q_PROPERTY(
         bool isActiveInOverflow READ isActiveInOverflow NOTIFY isActiveInOverflowChanged FINAL)
@@ -37,6 +38,8 @@ public:
     [[nodiscard]] double rowWidth() const { return m_rowWidth; }
     [[nodiscard]] static double spacing() { return PresetPills::spacing; }
     [[nodiscard]] static double overflowWidth() { return PresetPills::overflowWidth; }
+    /// Of the active pill among the shown ones; 0 when the active slot has none.
+    [[nodiscard]] int activeRow() const { return m_activeRow; }
     [[nodiscard]] bool isSwitchable() const { return m_isSwitchable; }
     /// The active slot has no pill of its own now.
     [[nodiscard]] bool isActiveInOverflow() const { return m_isActiveInOverflow; }
@@ -47,6 +50,7 @@ public:
 Q_SIGNALS:
     void availableWidthChanged();
     void rowWidthChanged();
+    void activeRowChanged();
     void isSwitchableChanged();
     void isActiveInOverflowChanged();
 
@@ -60,6 +64,7 @@ private:
     PillListModel m_overflow;
     double m_availableWidth = 0;
     double m_rowWidth = 0;
+    int m_activeRow = 0;
     bool m_isSwitchable;
     bool m_isActiveInOverflow = false;
 };

@@ -3,6 +3,7 @@
 #include "Core/AppState.h"
 #include "Core/AssignIfChanged.h"
 #include "Core/LocalizedText.h"
+#include "Core/OneLine.h"
 #include "UI/MenuBar/WholeNumberText.h"
 
 #include <algorithm>
@@ -69,7 +70,7 @@ void MenuBarModel::refreshPresets() {
                                .isActive = !store.activePresetID()}};
     for (const FanPreset& preset : store.presets())
         rows.append({.slotID = PresetSlot::preset(preset.id).id(),
-                     .title = preset.name,
+                     .title = oneLine(preset.name),
                      .symbolName = preset.symbolName,
                      .isActive = store.activePresetID() == preset.id});
     const auto active = std::ranges::find(rows, true, &MenuBarPreset::isActive);

@@ -40,9 +40,11 @@ TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
                     << celsius << " degrees, dark " << (scheme == ColorScheme::dark);
             }
         }
-        EXPECT_GE(contrast(Palette::color(Role::onAccent, scheme),
-                           Palette::color(Role::accentFill, scheme)),
-                  4.5);
+        for (const Role fill : {Role::accentFill, Role::dangerFill}) {
+            EXPECT_GE(
+                contrast(Palette::color(Role::onAccent, scheme), Palette::color(fill, scheme)),
+                4.5);
+        }
     }
 }
 

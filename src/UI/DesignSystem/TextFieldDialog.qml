@@ -1,0 +1,28 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+// Asks for a line of text. The owner keeps the text: it answers edited(text).
+DialogPanel {
+    id: root
+
+    required property string text
+    required property string fieldLabel
+
+    signal edited(string text)
+
+    onAboutToShow: {
+        field.text = text
+        field.selectAll()
+        field.forceActiveFocus(Qt.PopupFocusReason)
+    }
+
+    TextField {
+        id: field
+
+        width: parent.width
+        label: root.fieldLabel
+        placeholderText: root.fieldLabel
+        focus: true
+        onTextEdited: root.edited(text)
+    }
+}

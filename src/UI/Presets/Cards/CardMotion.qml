@@ -1,0 +1,15 @@
+import QtQuick
+import Kestrowind.DesignSystem
+
+// How cards enter, leave and change places. What is moved while it enters ends fully there, too.
+Transition {
+    id: root
+
+    required property bool appears
+    // One that enters is in its place at once.
+    property bool travels: true
+
+    SpringMotion { properties: root.travels ? "x,y" : ""; timing: Springs.collection }
+    SpringMotion { property: "opacity"; to: root.appears ? 1 : 0; timing: Springs.collection }
+    SpringMotion { property: "entrance"; to: root.appears ? 1 : 0.92; timing: Springs.collection }
+}

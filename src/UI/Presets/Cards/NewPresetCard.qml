@@ -1,0 +1,107 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrowind.DesignSystem
+import Kestrowind.Presets
+
+// Makes a preset while there may be more; then it says why not.
+FocusScope {
+    id: root
+
+    required property bool canCreate
+    readonly property bool isHovering: pointer.hovered
+    readonly property bool isLit: isHovering && canCreate
+
+    signal clicked()
+
+    HoverHandler { id: pointer }
+
+    T.AbstractButton {
+        id: button
+
+        anchors.fill: parent
+        focus: true
+        enabled: root.canCreate
+        focusPolicy: Qt.StrongFocus
+        text: root.canCreate ? qsTrId("presets.card.newPreset") : qsTrId("presets.card.limitReached")
+        onClicked: root.clicked()
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
+        Accessible.role: Accessible.Button
+        Accessible.name: text
+        Accessible.description: tip.text
+
+        // qmllint disable deferred-property-id
+        background: Item {
+            // qmllint enable deferred-property-id
+            Rectangle {
+                anchors.fill: parent
+                radius: Radius.card
+                color: button.down ? AppColors.pressedFill : AppColors.hoverFill
+                opacity: button.down || root.isLit ? 1 : 0
+
+                Behavior on opacity { SpringMotion { timing: Springs.hover } }
+            }
+
+            CardOutline {
+                anchors.fill: parent
+                cornerRadius: Radius.card
+                lineWidth: 1.5
+                dashes: [6, 5]
+                topColor: Qt.alpha(AppColors.secondaryText, 0.45)
+                bottomColor: topColor
+                opacity: 1 - lit.opacity
+                visible: opacity > 0
+            }
+
+            CardOutline {
+                id: lit
+
+                anchors.fill: parent
+                cornerRadius: Radius.card
+                lineWidth: 1.5
+                dashes: [6, 5]
+                topColor: Qt.alpha(AppColors.accent, 0.7)
+                bottomColor: topColor
+                opacity: root.isLit ? 1 : 0
+                visible: opacity > 0
+
+                Behavior on opacity { SpringMotion { timing: Springs.hover } }
+            }
+
+            FocusRing { shown: button.visualFocus; cornerRadius: Radius.card; gap: 1 }
+        }
+
+        contentItem: Item {
+            Column {
+                anchors.centerIn: parent
+                width: parent.width - 2 * Spacing.regular
+                spacing: Spacing.small
+
+                Symbol {
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    name: root.canCreate ? "plus.circle.fill" : "tray.full"
+                    size: 38
+                    color: root.canCreate ? AppColors.accent : AppColors.tertiaryText
+                }
+
+                Text {
+                    width: parent.width
+                    text: button.text
+                    textFormat: Text.PlainText
+                    font: Typography.headline
+                    color: root.canCreate ? AppColors.primaryText : AppColors.secondaryText
+                    horizontalAlignment: Text.AlignHCenter
+                    wrapMode: Text.Wrap
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+
+    Tooltip {
+        id: tip
+
+        text: root.canCreate ? "" : qsTrId("presets.limitReachedHelp")
+        shown: root.isHovering
+    }
+}

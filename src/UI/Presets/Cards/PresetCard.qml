@@ -1,0 +1,127 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrowind.DesignSystem
+import Kestrowind.Presets
+
+// One slot: a click activates it, it can be dragged onto another, and its menu has the rest.
+T.AbstractButton {
+    id: root
+
+    required property int index
+    required property string slotID
+    required property string name
+    required property string caption
+    required property string symbolName
+    required property string help
+    required property thumbnailCurve curve
+    required property bool isAutomatic
+    required property bool isActive
+    required property bool isEditable
+    required property PresetsModel screen
+
+    // Grows to 1 as the card enters the grid.
+    property real entrance: 1
+    property real lift: isLifted ? 1.02 : 1
+    readonly property bool isLifted: hovered && !drag.isDragging
+
+    signal contextMenuRequested(point at)
+
+    // The button does not always hear that a drag took its press.
+    property bool wasDragged: false
+
+    down: pressed && !wasDragged
+    onPressed: wasDragged = false
+
+    function beginDrag(at: point): void {
+        wasDragged = true
+        drag.start(root, slotID, at)
+    }
+
+    function requestMenu(at: point): void {
+        if (!isAutomatic)
+            contextMenuRequested(at)
+    }
+
+    text: name
+    scale: entrance * lift
+    opacity: 1
+    z: hovered ? 1 : 0
+    hoverEnabled: true
+    focusPolicy: Qt.ClickFocus
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: name
+    Accessible.description: caption
+    Accessible.checkable: true
+    Accessible.checked: isActive
+    Accessible.focusable: true
+    onActiveFocusChanged: if (activeFocus) GridView.view.currentIndex = index
+    Keys.onPressed: event => event.accepted = keys.handle(event.key, event.modifiers)
+
+    onClicked: screen.activate(slotID)
+
+    GridView.onAdd: {
+        opacity = 0
+        entrance = 0.92
+    }
+
+    Behavior on lift { SpringMotion { timing: Springs.hover } }
+
+    CardKeys {
+        id: keys
+
+        onActivated: root.clicked()
+        onMenuRequested: root.requestMenu(Qt.point(root.width / 2, root.height / 2))
+        onRenameRequested: root.screen.rename(root.slotID)
+        onDeletionRequested: root.screen.requestDeletion(root.slotID)
+        onMoveRequested: (columns, rows) => root.screen.moveBy(root.index, columns + rows * root.screen.columns)
+    }
+
+    background: PresetCardChrome {
+        isActive: root.isActive
+        isLifted: root.isLifted
+        isPressed: root.down
+        isFocused: root.visualFocus
+        isTarget: dropArea.containsDrag && !drag.isDragging
+    }
+
+    // qmllint disable deferred-property-id
+    contentItem: PresetCardLayout {
+        // qmllint enable deferred-property-id
+        id: layout
+
+        opacity: drag.isDragging ? 0.35 : 1
+        symbolName: root.symbolName
+        name: root.name
+        caption: root.caption
+        curve: root.curve
+        isAutomatic: root.isAutomatic
+        isActive: root.isActive
+    }
+
+    DropArea {
+        id: dropArea
+
+        anchors.fill: parent
+        onEntered: drag => drag.accepted = drag.hasText
+        onDropped: drop => drop.accepted = root.screen.drop(drop.text, root.slotID)
+    }
+
+    CardDrag { id: drag }
+
+    DragHandler {
+        target: null
+        acceptedButtons: Qt.LeftButton
+        onActiveChanged: if (active)
+            root.beginDrag(centroid.pressPosition)
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => root.requestMenu(eventPoint.position)
+    }
+
+    Tooltip {
+        text: root.help.length > 0 ? root.help : layout.isNameTruncated ? root.name : ""
+        shown: root.hovered && !drag.isDragging
+    }
+}

@@ -1,0 +1,91 @@
+import QtQuick
+import Kestrowind.DesignSystem
+import Kestrowind.Presets
+
+// The inside of a card, from its badge down to its thumbnail.
+Item {
+    id: root
+
+    required property string symbolName
+    required property string name
+    required property string caption
+    required property thumbnailCurve curve
+    required property bool isAutomatic
+    required property bool isActive
+    readonly property bool isNameTruncated: nameText.truncated
+
+    // Names may be written in letters of any height.
+    clip: true
+
+    Column {
+        x: Spacing.regular
+        y: Spacing.regular
+        width: root.width - 2 * Spacing.regular
+        spacing: 10
+
+        Item {
+            width: parent.width
+            height: badge.height
+
+            PresetIconBadge {
+                id: badge
+
+                symbolName: root.symbolName
+                isActive: root.isActive
+            }
+
+            ActivePresetBadge {
+                anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+                visible: root.isActive
+            }
+        }
+
+        Text {
+            id: nameText
+
+            width: parent.width
+            height: 17
+            verticalAlignment: Text.AlignVCenter
+            horizontalAlignment: Text.AlignLeft
+            text: root.name
+            textFormat: Text.PlainText
+            font: Typography.headline
+            color: AppColors.primaryText
+            elide: Text.ElideRight
+            maximumLineCount: 1
+        }
+
+        Text {
+            width: parent.width
+            height: 13
+            verticalAlignment: Text.AlignVCenter
+            horizontalAlignment: Text.AlignLeft
+            text: root.caption
+            textFormat: Text.PlainText
+            font: Typography.caption
+            color: AppColors.secondaryText
+            elide: Text.ElideRight
+            maximumLineCount: 1
+        }
+
+        ThumbnailPlotChrome {
+            id: plot
+
+            width: parent.width
+            height: 54
+
+            MiniCurveThumbnail {
+                anchors.fill: parent
+                visible: !root.isAutomatic
+                curve: root.curve
+                lineColor: root.isActive ? AppColors.accent : AppColors.secondaryText
+                areaColor: Qt.alpha(root.isActive ? AppColors.accent : AppColors.primaryText, 0.12)
+            }
+
+            AutomaticBaselineThumbnail {
+                anchors.fill: parent
+                visible: root.isAutomatic
+            }
+        }
+    }
+}

@@ -1,0 +1,60 @@
+import QtQuick
+import Kestrowind.DesignSystem
+import Kestrowind.Presets
+
+// What can be done with a preset; only the user's own can be renamed and deleted. A command runs when
+// the menu is gone, so that a dialog does not compete with it for the keyboard.
+PopupMenu {
+    id: root
+
+    required property PresetsModel screen
+    property string slotID
+    property bool isEditable: false
+
+    function show(card: Item, id: string, editable: bool, at: point): void {
+        slotID = id
+        isEditable = editable
+        popup(card, at.x, at.y)
+        forceActiveFocus(Qt.PopupFocusReason)
+        currentIndex = 0
+    }
+
+    PopupMenuItem {
+        text: qsTrId("presets.contextMenu.activate")
+        symbolName: "checkmark"
+        onTriggered: Qt.callLater(() => root.screen.activate(root.slotID))
+    }
+
+    PopupMenuSeparator {}
+
+    PopupMenuItem {
+        text: qsTrId("presets.contextMenu.duplicate")
+        symbolName: "plus.square.on.square"
+        enabled: root.screen.canAddPreset
+        onTriggered: Qt.callLater(() => root.screen.duplicate(root.slotID))
+    }
+
+    PopupMenuItem {
+        text: qsTrId("presets.contextMenu.rename")
+        symbolName: "pencil"
+        visible: root.isEditable
+        enabled: visible
+        height: visible ? implicitHeight : 0
+        onTriggered: Qt.callLater(() => root.screen.rename(root.slotID))
+    }
+
+    PopupMenuSeparator {
+        visible: root.isEditable
+        height: visible ? implicitHeight : 0
+    }
+
+    PopupMenuItem {
+        text: qsTrId("presets.contextMenu.delete")
+        symbolName: "trash"
+        destructive: true
+        visible: root.isEditable
+        enabled: visible
+        height: visible ? implicitHeight : 0
+        onTriggered: Qt.callLater(() => root.screen.requestDeletion(root.slotID))
+    }
+}

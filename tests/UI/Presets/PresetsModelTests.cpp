@@ -1,0 +1,268 @@
+#include "Core/OneLine.h"
+#include "Support/QtPrinters.h"
+#include "UI/MainWindow/TestState.h"
+#include "UI/Presets/PresetsModel.h"
+
+#include <QSignalSpy>
+#include <gmock/gmock.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+QStringList names(const PresetCards* cards) {
+    QStringList names;
+    for (const PresetCard& card : cards->cards())
+        names.append(card.name);
+    return names;
+}
+
+QString idOf(const QUuid& presetID) {
+    return PresetSlot::preset(presetID).id();
+}
+const QString coolID = u"6E6C0001-0000-4000-8000-000000000001"_s;
+const QString fullSpeedID = u"6E6C0002-0000-4000-8000-000000000002"_s;
+
+TEST(CardGridTest, HasAsManyColumnsAsFitAndSharesTheRest) {
+    struct Row {
+        double width;
+        CardGrid grid;
+    };
+    for (const auto& [width, grid] : {
+             Row{438, {2, 210}},
+             Row{437.9, {1, 280}},
+             Row{210, {1, 210}},
+             Row{120, {1, 120}},
+             Row{0, {1, 0}},
+             Row{-30, {1, 0}},
+             Row{732, {3, 232}},
+             Row{772, {3, 245}},
+             Row{894, {4, 210}},
+             Row{893, {3, 280}},
+         })
+        EXPECT_EQ(CardGrid::fitting(width), grid) << width;
+    EXPECT_EQ((CardGrid{.columns = 3}).rows(7), 3);
+    EXPECT_EQ((CardGrid{.columns = 3}).rows(6), 2);
+}
+
+TEST(ThumbnailCurveTest, SamplesTheWholeRangeInsideOfAnInset) {
+    const ThumbnailCurve cool{FanPreset::builtIns(1).front().curves.front()};
+    const QPolygonF line = cool.line({200, 50});
+    ASSERT_EQ(line.size(), 41);
+    EXPECT_EQ(line.front(), QPointF(0, 42));
+    EXPECT_EQ(line.back(), QPointF(200, 8));
+    // 65 degrees: an eighth of the way from 49 to 73 percent.
+    EXPECT_NEAR(line[20].x(), 100, 1e-9);
+    EXPECT_NEAR(line[20].y(), 8 + 34 * 0.48, 1e-9);
+
+    EXPECT_EQ(ThumbnailCurve().line({200, 50}).at(40), QPointF(200, 42));
+    const ThumbnailCurve wild{FanCurve::fromStoredPoints({{20, 200}})};
+    EXPECT_EQ(wild.line({200, 50}).front(), QPointF(0, -26));
+    EXPECT_EQ(wild.line({}).size(), 41);
+}
+
+TEST(OneLineTest, KeepsNamesOnALineAndInTheirPlace) {
+    struct Row {
+        QString name, line;
+    };
+    for (const auto& [name, line] : {
+             Row{u"Quiet"_s, u"Quiet"_s},
+             Row{u"a\nb\r\nc\u2028\u2029d\te"_s, u"a b c d e"_s},
+             Row{u"a\u0007b\u0000c"_s, u"abc"_s},
+             Row{u"👩‍🍳 e\u0301"_s, u"👩‍🍳 e\u0301"_s},
+             Row{u"\u05e9\u05dc\u05d5\u05dd\n"_s, u"\u05e9\u05dc\u05d5\u05dd "_s},
+         })
+        EXPECT_EQ(oneLine(name), line);
+    EXPECT_EQ(quotable(u"\u202eabc"_s), u"\u2068\u202eabc\u2069"_s);
+}
+
+TEST(PresetsModelTest, ShowsTheSlotsInTheUsersOrder) {
+    TestState state;
+    PresetsModel model(*state.appState);
+    EXPECT_THAT(names(model.cards()), ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
+    EXPECT_EQ(model.activeRow(), 0);
+    EXPECT_TRUE(model.cards()->cards()[0].isActive);
+    EXPECT_FALSE(model.cards()->cards()[1].isEditable);
+
+    auto mine = state.presets().addPreset(u"Two\nlines"_s);
+    mine->curves.clear();
+    state.presets().update(*mine);
+    state.presets().moveSlot(PresetSlot::preset(mine->id), PresetSlot::automatic());
+    EXPECT_THAT(names(model.cards()),
+                ElementsAre(u"Two lines"_s, u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
+    const PresetCard& card = model.cards()->cards().front();
+    EXPECT_TRUE(card.isEditable);
+    EXPECT_EQ(card.caption, u"Your own curve"_s);
+    EXPECT_EQ(card.curve, ThumbnailCurve());
+    EXPECT_EQ(model.activeRow(), 1);
+}
+
+TEST(PresetsModelTest, MovesRowsInsteadOfMakingThemAnew) {
+    TestState state;
+    PresetsModel model(*state.appState);
+    QSignalSpy inserted(model.cards(), &PresetCards::rowsInserted);
+    QSignalSpy removed(model.cards(), &PresetCards::rowsRemoved);
+    QSignalSpy moved(model.cards(), &PresetCards::rowsMoved);
+    EXPECT_TRUE(model.drop(u"automatic"_s, fullSpeedID));
+    EXPECT_THAT(names(model.cards()), ElementsAre(u"Cool"_s, u"Full Speed"_s, u"Automatic"_s));
+    EXPECT_GT(moved.size(), 0);
+    EXPECT_EQ(inserted.size() + removed.size(), 0);
+    model.createPreset();
+    EXPECT_EQ(inserted.size(), 1);
+    model.requestDeletion(idOf(state.presets().presets().last().id));
+    model.confirmDeletion();
+    EXPECT_EQ(removed.size(), 1);
+}
+
+TEST(PresetsModelTest, BearsASlotThatWasSavedTwice) {
+    TestState state({u"-presetSlotOrder"_s, u"(automatic, automatic, nonsense, %1)"_s.arg(coolID)});
+    PresetsModel model(*state.appState);
+    ASSERT_THAT(names(model.cards()),
+                ElementsAre(u"Automatic"_s, u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
+    EXPECT_TRUE(model.drop(u"automatic"_s, fullSpeedID));
+    EXPECT_THAT(names(model.cards()),
+                ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s, u"Automatic"_s));
+}
+
+TEST(PresetsModelTest, RefusesWhateverTextNamesNoSlot) {
+    TestState state;
+    PresetsModel model(*state.appState);
+    const QList<PresetSlot> order = state.presets().slotOrder();
+    for (const QString& text :
+         {QString(), u" "_s, u"Automatic"_s, u"automatic\n"_s, u"automatic automatic"_s,
+          u"file:///etc/passwd"_s, u"{6E6C0001-0000-4000-8000-000000000001}"_s,
+          u"6E6C0001-0000-4000-8000-00000000000"_s, u"\u202e\u0000\ufffd😀"_s,
+          QString(2'000'000, u'6'), QString(QChar(0xd800))}) {
+        EXPECT_FALSE(model.drop(text, coolID)) << text.left(60).toStdString();
+    }
+    EXPECT_FALSE(model.drop(coolID, u"nowhere"_s));
+    EXPECT_TRUE(model.drop(coolID, coolID));
+    EXPECT_TRUE(model.drop(idOf(QUuid::createUuid()), coolID)) << "a slot, but none of ours";
+    EXPECT_EQ(state.presets().slotOrder(), order);
+    EXPECT_TRUE(model.drop(coolID.toLower(), u"automatic"_s));
+    EXPECT_NE(state.presets().slotOrder(), order);
+}
+
+TEST(PresetsModelTest, MovesByTheKeyboardWithinTheCards) {
+    TestState state;
+    PresetsModel model(*state.appState);
+    for (const auto& [row, places] : {std::pair(0, -1), {2, 1}, {-1, 1}, {7, -5}, {0, 3}})
+        model.moveBy(row, places);
+    EXPECT_THAT(names(model.cards()), ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
+    model.moveBy(0, 2);
+    model.moveBy(0, 1);
+    EXPECT_THAT(names(model.cards()), ElementsAre(u"Full Speed"_s, u"Cool"_s, u"Automatic"_s));
+}
+
+TEST(PresetsModelTest, ActivatesAndAsksTheEngineToPush) {
+    TestState state;
+    state.boost(0);
+    PresetsModel model(*state.appState);
+    QSignalSpy pushed(&state.appState->engine(), &ControlEngine::requestedPercentsChanged);
+    model.activate(fullSpeedID);
+    EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID);
+    EXPECT_EQ(model.activeRow(), 2);
+    EXPECT_TRUE(pushed.wait(2000));
+    model.activate(u"nonsense"_s);
+    model.activate(idOf(QUuid::createUuid()));
+    EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID);
+    model.activate(u"automatic"_s);
+    EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
+}
+
+TEST(PresetsModelTest, MakesPresetsUpToTheLimit) {
+    TestState state;
+    PresetsModel model(*state.appState);
+    QSignalSpy created(&model, &PresetsModel::cardCreated);
+    model.createPreset();
+    EXPECT_TRUE(model.isRenaming());
+    EXPECT_EQ(model.renameDraftName(), u"New Preset"_s);
+    EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
+    model.cancelRename();
+    model.duplicate(coolID);
+    EXPECT_FALSE(model.isRenaming());
+    model.duplicate(u"automatic"_s);
+    EXPECT_TRUE(model.canAddPreset());
+    model.duplicate(fullSpeedID);
+    EXPECT_FALSE(model.canAddPreset());
+    model.createPreset();
+    model.duplicate(coolID);
+    EXPECT_FALSE(model.isRenaming());
+    EXPECT_EQ(created.size(), 3);
+    EXPECT_EQ(created.last().front().toInt(), 5);
+    EXPECT_EQ(names(model.cards()).last(), u"Full Speed Copy"_s);
+}
+
+TEST(PresetsModelTest, TakesTheTrimmedDraftAsTheName) {
+    TestState state;
+    PresetsModel model(*state.appState);
+    const QString id = idOf(state.presets().addPreset(u"Mine"_s)->id);
+    const auto name = [&] { return state.presets().presets().last().name; };
+    struct Row {
+        QString draft, name;
+    };
+    for (const auto& [draft, expected] : {
+             Row{u"  \n Night \u2028"_s, u"Night"_s},
+             Row{u" \t\n\u2029 "_s, u"Night"_s},
+             Row{QString(), u"Night"_s},
+             Row{u"مروحة"_s, u"مروحة"_s},
+             Row{QString(120, u'W'), QString(120, u'W')},
+         }) {
+        model.rename(id);
+        ASSERT_TRUE(model.isRenaming());
+        EXPECT_EQ(model.renameDraftName(), name());
+        model.setRenameDraftName(draft);
+        model.commitRename();
+        EXPECT_FALSE(model.isRenaming());
+        EXPECT_EQ(name(), expected);
+    }
+    model.rename(id);
+    model.setRenameDraftName(u"Other"_s);
+    model.cancelRename();
+    model.commitRename();
+    EXPECT_EQ(name(), QString(120, u'W'));
+    for (const QString& fixed : {coolID, u"automatic"_s, u"nonsense"_s}) {
+        model.rename(fixed);
+        EXPECT_FALSE(model.isRenaming());
+    }
+}
+
+TEST(PresetsModelTest, KeepsWhatChangedWhileTheNameWasTyped) {
+    TestState state;
+    PresetsModel model(*state.appState);
+    auto mine = state.presets().addPreset(u"Mine"_s);
+    model.rename(idOf(mine->id));
+    mine->symbolName = u"bolt.fill"_s;
+    state.presets().update(*mine);
+    model.setRenameDraftName(u"Yours"_s);
+    model.commitRename();
+    EXPECT_EQ(state.presets().presets().last().symbolName, u"bolt.fill"_s);
+    EXPECT_EQ(state.presets().presets().last().name, u"Yours"_s);
+}
+
+TEST(PresetsModelTest, DeletesOnlyTheUsersOwnAndOnlyWhenConfirmed) {
+    TestState state;
+    PresetsModel model(*state.appState);
+    EXPECT_EQ(model.deletionTitle(), u"Delete this preset?"_s);
+    for (const QString& fixed : {coolID, u"automatic"_s, u"nonsense"_s}) {
+        model.requestDeletion(fixed);
+        EXPECT_FALSE(model.isDeleting());
+    }
+    const auto mine = state.presets().addPreset(u"A %1\nB"_s);
+    state.presets().setActivePresetID(mine->id);
+    model.requestDeletion(idOf(mine->id));
+    EXPECT_EQ(model.deletionTitle(), u"Delete “\u2068A %1 B\u2069”?"_s);
+    model.cancelDeletion();
+    model.confirmDeletion();
+    EXPECT_EQ(state.presets().presets().size(), 3);
+    model.requestDeletion(idOf(mine->id));
+    model.confirmDeletion();
+    EXPECT_FALSE(model.isDeleting());
+    EXPECT_EQ(state.presets().presets().size(), 2);
+    EXPECT_EQ(model.activeRow(), 0);
+}
+
+} // namespace
+} // namespace kestrowind
