@@ -26,12 +26,16 @@ constexpr Picture pictures[] = {
     {"ic10", 1024}, {"ic11", 32}, {"ic12", 64},  {"ic13", 256}, {"ic14", 512},
 };
 
+/// The rounded square leaves the margin that icons on a Mac have, in which the system draws nothing
+/// of its own.
 QImage icon(int side) {
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    AppIcon::paintIcon(painter, QRectF(0, 0, side, side));
+    const double margin = side * 100.0 / 1024;
+    AppIcon::paintIcon(painter,
+                       QRectF(0, 0, side, side).adjusted(margin, margin, -margin, -margin));
     return image;
 }
 
