@@ -2,6 +2,8 @@
 
 #include "Core/AppState.h"
 #include "Platform/Platform.h"
+#include "UI/Curves/CurveEditHistory.h"
+#include "UI/Curves/CurvesModel.h"
 #include "UI/Dashboard/DashboardModel.h"
 
 #include <QGuiApplication>
@@ -13,10 +15,18 @@ namespace {
 using namespace Qt::StringLiterals;
 
 std::vector<SectionView> sectionViews(AppState& appState) {
+    // Outlives the section, which is there only while it can be seen.
+    const auto curveEdits = std::make_shared<CurveEditHistory>();
     return {
         {.section = MainSection::dashboard,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
          .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
+        {.section = MainSection::curves,
+         .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Curves/CurvesRootView.qml"_s),
+         .makeModel =
+             [&appState, curveEdits] {
+                 return std::make_unique<CurvesModel>(appState, *curveEdits);
+             }},
     };
 }
 
