@@ -1,9 +1,5 @@
 #include "System/RunningApp.h"
-
-#include <QFile>
-#include <QProcess>
-
-#include <unistd.h>
+#include "System/VirtualScreen.h"
 
 namespace kestrowind {
 namespace {
@@ -11,52 +7,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using nlohmann::json;
-
-/// An X server of its own, with a pointer that clicks.
-class VirtualScreen {
-public:
-    /// Numbered after this process: servers that look for a free number at once take the same one.
-    VirtualScreen()
-        : m_number(100 + static_cast<int>(::getpid() % 10'000)) {
-        m_server.start(u"Xvfb"_s, {display(), u"-screen"_s, u"0"_s, u"1280x1100x24"_s,
-                                   u"-noreset"_s, u"-nolisten"_s, u"tcp"_s});
-        m_isUp = waitUntil([this] { return QFile::exists(u"/tmp/.X11-unix/X%1"_s.arg(m_number)); });
-    }
-    ~VirtualScreen() {
-        m_server.terminate();
-        m_server.waitForFinished();
-    }
-    VirtualScreen(const VirtualScreen&) = delete;
-    VirtualScreen& operator=(const VirtualScreen&) = delete;
-
-    [[nodiscard]] bool isUp() const { return m_isUp; }
-    [[nodiscard]] QString display() const { return u':' + QString::number(m_number); }
-
-    /// What xdotool prints; nothing when it fails.
-    QString tool(const QStringList& arguments) const {
-        QProcess process;
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"DISPLAY"_s, display());
-        process.setProcessEnvironment(environment);
-        process.start(u"xdotool"_s, arguments);
-        process.waitForFinished();
-        return process.exitCode() == 0
-                   ? QString::fromLatin1(process.readAllStandardOutput()).trimmed()
-                   : QString();
-    }
-    [[nodiscard]] QString visibleWindow() const {
-        return tool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Kestrowind$"_s});
-    }
-    void click(const QString& window, int x, int y) const {
-        tool({u"mousemove"_s, u"--window"_s, window, QString::number(x), QString::number(y)});
-        tool({u"click"_s, u"1"_s});
-    }
-
-private:
-    int m_number;
-    QProcess m_server;
-    bool m_isUp = false;
-};
 
 TEST(Window, AClickOnAPillDrivesTheFans) {
     const VirtualScreen screen;
