@@ -1,5 +1,4 @@
 import QtQuick
-import Kestrowind.DesignSystem
 import Kestrowind.Curves
 
 // The curves screen: the editor, or what stands there when there is no preset at all. A window that

@@ -12,7 +12,7 @@ T.Button {
     text: model.presetName
     font: Typography.weighted(Typography.body, Font.Medium)
     leftPadding: 12
-    rightPadding: 8
+    rightPadding: 32
     topPadding: 4
     bottomPadding: 4
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -34,30 +34,19 @@ T.Button {
         FocusRing { shown: root.visualFocus }
     }
 
-    contentItem: Item {
-        implicitWidth: preset.implicitWidth + Spacing.small + arrows.width
-        implicitHeight: preset.implicitHeight
+    contentItem: SymbolLabel {
+        text: root.text
+        symbolName: root.model.presetSymbolName
+        font: root.font
+        spacing: Spacing.small
+    }
 
-        SymbolLabel {
-            id: preset
-
-            width: parent.width - Spacing.small - arrows.width
-            height: parent.height
-            text: root.text
-            symbolName: root.model.presetSymbolName
-            font: root.font
-            spacing: Spacing.small
-        }
-
-        Symbol {
-            id: arrows
-
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            name: "chevron.up.chevron.down"
-            size: 16
-            color: AppColors.secondaryText
-        }
+    indicator: Symbol {
+        x: root.width - width - Spacing.small
+        y: Math.round((root.height - height) / 2)
+        name: "chevron.up.chevron.down"
+        size: 16
+        color: AppColors.secondaryText
     }
 
     PresetMenu {
