@@ -47,7 +47,8 @@ Item {
             appear.start()
     }
     Keys.onPressed: event => {
-        chart.hasKeyboardFocus = true
+        if (!isDragged)
+            chart.hasKeyboardFocus = true
         event.accepted = chart.pressKey(index, event.key, event.modifiers)
     }
 

@@ -44,7 +44,8 @@ void FanCurveChartModel::setIsEditable(bool isEditable) {
 void FanCurveChartModel::setLiveTemperature(const std::optional<double>& temperature) {
     if (!assignIfChanged(m_liveTemperature, temperature))
         return;
-    setMotion(Motion::Live);
+    // A marker that appears is where it belongs at once.
+    setMotion(m_live.isShown ? Motion::Live : Motion::None);
     updateMarks();
     setMotion(Motion::None);
 }

@@ -23,6 +23,7 @@ class FanCurveChartModel : public QObject {
     Q_PROPERTY(Motion motion READ motion NOTIFY motionChanged FINAL)
     Q_PROPERTY(int draggedPoint READ draggedPoint NOTIFY draggedPointChanged FINAL)
     Q_PROPERTY(int hoveredPoint READ hoveredPoint NOTIFY marksChanged FINAL)
+    Q_PROPERTY(bool isIdle READ isIdle NOTIFY marksChanged FINAL)
     Q_PROPERTY(
         int currentPoint READ currentPoint WRITE setCurrentPoint NOTIFY currentPointChanged FINAL)
     Q_PROPERTY(bool hasKeyboardFocus READ hasKeyboardFocus WRITE setHasKeyboardFocus NOTIFY
@@ -67,6 +68,10 @@ public:
     /// These are -1 for none.
     [[nodiscard]] int draggedPoint() const { return m_draggedPoint; }
     [[nodiscard]] int hoveredPoint() const { return m_hoveredPoint; }
+    /// Whether the pointer is offered nothing: no point to take, none to add.
+    [[nodiscard]] bool isIdle() const {
+        return m_draggedPoint < 0 && m_hoveredPoint < 0 && !m_ghost.isShown;
+    }
     /// The point that the keyboard works on, now or when it next comes to the chart.
     [[nodiscard]] int currentPoint() const { return m_currentPoint; }
     void setCurrentPoint(int index);

@@ -2,7 +2,7 @@ import QtQuick
 import Kestrowind.CurveEditor
 import Kestrowind.DesignSystem
 
-// The chart on its card. The help appears below it, where it covers nothing that is being drawn.
+// The chart on its card. The help appears below it, and only while nothing is being drawn.
 Item {
     id: root
 
@@ -32,7 +32,7 @@ Item {
 
     Tooltip {
         text: root.help
-        shown: pointer.hovered && root.chart.draggedPoint < 0 && !editor.isMenuOpen
+        shown: pointer.hovered && root.chart.isIdle && !editor.isMenuOpen
         delay: 1500
     }
 }

@@ -20,6 +20,11 @@ protected:
 
 TEST_F(CurveChart, ShowsTheTemperatureAndWhatTheCurveMakesOfIt) {
     EXPECT_FALSE(chart.live().isShown);
+    QSignalSpy motion(&chart, &FanCurveChartModel::motionChanged);
+    chart.setLiveTemperature(49);
+    EXPECT_EQ(motion.size(), 0) << "it does not fly in";
+    chart.setLiveTemperature(51);
+    EXPECT_EQ(motion.size(), 2) << "but glides on";
     struct Row {
         double temperature;
         double x;
@@ -48,6 +53,7 @@ TEST_F(CurveChart, ShowsWhatAClickWouldAddAndTheValuesOfWhatIsPointedAt) {
     chart.setHoverLocation(QPointF(50, 41));
     EXPECT_TRUE(chart.ghost().isShown);
     EXPECT_EQ(chart.ghost().text, u"30 °C · 80%"_s);
+    EXPECT_FALSE(chart.isIdle());
     EXPECT_FALSE(chart.callout().isShown);
     chart.setHoverLocation(QPointF(210, 100));
     EXPECT_FALSE(chart.ghost().isShown);
@@ -56,6 +62,7 @@ TEST_F(CurveChart, ShowsWhatAClickWouldAddAndTheValuesOfWhatIsPointedAt) {
     chart.setHoverLocation(std::nullopt);
     EXPECT_EQ(chart.hoveredPoint(), -1);
     EXPECT_FALSE(chart.callout().isShown);
+    EXPECT_TRUE(chart.isIdle());
 
     chart.setIsEditable(false);
     for (const QPointF& position : {QPointF(50, 41), QPointF(200, 100)}) {

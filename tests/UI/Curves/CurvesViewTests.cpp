@@ -44,7 +44,7 @@ protected:
     ~CurvesView() override {
         qInstallMessageHandler(m_previousHandler);
         complaints = nullptr;
-        EXPECT_THAT(m_complaints, testing::IsEmpty());
+        EXPECT_EQ(m_complaints.join(u'\n').toStdString(), "");
     }
 
     /// The visible item of a name that a screen reader says.
