@@ -6,12 +6,105 @@
     <message id="app.window.mainTitle">
         <translation>Kestrowind</translation>
     </message>
+    <message id="curves.builtInNote">
+        <extracomment>%1: name of the built-in preset</extracomment>
+        <translation>“%1” is built in and cannot be changed. Customize it to get a copy of your own.</translation>
+    </message>
+    <message id="curves.caption.safety">
+        <translation>Whatever the curve says, the helper never lets the Mac get too hot.</translation>
+    </message>
+    <message id="curves.chart.axisDegrees">
+        <extracomment>%1: whole degrees Celsius</extracomment>
+        <translation>%1 °C</translation>
+    </message>
+    <message id="curves.chart.axisPercent">
+        <extracomment>%1: 0 to 100</extracomment>
+        <translation>%1%</translation>
+    </message>
+    <message id="curves.chart.callout.automaticSpeed">
+        <extracomment>%1: whole degrees Celsius, %2: whole percent; the fan is left to the Mac</extracomment>
+        <translation>%1 °C · %2% · automatic speed</translation>
+    </message>
+    <message id="curves.chart.callout.estimatedRPM">
+        <extracomment>%1: whole degrees Celsius, %2: whole percent, %3: revolutions per minute</extracomment>
+        <translation>%1 °C · %2% · about %3 rpm</translation>
+    </message>
+    <message id="curves.chart.callout.temperatureAndPercent">
+        <extracomment>%1: whole degrees Celsius, %2: whole percent</extracomment>
+        <translation>%1 °C · %2%</translation>
+    </message>
+    <message id="curves.chart.deletePoint">
+        <translation>Delete Point</translation>
+    </message>
+    <message id="curves.chart.editableHelp">
+        <translation>Drag a point to move it, click to add one, double-click a point to delete it. By keyboard: arrow keys move, Page Up and Page Down choose, N adds, Delete removes.</translation>
+    </message>
+    <message id="curves.chart.label">
+        <extracomment>Spoken</extracomment>
+        <translation>Fan curve</translation>
+    </message>
+    <message id="curves.chart.pointAccessibilityLabel">
+        <extracomment>Spoken; %1: number of the point, from 1</extracomment>
+        <translation>Point %1</translation>
+    </message>
+    <message id="curves.chart.pointAccessibilityValue">
+        <extracomment>Spoken; %1: whole degrees Celsius, %2: whole percent</extracomment>
+        <translation>%1 °C, %2 percent</translation>
+    </message>
+    <message id="curves.chart.readOnlyHelp">
+        <translation>The curve of a built-in preset cannot be changed. Customize it to get a copy of your own.</translation>
+    </message>
+    <message id="curves.customizeButton">
+        <translation>Customize</translation>
+    </message>
+    <message id="curves.emptyState.createPreset">
+        <translation>Create Preset</translation>
+    </message>
+    <message id="curves.emptyState.description">
+        <translation>Create a preset to draw how fast the fans run at each temperature.</translation>
+    </message>
+    <message id="curves.emptyState.title">
+        <translation>No Presets</translation>
+    </message>
+    <message id="curves.hint.howToEdit">
+        <translation>Drag points to shape the curve, click to add one, double-click to delete one. It drives every fan and is saved at once.</translation>
+    </message>
     <message id="curves.newPresetName.base">
         <translation>New Preset</translation>
     </message>
     <message id="curves.newPresetName.numbered">
         <extracomment>%1: 2, 3, ...</extracomment>
         <translation>New Preset %1</translation>
+    </message>
+    <message id="curves.redo">
+        <translation>Redo</translation>
+    </message>
+    <message id="curves.redoHelp">
+        <extracomment>%1: the keys</extracomment>
+        <translation>Redo (%1)</translation>
+    </message>
+    <message id="curves.selector.editing">
+        <extracomment>Before the preset whose curve is shown</extracomment>
+        <translation>Editing</translation>
+    </message>
+    <message id="curves.toolbar.builtInSection">
+        <translation>Built-In</translation>
+    </message>
+    <message id="curves.toolbar.newPreset">
+        <translation>New Preset</translation>
+    </message>
+    <message id="curves.toolbar.presetPickerLabel">
+        <translation>Preset</translation>
+    </message>
+    <message id="curves.toolbar.yourPresetsSection">
+        <translation>Your Presets</translation>
+    </message>
+    <message id="curves.undo">
+        <translation>Undo</translation>
+    </message>
+    <message id="curves.undoHelp">
+        <extracomment>%1: the keys</extracomment>
+        <translation>Undo (%1)</translation>
     </message>
     <message id="dashboard.chart.axisDegrees">
         <extracomment>%1: whole degrees Celsius</extracomment>
@@ -292,7 +385,8 @@
         <translation>Click a card to let its preset drive the fans. Drag cards to arrange them; the row above follows their order.</translation>
     </message>
     <message id="presets.limitReachedHelp">
-        <translation>There can be three presets of your own. Delete one to make room for another.</translation>
+        <extracomment>%1: how many presets of their own users may have</extracomment>
+        <translation>There can be %1 presets of your own. Delete one to make room.</translation>
     </message>
     <message id="presets.newPresetDefaultName">
         <translation>New Preset</translation>

@@ -40,6 +40,12 @@ double FanCurve::percent(double temperature) const {
                                (upper->tempC - lower.tempC);
 }
 
+bool FanCurve::hasRoomAt(double temperature) const {
+    return std::ranges::none_of(m_points, [temperature](const FanCurvePoint& point) {
+        return std::abs(point.tempC - temperature) < addedPointDistance;
+    });
+}
+
 void FanCurve::insert(FanCurvePoint point) {
     point.tempC = std::clamp(point.tempC, lowestTemperature, highestTemperature);
     point.percent = std::clamp(point.percent, 0.0, highestPercent);

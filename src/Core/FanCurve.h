@@ -39,6 +39,9 @@ public:
     /// The demand at a temperature: 0 below the first point, flat after the last one. Not clamped.
     [[nodiscard]] double percent(double temperature) const;
 
+    /// Whether a point added at this temperature keeps its distance from every other.
+    [[nodiscard]] bool hasRoomAt(double temperature) const;
+
     /// Adds a point, clamped to the bounds, in its place.
     void insert(FanCurvePoint point);
     /// Moves a point within its neighbours' bounds, so that the order never changes. An index out

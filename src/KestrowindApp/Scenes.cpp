@@ -2,6 +2,8 @@
 
 #include "Core/AppState.h"
 #include "Platform/Platform.h"
+#include "UI/Curves/CurveEditHistory.h"
+#include "UI/Curves/CurvesModel.h"
 #include "UI/Dashboard/DashboardModel.h"
 #include "UI/Presets/PresetsModel.h"
 #include "UI/Settings/SettingsModel.h"
@@ -16,10 +18,18 @@ using namespace Qt::StringLiterals;
 
 std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
                                       HelperOperation& helperOperation) {
+    // Outlives the section, which is there only while it can be seen.
+    const auto curveEdits = std::make_shared<CurveEditHistory>();
     return {
         {.section = MainSection::dashboard,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
          .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
+        {.section = MainSection::curves,
+         .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Curves/CurvesRootView.qml"_s),
+         .makeModel =
+             [&appState, curveEdits] {
+                 return std::make_unique<CurvesModel>(appState, *curveEdits);
+             }},
         {.section = MainSection::presets,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Presets/PresetsRootView.qml"_s),
          .makeModel = [&appState] { return std::make_unique<PresetsModel>(appState); }},

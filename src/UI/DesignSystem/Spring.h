@@ -48,6 +48,7 @@ class Springs final : public QObject {
     Q_PROPERTY(kestrowind::SpringTiming collection READ collection CONSTANT FINAL)
     Q_PROPERTY(kestrowind::SpringTiming grab READ grab CONSTANT FINAL)
     Q_PROPERTY(kestrowind::SpringTiming release READ release CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::SpringTiming edit READ edit CONSTANT FINAL)
     Q_PROPERTY(kestrowind::SpringTiming level READ level CONSTANT FINAL)
     QML_ELEMENT
     QML_SINGLETON
@@ -59,6 +60,7 @@ public:
     [[nodiscard]] static SpringTiming collection() { return SpringTiming::of({0.28, 0.85}); }
     [[nodiscard]] static SpringTiming grab() { return SpringTiming::of({0.2, 0.85}); }
     [[nodiscard]] static SpringTiming release() { return SpringTiming::of({0.25, 0.85}); }
+    [[nodiscard]] static SpringTiming edit() { return SpringTiming::of({0.5, 0.85}); }
     [[nodiscard]] static SpringTiming level() { return SpringTiming::of({0.8, 1.0}); }
     [[nodiscard]] Q_INVOKABLE static kestrowind::SpringTiming spring(double response,
                                                                      double dampingFraction);

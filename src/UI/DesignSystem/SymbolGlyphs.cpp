@@ -22,7 +22,9 @@ struct Entry {
 constexpr std::array table = {
     Entry{"arrow.triangle.2.circlepath"_L1, 0xe863},      // autorenew
     Entry{"arrow.up.to.line"_L1, 0xe25a},                 // vertical_align_top
+    Entry{"arrow.uturn.backward"_L1, 0xe166},             // undo
     Entry{"arrow.uturn.backward.circle"_L1, 0xe8ba},      // settings_backup_restore
+    Entry{"arrow.uturn.forward"_L1, 0xe15a},              // redo
     Entry{"bolt.fill"_L1, 0xea0b},                        // bolt
     Entry{"chart.xyaxis.line"_L1, 0xe6e1},                // show_chart
     Entry{"checkmark"_L1, 0xe5ca},                        // check

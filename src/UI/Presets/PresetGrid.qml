@@ -75,6 +75,7 @@ Item {
         width: root.model.columnWidth
         height: root.cardHeight
         canCreate: root.model.canAddPreset
+        limitHelp: root.model.limitHelp
         onClicked: root.model.createPreset()
         Keys.onLeftPressed: root.focusCard(cards.count - 1)
     }

@@ -45,6 +45,12 @@ PresetsModel::PresetsModel(AppState& appState, QObject* parent)
     update();
 }
 
+QString PresetsModel::limitHelp() const {
+    return m_canAddPreset
+               ? QString()
+               : localized("presets.limitReachedHelp").arg(PresetStore::maximumUserPresets);
+}
+
 void PresetsModel::update() {
     m_cards.setCards(currentCards());
     if (assignIfChanged(m_canAddPreset, m_appState.presets().canAddPreset()))

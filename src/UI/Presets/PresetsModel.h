@@ -19,6 +19,7 @@ class PresetsModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(kestrowind::PresetCards* cards READ cards CONSTANT FINAL)
     Q_PROPERTY(bool canAddPreset READ canAddPreset NOTIFY canAddPresetChanged FINAL)
+    Q_PROPERTY(QString limitHelp READ limitHelp NOTIFY canAddPresetChanged FINAL)
     Q_PROPERTY(int activeRow READ activeRow NOTIFY activeRowChanged FINAL)
 
     Q_PROPERTY(double availableWidth READ availableWidth WRITE setAvailableWidth NOTIFY
@@ -41,6 +42,8 @@ public:
 
     [[nodiscard]] PresetCards* cards() { return &m_cards; }
     [[nodiscard]] bool canAddPreset() const { return m_canAddPreset; }
+    /// Why no preset can be added; empty while one can.
+    [[nodiscard]] QString limitHelp() const;
     /// Of the active card; 0 when no card is.
     [[nodiscard]] int activeRow() const { return m_activeRow; }
 

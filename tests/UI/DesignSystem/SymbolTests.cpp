@@ -30,7 +30,9 @@ TEST(SymbolTests, TheScreensSymbolsAreKnownAndOthersAreSeenToBeUnknown) {
     EXPECT_EQ(unknown.size(), 1);
     for (const QString& name : {u"arrow.triangle.2.circlepath"_s,
                                 u"arrow.up.to.line"_s,
+                                u"arrow.uturn.backward"_s,
                                 u"arrow.uturn.backward.circle"_s,
+                                u"arrow.uturn.forward"_s,
                                 u"bolt.fill"_s,
                                 u"chart.xyaxis.line"_s,
                                 u"checkmark"_s,

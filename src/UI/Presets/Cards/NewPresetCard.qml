@@ -8,6 +8,7 @@ FocusScope {
     id: root
 
     required property bool canCreate
+    required property string limitHelp
     readonly property bool isHovering: pointer.hovered
     readonly property bool isLit: isHovering && canCreate
 
@@ -101,7 +102,7 @@ FocusScope {
     Tooltip {
         id: tip
 
-        text: root.canCreate ? "" : qsTrId("presets.limitReachedHelp")
+        text: root.limitHelp
         shown: root.isHovering
     }
 }

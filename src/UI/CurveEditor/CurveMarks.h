@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Core/FanCurve.h"
+#include "Shared/SMCKit/SMCFanReading.h"
+
+#include <QObject>
+#include <QPointF>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+#include <optional>
+
+namespace kestrowind {
+
+/// A text beside a place of the plot: the values of a point, or of one that a click would add.
+struct CurveCallout {
+    Q_GADGET
+    Q_PROPERTY(bool isShown MEMBER isShown CONSTANT FINAL)
+    Q_PROPERTY(QPointF position MEMBER position CONSTANT FINAL)
+    Q_PROPERTY(QString text MEMBER text CONSTANT FINAL)
+    QML_VALUE_TYPE(curveCallout)
+
+public:
+    bool isShown = false;
+    QPointF position = {}; ///< in the plot, points
+    QString text = {};
+
+    bool operator==(const CurveCallout&) const = default;
+
+    /// Whole degrees and percent, and with a fan what it would be asked for: an estimated speed, or
+    /// its automatic one at 0 %.
+    [[nodiscard]] static QString textOf(const FanCurvePoint& point,
+                                        const std::optional<SMCFanReading>& fan);
+};
+
+/// The temperature that drives the curve now, and what the curve makes of it.
+struct CurveLiveMarker {
+    Q_GADGET
+    Q_PROPERTY(bool isShown MEMBER isShown CONSTANT FINAL)
+    Q_PROPERTY(double x MEMBER x CONSTANT FINAL)
+    Q_PROPERTY(double operatingY MEMBER operatingY CONSTANT FINAL)
+    Q_PROPERTY(double labelX MEMBER labelX CONSTANT FINAL)
+    Q_PROPERTY(double temperature MEMBER temperature CONSTANT FINAL)
+    Q_PROPERTY(QString text MEMBER text CONSTANT FINAL)
+    QML_VALUE_TYPE(curveLiveMarker)
+
+public:
+    bool isShown = false;
+    double x = 0;           ///< in the plot, points; never outside of it
+    double operatingY = 0;  ///< where the curve is at this temperature
+    double labelX = 0;      ///< the label's centre
+    double temperature = 0; ///< as measured, degrees Celsius
+    QString text = {};
+
+    bool operator==(const CurveLiveMarker&) const = default;
+};
+
+} // namespace kestrowind

@@ -1,0 +1,101 @@
+#include "UI/CurveEditor/CurveShape.h"
+
+#include "Core/AssignIfChanged.h"
+#include "UI/CurveEditor/CurveOutline.h"
+#include "UI/DesignSystem/Palette.h"
+#include "UI/DesignSystem/SceneAppearance.h"
+#include "UI/DesignSystem/Spring.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QQmlEngine>
+
+namespace kestrowind {
+namespace {
+
+constexpr double lineWidth = 2.5;
+
+QColor withOpacity(QColor color, float opacity) {
+    color.setAlphaF(opacity);
+    return color;
+}
+
+/// Air is cyan where there is little of it and blue where there is much.
+QLinearGradient air(const QRectF& plot, float opacityAbove, float opacityBelow) {
+    const QGradientStops stops = Palette::fanGradientStops();
+    QLinearGradient gradient(plot.bottomLeft(), plot.topLeft());
+    gradient.setColorAt(0, withOpacity(stops.first().second, opacityBelow));
+    gradient.setColorAt(1, withOpacity(stops.last().second, opacityAbove));
+    return gradient;
+}
+
+} // namespace
+
+CurveShape::CurveShape(QQuickItem* parent)
+    : QQuickPaintedItem(parent) {
+    const SpringTiming spring = Springs::edit();
+    m_movement.setStartValue(0.0);
+    m_movement.setEndValue(1.0);
+    m_movement.setDuration(spring.duration);
+    m_movement.setEasingCurve(spring.easing);
+    connect(&m_movement, &QVariantAnimation::valueChanged, this, [this](const QVariant& progress) {
+        setOutline(CurveOutline::blended(m_start, m_end, progress.toDouble()));
+    });
+    connect(&m_movement, &QVariantAnimation::finished, this, [this] { setOutline(m_end); });
+}
+
+void CurveShape::setChart(FanCurveChartModel* chart) {
+    if (!assignIfChanged(m_chart, chart))
+        return;
+    connect(chart, &FanCurveChartModel::curveChanged, this, &CurveShape::takeCurve);
+    connect(chart, &FanCurveChartModel::plotChanged, this, [this] { update(); });
+    setOutline(CurveOutline::of(chart->curve()));
+    Q_EMIT chartChanged();
+}
+
+void CurveShape::takeCurve() {
+    m_start = m_outline;
+    m_end = CurveOutline::of(m_chart->curve());
+    m_movement.stop();
+    if (m_chart->motion() == FanCurveChartModel::Motion::Edit && isVisible() && window())
+        m_movement.start();
+    else
+        setOutline(m_end);
+}
+
+void CurveShape::setOutline(const QPolygonF& outline) {
+    if (assignIfChanged(m_outline, outline))
+        update();
+}
+
+void CurveShape::paint(QPainter* painter) {
+    if (!m_chart || m_outline.isEmpty())
+        return;
+    const CurvePlotGeometry geometry = m_chart->geometry();
+    const QRectF plot({0, 0}, geometry.plotSize);
+    if (plot.isEmpty())
+        return;
+    const bool isDark = SceneAppearance::of(*qmlEngine(this)).isDark();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(bleed(), bleed());
+    const QPolygonF line = geometry.line(m_outline);
+
+    // Stored points may lie outside of the axes.
+    painter->setClipRect(plot);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(air(plot, isDark ? 0.42F : 0.36F, isDark ? 0.06F : 0.05F));
+    painter->drawPolygon(geometry.area(line));
+
+    painter->setClipRect(plot.adjusted(-bleed(), -bleed(), bleed(), bleed()));
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(air(plot, 1, 1), lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPolyline(line);
+}
+
+void CurveShape::componentComplete() {
+    QQuickPaintedItem::componentComplete();
+    connect(&SceneAppearance::of(*qmlEngine(this)), &SceneAppearance::colorSchemeChanged, this,
+            [this] { update(); });
+}
+
+} // namespace kestrowind

@@ -1,0 +1,297 @@
+#include "UI/Curves/CurvesModel.h"
+
+#include "Core/AppState.h"
+#include "Core/AssignIfChanged.h"
+#include "Core/LocalizedText.h"
+#include "UI/Curves/CurveEditHistory.h"
+#include "UI/DesignSystem/VisibilityWatch.h"
+
+#include <QKeySequence>
+
+#include <algorithm>
+
+namespace kestrowind {
+namespace {
+
+FanCurve displayedCurve(const FanPreset& preset) {
+    return preset.curves.value(0);
+}
+
+QString withKeys(const char* key, const QKeySequence& keys) {
+    return localized(key).arg(keys.toString(QKeySequence::NativeText));
+}
+
+} // namespace
+
+CurvesModel::CurvesModel(AppState& appState, CurveEditHistory& history, QObject* parent)
+    : QObject(parent)
+    , m_appState(appState)
+    , m_history(history) {
+    const PresetStore& presets = appState.presets();
+    connect(&presets, &PresetStore::presetsChanged, this, &CurvesModel::refresh);
+    connect(&presets, &PresetStore::activePresetIDChanged, this, &CurvesModel::refresh);
+    // The history changes with every sample, once the store has taken in all of it.
+    connect(&appState.telemetry(), &TelemetryStore::historyChanged, this,
+            &CurvesModel::refreshTelemetry);
+    connect(&m_chart, &FanCurveChartModel::movePoint, this, &CurvesModel::movePoint);
+    connect(&m_chart, &FanCurveChartModel::addPoint, this, &CurvesModel::addPoint);
+    connect(&m_chart, &FanCurveChartModel::deletePointRequested, this, &CurvesModel::deletePoint);
+    connect(&m_chart, &FanCurveChartModel::dragCancelled, this, &CurvesModel::forgetDraft);
+
+    if (const auto selected = selectedPreset())
+        m_selectedPresetID = selected->id;
+    refresh();
+    refreshTelemetry();
+}
+
+CurvesModel::~CurvesModel() = default;
+
+// --- the preset that is shown -------------------------------------------------------------------
+
+std::optional<FanPreset> CurvesModel::selectedPreset() const {
+    const PresetStore& store = m_appState.presets();
+    if (m_selectedPresetID) {
+        if (auto selected = store.preset(*m_selectedPresetID))
+            return selected;
+    }
+    if (auto active = store.activePreset())
+        return active;
+    const QList<FanPreset>& presets = store.presets();
+    const auto user = std::ranges::find(presets, false, &FanPreset::isBuiltIn);
+    if (user != presets.end())
+        return *user;
+    return presets.isEmpty() ? std::nullopt : std::optional(presets.first());
+}
+
+void CurvesModel::setSelectedPresetID(const std::optional<QUuid>& id) {
+    if (!assignIfChanged(m_selectedPresetID, id))
+        return;
+    m_draftPreset.reset();
+    refresh();
+}
+
+std::optional<FanPreset> CurvesModel::displayedPreset() const {
+    return m_draftPreset ? m_draftPreset : selectedPreset();
+}
+
+const FanPreset& CurvesModel::shown() const {
+    static const FanPreset none;
+    return m_shown ? *m_shown : none;
+}
+
+QString CurvesModel::builtInNote() const {
+    return isBuiltIn() ? localized("curves.builtInNote").arg(presetName()) : QString();
+}
+
+QString CurvesModel::chartHelp() const {
+    return localized(isBuiltIn() ? "curves.chart.readOnlyHelp" : "curves.chart.editableHelp");
+}
+
+bool CurvesModel::canAddPreset() const {
+    return m_appState.presets().canAddPreset();
+}
+
+QString CurvesModel::customizeHelp() const {
+    return canAddPreset()
+               ? QString()
+               : localized("presets.limitReachedHelp").arg(PresetStore::maximumUserPresets);
+}
+
+void CurvesModel::selectUserPreset(int row) {
+    if (row >= 0 && row < m_userPresets.rowCount())
+        setSelectedPresetID(m_userPresets.choices()[row].id);
+}
+
+void CurvesModel::selectBuiltInPreset(int row) {
+    if (row >= 0 && row < m_builtInPresets.rowCount())
+        setSelectedPresetID(m_builtInPresets.choices()[row].id);
+}
+
+void CurvesModel::createPreset() {
+    if (!canAddPreset())
+        return;
+    if (const auto added = m_appState.presets().addPreset(newPresetName()))
+        setSelectedPresetID(added->id);
+}
+
+void CurvesModel::duplicateForEditing() {
+    const auto displayed = displayedPreset();
+    if (!displayed || !displayed->isBuiltIn)
+        return;
+    if (const auto copy = m_appState.presets().duplicate(*displayed))
+        setSelectedPresetID(copy->id);
+}
+
+QString CurvesModel::newPresetName() const {
+    const QList<FanPreset>& presets = m_appState.presets().presets();
+    QString name = localized("curves.newPresetName.base");
+    for (int number = 2; std::ranges::find(presets, name, &FanPreset::name) != presets.end();
+         ++number)
+        name = localized("curves.newPresetName.numbered").arg(number);
+    return name;
+}
+
+// --- edits --------------------------------------------------------------------------------------
+
+std::optional<FanPreset> CurvesModel::editablePreset() const {
+    auto preset = displayedPreset();
+    return preset && !preset->isBuiltIn ? preset : std::nullopt;
+}
+
+qsizetype CurvesModel::fanCount() const {
+    const auto& latest = m_appState.telemetry().latest();
+    return latest && !latest->fans.empty() ? static_cast<qsizetype>(latest->fans.size()) : 1;
+}
+
+FanPreset CurvesModel::withCurve(FanPreset preset, const FanCurve& curve) const {
+    preset.curves = QList<FanCurve>(fanCount(), curve);
+    return preset;
+}
+
+void CurvesModel::movePoint(int index, double temperature, double percent, bool isFinal) {
+    const auto preset = editablePreset();
+    if (!preset)
+        return;
+    FanCurve curve = displayedCurve(*preset);
+    curve.move(index, {.tempC = std::clamp(temperature, FanCurve::lowestTemperature,
+                                           FanCurve::highestTemperature),
+                       .percent = std::clamp(percent, 0.0, FanCurve::highestPercent)});
+    const FanPreset edited = withCurve(*preset, curve);
+    if (isFinal) {
+        commit(edited);
+    } else {
+        m_draftPreset = edited;
+        refresh();
+    }
+}
+
+void CurvesModel::addPoint(double temperature, double percent) {
+    const auto preset = editablePreset();
+    if (!preset)
+        return;
+    FanCurve curve = displayedCurve(*preset);
+    if (!curve.hasRoomAt(temperature))
+        return;
+    curve.insert({.tempC = temperature, .percent = percent});
+    commit(withCurve(*preset, curve));
+}
+
+void CurvesModel::deletePoint(int index) {
+    const auto preset = editablePreset();
+    if (!preset)
+        return;
+    FanCurve curve = displayedCurve(*preset);
+    if (curve.points().size() <= 1 || index < 0 || index >= curve.points().size())
+        return;
+    curve.remove(index);
+    commit(withCurve(*preset, curve));
+}
+
+void CurvesModel::commit(const FanPreset& edited) {
+    if (const auto stored = m_appState.presets().preset(edited.id))
+        m_history.record(edited.id, stored->curves, edited.curves);
+    storeAndPush(edited);
+}
+
+void CurvesModel::storeAndPush(const FanPreset& preset) {
+    // Until the store has it, so that the old curve does not show in between.
+    m_draftPreset = preset;
+    m_appState.presets().update(preset);
+    m_draftPreset.reset();
+    refresh();
+    m_appState.engine().pushSoon();
+}
+
+void CurvesModel::forgetDraft() {
+    m_draftPreset.reset();
+    refresh();
+}
+
+bool CurvesModel::canUndo() const {
+    return !m_draftPreset && m_shown && m_history.canUndo(m_shown->id, m_shown->curves);
+}
+
+bool CurvesModel::canRedo() const {
+    return !m_draftPreset && m_shown && m_history.canRedo(m_shown->id, m_shown->curves);
+}
+
+QString CurvesModel::undoHelp() {
+    return withKeys("curves.undoHelp", Qt::CTRL | Qt::Key_Z);
+}
+
+QString CurvesModel::redoHelp() {
+    return withKeys("curves.redoHelp", Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+}
+
+void CurvesModel::undo() {
+    if (!canUndo())
+        return;
+    FanPreset preset = shown();
+    preset.curves = *m_history.undo(preset.id, preset.curves);
+    storeAndPush(preset);
+}
+
+void CurvesModel::redo() {
+    if (!canRedo())
+        return;
+    FanPreset preset = shown();
+    preset.curves = *m_history.redo(preset.id, preset.curves);
+    storeAndPush(preset);
+}
+
+// --- what is seen -------------------------------------------------------------------------------
+
+void CurvesModel::setView(QQuickItem* view) {
+    if (!assignIfChanged(m_view, view))
+        return;
+    m_visibility.reset();
+    if (view) {
+        m_visibility = std::make_unique<VisibilityWatch>(*view);
+        connect(m_visibility.get(), &VisibilityWatch::isSeenChanged, this,
+                &CurvesModel::refreshTelemetry);
+        connect(view, &QObject::destroyed, this, [this] { m_visibility.reset(); });
+    }
+    refreshTelemetry();
+    Q_EMIT viewChanged();
+}
+
+void CurvesModel::refresh() {
+    // A draft of what is gone is no use to anybody.
+    if (m_draftPreset && !m_appState.presets().preset(m_draftPreset->id))
+        m_draftPreset.reset();
+    const QUuid shownBefore = shown().id;
+    m_shown = displayedPreset();
+    if (shown().id != shownBefore)
+        m_chart.startOver();
+    refreshChoices();
+    m_chart.setIsEditable(m_shown && !m_shown->isBuiltIn);
+    m_chart.setCurve(displayedCurve(shown()));
+    Q_EMIT presetChanged();
+}
+
+void CurvesModel::refreshChoices() {
+    const auto selected = selectedPreset();
+    QList<PresetChoices::Choice> user;
+    QList<PresetChoices::Choice> builtIn;
+    for (const FanPreset& preset : m_appState.presets().presets()) {
+        (preset.isBuiltIn ? builtIn : user)
+            .append({.id = preset.id,
+                     .name = preset.name,
+                     .symbolName = preset.symbolName,
+                     .isSelected = selected && preset.id == selected->id});
+    }
+    m_userPresets.setChoices(user);
+    m_builtInPresets.setChoices(builtIn);
+}
+
+void CurvesModel::refreshTelemetry() {
+    if (m_visibility && !m_visibility->isSeen())
+        return;
+    const TelemetryStore& telemetry = m_appState.telemetry();
+    m_chart.setLiveTemperature(telemetry.systemTemperature());
+    const auto& latest = telemetry.latest();
+    m_chart.setFanReading(latest && !latest->fans.empty() ? std::optional(latest->fans.front())
+                                                          : std::nullopt);
+}
+
+} // namespace kestrowind

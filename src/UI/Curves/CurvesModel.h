@@ -1,0 +1,130 @@
+#pragma once
+
+#include "Core/FanPreset.h"
+#include "UI/CurveEditor/FanCurveChartModel.h"
+#include "UI/Curves/PresetChoices.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+#include <optional>
+
+namespace kestrowind {
+
+class AppState;
+class CurveEditHistory;
+class VisibilityWatch;
+
+/// The curves screen: which preset is shown, and every edit of its curve. One curve drives every
+/// fan: an edit takes the preset's first curve and writes it back once for each fan.
+///
+/// While a point is dragged, its steps are in `draftPreset` alone; all other edits are stored and
+/// pushed to the fans at once. Belongs to the main thread.
+class CurvesModel final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(bool hasPreset READ hasPreset NOTIFY presetChanged FINAL)
+    Q_PROPERTY(QString presetName READ presetName NOTIFY presetChanged FINAL)
+    Q_PROPERTY(QString presetSymbolName READ presetSymbolName NOTIFY presetChanged FINAL)
+    Q_PROPERTY(bool isBuiltIn READ isBuiltIn NOTIFY presetChanged FINAL)
+    Q_PROPERTY(QString builtInNote READ builtInNote NOTIFY presetChanged FINAL)
+    Q_PROPERTY(QString chartHelp READ chartHelp NOTIFY presetChanged FINAL)
+    Q_PROPERTY(bool canAddPreset READ canAddPreset NOTIFY presetChanged FINAL)
+    Q_PROPERTY(QString customizeHelp READ customizeHelp NOTIFY presetChanged FINAL)
+    Q_PROPERTY(bool canUndo READ canUndo NOTIFY presetChanged FINAL)
+    Q_PROPERTY(bool canRedo READ canRedo NOTIFY presetChanged FINAL)
+    Q_PROPERTY(QString undoHelp READ undoHelp CONSTANT FINAL)
+    Q_PROPERTY(QString redoHelp READ redoHelp CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::PresetChoices* userPresets READ userPresets CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::PresetChoices* builtInPresets READ builtInPresets CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart CONSTANT FINAL)
+    Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("made with the application's state")
+
+public:
+    /// Both must outlive the model; the history is that of the whole run of the application.
+    CurvesModel(AppState& appState, CurveEditHistory& history, QObject* parent = nullptr);
+    ~CurvesModel() override;
+
+    /// The preset chosen here if it exists, else the active one, else the first user preset, else
+    /// the first preset.
+    [[nodiscard]] std::optional<FanPreset> selectedPreset() const;
+    [[nodiscard]] const std::optional<QUuid>& selectedPresetID() const {
+        return m_selectedPresetID;
+    }
+    void setSelectedPresetID(const std::optional<QUuid>& id);
+    /// The preset in the middle of a drag; nothing of it is stored.
+    [[nodiscard]] const std::optional<FanPreset>& draftPreset() const { return m_draftPreset; }
+    /// The draft, else the selected one.
+    [[nodiscard]] std::optional<FanPreset> displayedPreset() const;
+
+    [[nodiscard]] bool hasPreset() const { return m_shown.has_value(); }
+    [[nodiscard]] QString presetName() const { return shown().name; }
+    [[nodiscard]] QString presetSymbolName() const { return shown().symbolName; }
+    [[nodiscard]] bool isBuiltIn() const { return shown().isBuiltIn; }
+    [[nodiscard]] QString builtInNote() const;
+    [[nodiscard]] QString chartHelp() const;
+    [[nodiscard]] bool canAddPreset() const;
+    /// Why there can be no copy; empty when there can.
+    [[nodiscard]] QString customizeHelp() const;
+    [[nodiscard]] bool canUndo() const;
+    [[nodiscard]] bool canRedo() const;
+    /// The command with its keys as the platform writes them.
+    [[nodiscard]] static QString undoHelp();
+    [[nodiscard]] static QString redoHelp();
+    [[nodiscard]] PresetChoices* userPresets() { return &m_userPresets; }
+    [[nodiscard]] PresetChoices* builtInPresets() { return &m_builtInPresets; }
+    [[nodiscard]] FanCurveChartModel* chart() { return &m_chart; }
+
+    Q_INVOKABLE void selectUserPreset(int row);
+    Q_INVOKABLE void selectBuiltInPreset(int row);
+    /// Adds a preset under a name that no other has, and selects it. It is not activated.
+    Q_INVOKABLE void createPreset();
+    /// Selects an editable copy of the displayed built-in.
+    Q_INVOKABLE void duplicateForEditing();
+    Q_INVOKABLE void undo();
+    Q_INVOKABLE void redo();
+
+    /// The item that shows the model; without one the model counts as seen.
+    [[nodiscard]] QQuickItem* view() const { return m_view; }
+    void setView(QQuickItem* view);
+
+Q_SIGNALS:
+    /// The preset that is shown, or what can be done with it, is another.
+    void presetChanged();
+    void viewChanged();
+
+private:
+    void movePoint(int index, double temperature, double percent, bool isFinal);
+    void addPoint(double temperature, double percent);
+    void deletePoint(int index);
+    void forgetDraft();
+
+    [[nodiscard]] std::optional<FanPreset> editablePreset() const;
+    [[nodiscard]] FanPreset withCurve(FanPreset preset, const FanCurve& curve) const;
+    [[nodiscard]] const FanPreset& shown() const;
+    [[nodiscard]] qsizetype fanCount() const;
+    [[nodiscard]] QString newPresetName() const;
+    /// Stores an edit and asks for a push.
+    void commit(const FanPreset& edited);
+    void storeAndPush(const FanPreset& preset);
+    void refresh();
+    void refreshChoices();
+    void refreshTelemetry();
+
+    AppState& m_appState;
+    CurveEditHistory& m_history;
+    std::optional<QUuid> m_selectedPresetID;
+    std::optional<FanPreset> m_draftPreset;
+    std::optional<FanPreset> m_shown; ///< the displayed preset as of the last refresh
+    PresetChoices m_userPresets;
+    PresetChoices m_builtInPresets;
+    FanCurveChartModel m_chart;
+    QPointer<QQuickItem> m_view;
+    std::unique_ptr<VisibilityWatch> m_visibility;
+};
+
+} // namespace kestrowind

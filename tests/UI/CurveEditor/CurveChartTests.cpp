@@ -1,0 +1,184 @@
+#include "UI/CurveEditor/CurveOwner.h"
+
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A plot of 450 by 200: 5 points a degree, 2 a percent.
+class CurveChart : public testing::Test {
+protected:
+    CurveChart() { chart.setSize({450 + 64, 200 + 44}); }
+
+    CurveOwner owner{FanCurve({{40, 20}, {60, 50}, {80, 100}})};
+    FanCurveChartModel& chart = owner.chart;
+};
+
+TEST_F(CurveChart, ShowsTheTemperatureAndWhatTheCurveMakesOfIt) {
+    EXPECT_FALSE(chart.live().isShown);
+    QSignalSpy motion(&chart, &FanCurveChartModel::motionChanged);
+    chart.setLiveTemperature(49);
+    EXPECT_EQ(motion.size(), 0) << "it does not fly in";
+    chart.setLiveTemperature(51);
+    EXPECT_EQ(motion.size(), 2) << "but glides on";
+    struct Row {
+        double temperature;
+        double x;
+        double y;
+        double labelX;
+        QString text;
+    };
+    for (const auto& [temperature, x, y, labelX, text] : {
+             Row{50, 150, 200 - 70, 150, u"50 °C"_s},
+             Row{130, 450, 0, 426, u"130 °C"_s},
+             Row{10, 0, 200, 24, u"10 °C"_s},
+         }) {
+        chart.setLiveTemperature(temperature);
+        const CurveLiveMarker live = chart.live();
+        EXPECT_TRUE(live.isShown);
+        EXPECT_DOUBLE_EQ(live.x, x) << temperature;
+        EXPECT_DOUBLE_EQ(live.operatingY, y) << temperature;
+        EXPECT_DOUBLE_EQ(live.labelX, labelX) << temperature;
+        EXPECT_EQ(live.text, text);
+    }
+    chart.setLiveTemperature(std::nullopt);
+    EXPECT_FALSE(chart.live().isShown);
+}
+
+TEST_F(CurveChart, ShowsWhatAClickWouldAddAndTheValuesOfWhatIsPointedAt) {
+    chart.setHoverLocation(QPointF(50, 41));
+    EXPECT_TRUE(chart.ghost().isShown);
+    EXPECT_EQ(chart.ghost().text, u"30 °C · 80%"_s);
+    EXPECT_FALSE(chart.isIdle());
+    EXPECT_FALSE(chart.callout().isShown);
+    chart.setHoverLocation(QPointF(210, 100));
+    EXPECT_FALSE(chart.ghost().isShown);
+    EXPECT_EQ(chart.hoveredPoint(), 1);
+    EXPECT_EQ(chart.callout().text, u"60 °C · 50%"_s);
+    chart.setHoverLocation(std::nullopt);
+    EXPECT_EQ(chart.hoveredPoint(), -1);
+    EXPECT_FALSE(chart.callout().isShown);
+    EXPECT_TRUE(chart.isIdle());
+
+    chart.setIsEditable(false);
+    for (const QPointF& position : {QPointF(50, 41), QPointF(200, 100)}) {
+        chart.setHoverLocation(position);
+        EXPECT_FALSE(chart.ghost().isShown);
+        EXPECT_FALSE(chart.callout().isShown);
+        chart.click(position);
+        chart.drag(1, position);
+        chart.release(position);
+        chart.deletePoint(1);
+    }
+    EXPECT_TRUE(owner.said.isEmpty());
+}
+
+TEST_F(CurveChart, FollowsADragAndForgetsACancelledOne) {
+    QSignalSpy motion(&chart, &FanCurveChartModel::motionChanged);
+    chart.setHoverLocation(QPointF(50, 41));
+    chart.drag(1, {250, 60});
+    EXPECT_EQ(owner.said.takeLast(), u"step 1: 70 70"_s);
+    EXPECT_FALSE(chart.ghost().isShown) << "nothing is added while dragging";
+    EXPECT_EQ(chart.callout().text, u"70 °C · 70%"_s);
+    chart.drag(1, {800, -50});
+    EXPECT_EQ(chart.callout().text, u"79 °C · 100%"_s) << "held by its neighbour";
+    EXPECT_EQ(motion.size(), 0) << "it is where the pointer is, at once";
+    chart.release({250, 60});
+    EXPECT_EQ(owner.said.takeLast(), u"move 1: 70 70"_s);
+    EXPECT_EQ(chart.draggedPoint(), -1);
+
+    const FanCurve before = chart.curve();
+    chart.drag(2, {300, 30});
+    EXPECT_NE(chart.curve(), before);
+    chart.cancelDrag();
+    EXPECT_EQ(chart.curve(), before);
+    EXPECT_EQ(motion.size(), 2) << "springs back";
+    owner.said.clear();
+    chart.release({300, 30});
+    EXPECT_TRUE(owner.said.isEmpty());
+
+    // The point is taken away under the pointer.
+    chart.drag(2, {300, 30});
+    chart.setCurve(FanCurve({{20, 100}}));
+    EXPECT_EQ(chart.draggedPoint(), -1);
+}
+
+TEST_F(CurveChart, TakesEditsFromTheKeyboard) {
+    struct Row {
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        QString edit;
+    };
+    const Row rows[] = {
+        {Qt::Key_Right, Qt::NoModifier, u"move 1: 61 50"_s},
+        {Qt::Key_Left, Qt::ShiftModifier, u"move 1: 56 50"_s},
+        {Qt::Key_Up, Qt::KeypadModifier, u"move 1: 56 51"_s},
+        {Qt::Key_Down, Qt::ShiftModifier, u"move 1: 56 46"_s},
+        {Qt::Key_N, Qt::NoModifier, u"add: 68 73"_s},
+        {Qt::Key_Delete, Qt::NoModifier, u"delete 2"_s},
+        {Qt::Key_Insert, Qt::NoModifier, u"add: 95 100"_s}, // after the last: half of the flat part
+        {Qt::Key_Backspace, Qt::NoModifier, u"delete 3"_s},
+    };
+    chart.setCurrentPoint(1);
+    for (const auto& [key, modifiers, edit] : rows) {
+        EXPECT_TRUE(chart.pressKey(chart.currentPoint(), key, modifiers));
+        EXPECT_EQ(owner.takeEdits(), QStringList{edit});
+    }
+    EXPECT_EQ(chart.currentPoint(), 2) << "the last point is the one before the deleted one";
+    EXPECT_FALSE(chart.pressKey(1, Qt::Key_Z, Qt::ControlModifier));
+    EXPECT_FALSE(chart.pressKey(1, Qt::Key_Right, Qt::ControlModifier));
+    EXPECT_FALSE(chart.pressKey(1, Qt::Key_Tab, Qt::NoModifier));
+    EXPECT_FALSE(chart.pressKey(7, Qt::Key_Right, Qt::NoModifier));
+}
+
+TEST_F(CurveChart, ChoosesPointsByKeyAlsoWhereNothingCanBeEdited) {
+    for (const bool isEditable : {true, false}) {
+        chart.setIsEditable(isEditable);
+        chart.setCurrentPoint(0);
+        for (const auto& [key, current] :
+             {std::pair(Qt::Key_PageUp, 0), std::pair(Qt::Key_PageDown, 1),
+              std::pair(Qt::Key_End, 2), std::pair(Qt::Key_PageDown, 2),
+              std::pair(Qt::Key_PageUp, 1), std::pair(Qt::Key_Home, 0)}) {
+            EXPECT_TRUE(chart.pressKey(chart.currentPoint(), key, Qt::NoModifier));
+            EXPECT_EQ(chart.currentPoint(), current);
+        }
+    }
+    EXPECT_FALSE(chart.pressKey(0, Qt::Key_Right, Qt::NoModifier)) << "the page may scroll";
+    EXPECT_FALSE(chart.pressKey(0, Qt::Key_Delete, Qt::NoModifier));
+    EXPECT_TRUE(owner.said.isEmpty());
+    chart.setHasKeyboardFocus(true);
+    EXPECT_EQ(chart.callout().text, u"40 °C · 20%"_s);
+}
+
+TEST_F(CurveChart, AddsByKeyOnlyWhereThereIsRoom) {
+    chart.setCurve(FanCurve({{40, 20}, {43, 20}, {110, 100}}));
+    EXPECT_TRUE(chart.pressKey(0, Qt::Key_N, Qt::NoModifier));
+    EXPECT_TRUE(chart.pressKey(2, Qt::Key_N, Qt::NoModifier));
+    EXPECT_TRUE(owner.said.isEmpty());
+}
+
+TEST_F(CurveChart, KeepsWhatShowsAPointWithIt) {
+    QSignalSpy inserted(chart.points(), &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(chart.points(), &QAbstractItemModel::rowsRemoved);
+    const auto value = [&](int row, int role) {
+        return chart.points()->data(chart.points()->index(row), role);
+    };
+    chart.setCurve(FanCurve({{40, 20}, {50, 90}, {60, 50}, {80, 100}}));
+    ASSERT_EQ(inserted.size(), 1);
+    EXPECT_EQ(inserted[0][1].toInt(), 1);
+    EXPECT_EQ(value(2, CurvePointRows::SpokenLabelRole), u"Point 3"_s);
+    EXPECT_EQ(value(2, CurvePointRows::SpokenValueRole), u"60 °C, 50 percent"_s);
+    chart.setCurve(FanCurve({{40, 20}, {50, 90}, {80, 100}}));
+    ASSERT_EQ(removed.size(), 1);
+    EXPECT_EQ(removed[0][1].toInt(), 2);
+    EXPECT_EQ(value(2, CurvePointRows::XRole), 300);
+    chart.setSize({900 + 64, 200 + 44});
+    EXPECT_EQ(value(2, CurvePointRows::XRole), 600);
+}
+
+} // namespace
+} // namespace kestrowind

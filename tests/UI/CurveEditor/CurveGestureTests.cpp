@@ -1,0 +1,248 @@
+#include "UI/CurveEditor/CurveGestureArea.h"
+#include "UI/CurveEditor/CurveOwner.h"
+#include "UI/CurveEditor/CurveShape.h"
+
+#include <QAccessible>
+#include <QPointingDevice>
+#include <QQmlEngine>
+#include <QQuickView>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+#include <gmock/gmock.h>
+
+Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
+Q_IMPORT_QML_PLUGIN(Kestrowind_CurveEditorPlugin)
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The chart in a window with real events; 5 points a degree, 2 a percent.
+class CurveGestures : public testing::Test {
+protected:
+    CurveGestures() {
+        view.engine()->addImportPath(u"qrc:/qt/qml"_s);
+        view.setInitialProperties({{u"model"_s, QVariant::fromValue(&chart)}});
+        view.setResizeMode(QQuickView::SizeRootObjectToView);
+        view.setSource(QUrl(u"qrc:/qt/qml/Kestrowind/CurveEditor/FanCurveChart.qml"_s));
+        view.resize(450 + 64, 200 + 44);
+        view.show();
+        view.requestActivate();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+    }
+
+    static QPoint at(double temperature, double percent) {
+        return {46 + qRound((temperature - 20) * 5), 18 + qRound((100 - percent) * 2)};
+    }
+    void press(const QPoint& point, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mousePress(&view, button, Qt::NoModifier, point);
+    }
+    void move(const QPoint& point) { QTest::mouseMove(&view, point); }
+    void release(const QPoint& point) {
+        QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, point);
+    }
+    void click(const QPoint& point) {
+        press(point);
+        release(point);
+    }
+    [[nodiscard]] QQuickItem* handle(int index) {
+        return itemNamed(view.rootObject(), u"Point %1"_s.arg(index + 1));
+    }
+
+    CurveOwner owner{FanCurve({{40, 20}, {60, 50}, {80, 100}})};
+    FanCurveChartModel& chart = owner.chart;
+    QQuickView view;
+
+private:
+    static QQuickItem* itemNamed(QQuickItem* below, const QString& name) {
+        for (QQuickItem* child : below->childItems()) {
+            const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(child);
+            if (spoken && spoken->text(QAccessible::Name) == name)
+                return child;
+            if (QQuickItem* item = itemNamed(child, name))
+                return item;
+        }
+        return nullptr;
+    }
+};
+
+TEST_F(CurveGestures, DragPointsAndLetThemGoWhereTheyAre) {
+    press(at(60, 50));
+    move(at(60, 50) + QPoint(1, 1));
+    EXPECT_TRUE(owner.said.isEmpty()) << "a hand that trembles does not drag";
+    move(at(70, 70));
+    EXPECT_EQ(chart.draggedPoint(), 1);
+    move({-50, 900}); // out of the window
+    EXPECT_EQ(chart.curve().points()[1], (FanCurvePoint{41, 0})) << "up to its neighbour";
+    move(at(65, 60));
+    release(at(65, 60));
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"move 1: 65 60"_s});
+    EXPECT_EQ(chart.draggedPoint(), -1);
+
+    press(at(65, 60));
+    release(at(65, 60));
+    EXPECT_TRUE(owner.takeEdits().isEmpty()) << "a click on a point is no edit";
+}
+
+TEST_F(CurveGestures, AddByAClickAndDeleteByADoubleClick) {
+    click(at(30, 80));
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"add: 30 80"_s});
+    click(at(30, 80) + QPoint(9, 0));
+    EXPECT_TRUE(owner.takeEdits().isEmpty()) << "too close";
+    press(at(95, 20));
+    move(at(95, 20) + QPoint(30, 0));
+    release(at(95, 20) + QPoint(30, 0));
+    EXPECT_TRUE(owner.takeEdits().isEmpty()) << "a movement is no click";
+    click({10, 100});
+    EXPECT_TRUE(owner.takeEdits().isEmpty()) << "outside of the plot";
+
+    QTest::mouseDClick(&view, Qt::LeftButton, Qt::NoModifier, at(60, 50));
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"delete 2"_s});
+    QTest::mouseDClick(&view, Qt::LeftButton, Qt::NoModifier, at(95, 20));
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"add: 95 20"_s}) << "and does not delete it again";
+    EXPECT_EQ(chart.draggedPoint(), -1);
+}
+
+TEST_F(CurveGestures, EndAsIfTheyHadNotBegun) {
+    const FanCurve before = chart.curve();
+    const auto drag = [&] {
+        press(at(60, 50));
+        move(at(70, 70));
+        move(at(70, 71));
+        EXPECT_EQ(chart.draggedPoint(), 1);
+        owner.said.clear();
+    };
+    drag();
+    QTest::keyClick(&view, Qt::Key_Escape);
+    EXPECT_EQ(chart.curve(), before);
+    move(at(75, 75));
+    release(at(75, 75));
+    EXPECT_EQ(owner.said, QStringList{u"cancel"_s}) << "the rest of the movement means nothing";
+
+    drag();
+    auto* area = view.rootObject()->findChild<CurveGestureArea*>();
+    ASSERT_NE(area, nullptr);
+    area->ungrabMouse();
+    EXPECT_EQ(owner.said, QStringList{u"cancel"_s}) << "taken by another";
+    release(at(70, 71));
+
+    drag();
+    view.rootObject()->setVisible(false);
+    EXPECT_EQ(owner.said, QStringList{u"cancel"_s});
+    view.rootObject()->setVisible(true);
+    release(at(70, 71));
+
+    drag();
+    view.hide();
+    EXPECT_EQ(owner.said, QStringList{u"cancel"_s});
+    EXPECT_EQ(chart.curve(), before);
+}
+
+TEST_F(CurveGestures, WorkByTouch) {
+    const std::unique_ptr<QPointingDevice> screen(QTest::createTouchDevice());
+    QTest::touchEvent(&view, screen.get()).press(0, at(60, 50) + QPoint(15, 12));
+    QTest::touchEvent(&view, screen.get()).move(0, at(66, 60));
+    QTest::touchEvent(&view, screen.get()).move(0, at(70, 70));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.draggedPoint() == 1; }, 3000));
+    QTest::touchEvent(&view, screen.get()).release(0, at(70, 70));
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"move 1: 70 70"_s});
+    EXPECT_FALSE(chart.ghost().isShown) << "a finger does not hover";
+
+    QSignalSpy menu(&chart, &FanCurveChartModel::contextMenuRequested);
+    QTest::touchEvent(&view, screen.get()).press(0, at(70, 70));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.size() == 1; }, 3000)) << "a finger that rests";
+    QTest::touchEvent(&view, screen.get()).release(0, at(70, 70));
+    EXPECT_TRUE(owner.takeEdits().isEmpty());
+}
+
+TEST_F(CurveGestures, OpenAMenuForThePointUnderThePointerOnly) {
+    QSignalSpy menu(&chart, &FanCurveChartModel::contextMenuRequested);
+    QTest::mouseClick(&view, Qt::RightButton, Qt::NoModifier, at(95, 20));
+    EXPECT_EQ(menu.size(), 0);
+    QTest::mouseClick(&view, Qt::RightButton, Qt::NoModifier, at(60, 50));
+    ASSERT_EQ(menu.size(), 1);
+    EXPECT_EQ(menu[0][0].toInt(), 1);
+    QTest::keyClick(&view, Qt::Key_Down);
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return owner.said == QStringList{u"delete 1"_s}; }, 3000));
+}
+
+TEST_F(CurveGestures, AreDeafOnAReadOnlyCurve) {
+    chart.setIsEditable(false);
+    QSignalSpy menu(&chart, &FanCurveChartModel::contextMenuRequested);
+    move(at(30, 80));
+    EXPECT_FALSE(chart.ghost().isShown);
+    click(at(30, 80));
+    QTest::mouseDClick(&view, Qt::LeftButton, Qt::NoModifier, at(60, 50));
+    QTest::mouseClick(&view, Qt::RightButton, Qt::NoModifier, at(60, 50));
+    press(at(60, 50));
+    move(at(70, 70));
+    release(at(70, 70));
+    EXPECT_TRUE(owner.said.isEmpty());
+    EXPECT_EQ(menu.size(), 0);
+}
+
+TEST_F(CurveGestures, HoverShowsTheGhostUntilThePointerLeaves) {
+    move(at(30, 80));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.ghost().isShown; }, 3000));
+    move(at(60, 50));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.hoveredPoint() == 1; }, 3000));
+    move({5, 5});
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return chart.hoveredPoint() == -1 && !chart.ghost().isShown; }, 3000));
+}
+
+TEST_F(CurveGestures, TheKeyboardComesToTheFirstPointAndStaysWithItsPoint) {
+    QTest::keyClick(&view, Qt::Key_Tab);
+    ASSERT_EQ(view.activeFocusItem(), handle(0));
+    EXPECT_TRUE(chart.hasKeyboardFocus());
+    EXPECT_TRUE(chart.callout().isShown);
+    QTest::keyClick(&view, Qt::Key_PageDown);
+    EXPECT_EQ(view.activeFocusItem(), handle(1));
+    QTest::keyClick(&view, Qt::Key_Right);
+    QTest::keyClick(&view, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(owner.takeEdits(), (QStringList{u"move 1: 61 50"_s, u"move 1: 61 55"_s}));
+    EXPECT_EQ(view.activeFocusItem(), handle(1));
+
+    const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(handle(1));
+    EXPECT_EQ(spoken->role(), QAccessible::Slider);
+    EXPECT_EQ(spoken->text(QAccessible::Description), u"61 °C, 55 percent"_s);
+    auto* value = const_cast<QAccessibleInterface*>(spoken)->valueInterface();
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(value->currentValue(), u"61 °C, 55 percent"_s);
+    EXPECT_TRUE(spoken->state().focused);
+
+    QTest::keyClick(&view, Qt::Key_N);
+    EXPECT_EQ(chart.currentPoint(), 2);
+    EXPECT_EQ(view.activeFocusItem(), handle(2)) << "the new point";
+    for (const int next : {2, 1, 0}) {
+        QTest::keyClick(&view, Qt::Key_Delete);
+        EXPECT_EQ(view.activeFocusItem(), handle(next));
+    }
+    // A click takes the keyboard along, without a ring until a key is pressed.
+    press(at(40, 20));
+    release(at(40, 20));
+    EXPECT_FALSE(chart.hasKeyboardFocus());
+    QTest::keyClick(&view, Qt::Key_Left);
+    EXPECT_TRUE(chart.hasKeyboardFocus());
+}
+
+TEST_F(CurveGestures, TheLineSpringsToAnEditAndFollowsADrag) {
+    auto* shape = view.rootObject()->findChild<CurveShape*>();
+    ASSERT_NE(shape, nullptr);
+    const QPolygonF before = shape->outline();
+    chart.setCurve(FanCurve({{40, 20}, {60, 50}, {70, 60}, {80, 100}}));
+    EXPECT_EQ(shape->outline(), before) << "it sets out from where it was";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shape->outline().size() == 7; }, 3000));
+    press(at(60, 50));
+    move(at(50, 70));
+    EXPECT_EQ(shape->outline()[3], QPointF(50, 70));
+    release(at(50, 70));
+    EXPECT_EQ(shape->outline()[3], QPointF(50, 70));
+}
+
+} // namespace
+} // namespace kestrowind

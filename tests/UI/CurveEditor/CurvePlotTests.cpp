@@ -1,0 +1,130 @@
+#include "UI/CurveEditor/CurveMarks.h"
+#include "UI/CurveEditor/CurveOutline.h"
+#include "UI/CurveEditor/CurvePlotGeometry.h"
+
+#include <gmock/gmock.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const FanCurve cool({{30, 0}, {45, 15}, {55, 30}, {64, 49}, {72, 73}, {80, 100}});
+
+TEST(CurvePlot, MapsValuesToPlacesAndPlacesToWholeValuesInsideTheAxes) {
+    const CurvePlotGeometry plot{.plotSize = {450, 200}};
+    EXPECT_EQ(plot.position({65, 50}), QPointF(225, 100));
+    EXPECT_EQ(plot.position({20, 100}), QPointF(0, 0));
+    EXPECT_EQ(plot.position({110, 0}), QPointF(450, 200));
+    struct Row {
+        QPointF position;
+        FanCurvePoint value;
+    };
+    for (const auto& [position, value] : {
+             Row{{0, 0}, {20, 100}}, Row{{460, 210}, {110, 0}}, Row{{-30, 400}, {20, 0}},
+             Row{{225, 100}, {65, 50}},
+             Row{{227.4, 98.9}, {65, 51}}, // 65.48 degrees, 50.55 percent
+             Row{{227.5, 99}, {66, 51}},   // halves away from zero
+         })
+        EXPECT_EQ(plot.value(position), value) << position.x() << ' ' << position.y();
+    EXPECT_EQ(CurvePlotGeometry{}.value({10, 10}), (FanCurvePoint{20, 0})) << "no plot at all";
+    EXPECT_EQ(CurvePlotGeometry::plotIn({514, 244}), QRectF(46, 18, 450, 200));
+    EXPECT_TRUE(CurvePlotGeometry::plotIn({30, 30}).isEmpty());
+}
+
+TEST(CurvePlot, APressIsMeantForTheNearestPointWithinReach) {
+    const CurvePlotGeometry plot{.plotSize = {450, 200}, .points = {{40, 50}, {46, 50}, {90, 0}}};
+    EXPECT_EQ(plot.pointAt({100, 100}), 0);
+    EXPECT_EQ(plot.pointAt({114, 100}), 0) << "14 and 16 points away";
+    EXPECT_EQ(plot.pointAt({117, 100}), 1);
+    EXPECT_EQ(plot.pointAt({350, 222}), 2) << "22 points below the plot's edge";
+    EXPECT_EQ(plot.pointAt({350, 222.1}), -1);
+    EXPECT_EQ(plot.pointAt({200, 20}), -1);
+}
+
+TEST(CurvePlot, AClickAddsAPointOnlyAwayFromTheOthers) {
+    const CurvePlotGeometry plot{.plotSize = {450, 200}, .points = {{65, 50}}};
+    const auto candidate = plot.candidateAt({101, 41});
+    ASSERT_TRUE(candidate);
+    EXPECT_EQ(candidate->point, (FanCurvePoint{40, 80}));
+    EXPECT_EQ(candidate->position, QPointF(100, 40));
+    EXPECT_FALSE(plot.candidateAt({235, 100})) << "10 points beside it";
+    EXPECT_FALSE(plot.candidateAt({225, 78})) << "22 points above it";
+    EXPECT_FALSE(plot.candidateAt({230, 0})) << "one degree beside it";
+    EXPECT_TRUE(plot.candidateAt({235, 0})) << "two degrees beside it";
+}
+
+TEST(CurvePlot, LabelsEveryTenDegreesUntilTheyAreCrowded) {
+    EXPECT_EQ(CurvePlotGeometry::temperatureTicks(306).size(), 10);
+    EXPECT_EQ(CurvePlotGeometry::temperatureTicks(305.9), (QList<int>{20, 50, 80, 110}));
+    EXPECT_EQ(CurvePlotGeometry::percentTicks(), (QList<int>{0, 25, 50, 75, 100}));
+}
+
+TEST(CurveOutlines, AreWhatTheCurveEvaluatesTo) {
+    EXPECT_TRUE(CurveOutline::of(FanCurve()).isEmpty());
+    EXPECT_EQ(CurveOutline::of(FanCurve({{40, 20}, {60, 80}})),
+              QPolygonF({{20, 0}, {40, 0}, {40, 20}, {60, 80}, {110, 80}}));
+    const CurvePlotGeometry plot{.plotSize = {90, 100}};
+    const QPolygonF area = plot.area(plot.line(CurveOutline::of(FanCurve({{40, 20}}))));
+    EXPECT_EQ(area, QPolygonF({{0, 100}, {20, 100}, {20, 80}, {90, 80}, {90, 100}, {0, 100}}));
+}
+
+/// The percent that an outline draws at a temperature.
+double drawnAt(const QPolygonF& outline, double temperature) {
+    for (qsizetype i = 1; i < outline.size(); ++i) {
+        const QPointF& from = outline[i - 1];
+        const QPointF& to = outline[i];
+        if (from.x() <= temperature && temperature < to.x())
+            return from.y() + (to.y() - from.y()) * (temperature - from.x()) / (to.x() - from.x());
+    }
+    return outline.last().y();
+}
+
+TEST(CurveOutlines, BlendFromOneCurveToAnother) {
+    FanCurve moved = cool;
+    moved.move(2, {58, 20});
+    FanCurve added = cool;
+    added.insert({60, 80});
+    for (const FanCurve& other : {moved, added, FanCurve({{20, 100}}), FanCurve({{100, 10}})}) {
+        const QPolygonF from = CurveOutline::of(cool);
+        const QPolygonF to = CurveOutline::of(other);
+        for (double t = 20.25; t < 110; t += 0.5) {
+            EXPECT_NEAR(drawnAt(CurveOutline::blended(from, to, 0), t), cool.percent(t), 1e-9);
+            EXPECT_NEAR(drawnAt(CurveOutline::blended(from, to, 1), t), other.percent(t), 1e-9);
+        }
+    }
+    const QPolygonF half = CurveOutline::blended(CurveOutline::of(FanCurve({{50, 40}})),
+                                                 CurveOutline::of(FanCurve({{60, 80}})), 0.5);
+    EXPECT_EQ(half, QPolygonF({{20, 0}, {55, 0}, {55, 60}, {110, 60}})) << "each point moves";
+    const QPolygonF rising =
+        CurveOutline::blended(CurveOutline::of(cool), CurveOutline::of(added), 0.5);
+    EXPECT_DOUBLE_EQ(drawnAt(rising, 60), (cool.percent(60) + 80) / 2);
+    // Stored out of order: no function, so nothing in between.
+    const QPolygonF odd =
+        CurveOutline::of(FanCurve::fromStoredPoints({{50, 40}, {40, 80}, {60, 1}}));
+    EXPECT_EQ(CurveOutline::blended(CurveOutline::of(cool), odd, 0.5), odd);
+    EXPECT_EQ(CurveOutline::blended({}, odd, 0.2), odd);
+}
+
+TEST(CurveCallouts, TellWhatTheFanWouldBeAskedFor) {
+    const auto fan = [](double minRPM, double maxRPM) {
+        return std::optional(SMCFanReading{.minRPM = minRPM, .maxRPM = maxRPM});
+    };
+    struct Row {
+        FanCurvePoint point;
+        std::optional<SMCFanReading> fan;
+        QString text;
+    };
+    for (const auto& [point, reading, text] : {
+             Row{{64, 49}, std::nullopt, u"64 °C · 49%"_s},
+             Row{{64, 40}, fan(1200, 6001), u"64 °C · 40% · about 3,120 rpm"_s},
+             Row{{64.4, 39.6}, fan(1200, 6001), u"64 °C · 40% · about 3,120 rpm"_s},
+             Row{{64, 140}, fan(1200, 6001), u"64 °C · 140% · about 6,001 rpm"_s},
+             Row{{64, 40}, fan(1000, 1000), u"64 °C · 40% · about 1,000 rpm"_s},
+             Row{{64, 0}, fan(1200, 6001), u"64 °C · 0% · automatic speed"_s},
+         })
+        EXPECT_EQ(CurveCallout::textOf(point, reading).toStdString(), text.toStdString());
+}
+
+} // namespace
+} // namespace kestrowind

@@ -1,0 +1,278 @@
+#include "Core/PresetCoding.h"
+#include "UI/Curves/CurveEditHistory.h"
+#include "UI/Curves/CurvesModel.h"
+#include "UI/MainWindow/TestState.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const FanCurve ramp({{40, 20}, {60, 50}, {80, 100}});
+
+FanPreset preset(const QString& name, const QList<FanCurve>& curves = {ramp}) {
+    return {.id = QUuid::createUuid(),
+            .name = name,
+            .symbolName = u"wind"_s,
+            .curves = curves,
+            .isBuiltIn = false};
+}
+
+class CurvesScreen : public testing::Test {
+protected:
+    /// The screen as it appears, with these user presets.
+    CurvesModel& open(const QList<FanPreset>& presets = {}) {
+        state = std::make_unique<TestState>(QStringList(), [&](const QString& folder) {
+            QFile file(folder + u"/presets.json"_s);
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(encodePresets(presets).value());
+        });
+        return reopen();
+    }
+    CurvesModel& reopen() {
+        model = std::make_unique<CurvesModel>(*state->appState, history);
+        model->chart()->setSize({450 + 64, 200 + 44}); // 5 points a degree, 2 a percent
+        return *model;
+    }
+    void sample(double temperature, int fanCount) {
+        TelemetrySample sample{.timestamp = std::chrono::system_clock::now(),
+                               .temperatures = {.cpuAverage = temperature}};
+        for (int fan = 0; fan < fanCount; ++fan)
+            sample.fans.push_back({.index = fan, .minRPM = 1200, .maxRPM = 6001});
+        state->appState->telemetry().ingest(sample);
+    }
+    [[nodiscard]] QByteArray file() const {
+        QFile file(state->home.path(u"presets.json"_s));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    /// Another after every write, which replaces the file.
+    [[nodiscard]] ino_t fileNumber() const {
+        struct stat status = {};
+        EXPECT_EQ(::stat(qPrintable(state->home.path(u"presets.json"_s)), &status), 0);
+        return status.st_ino;
+    }
+    [[nodiscard]] QList<FanCurve> stored() const {
+        return state->presets().preset(*model->selectedPresetID())->curves;
+    }
+
+    std::unique_ptr<TestState> state;
+    CurveEditHistory history;
+    std::unique_ptr<CurvesModel> model;
+};
+
+TEST_F(CurvesScreen, ChoosesWhatIsChosenElseActiveElseTheUsersElseCool) {
+    open();
+    EXPECT_EQ(model->presetName(), u"Cool"_s);
+    EXPECT_TRUE(model->isBuiltIn());
+    EXPECT_EQ(model->builtInNote(), u"“Cool” is built in and cannot be changed. Customize it to "
+                                    u"get a copy of your own."_s);
+    EXPECT_FALSE(model->chart()->isEditable());
+
+    open({preset(u"A"_s), preset(u"B"_s)});
+    EXPECT_EQ(model->presetName(), u"A"_s);
+    EXPECT_TRUE(model->chart()->isEditable());
+    EXPECT_TRUE(model->builtInNote().isEmpty());
+    state->presets().setActivePresetID(FanPreset::fullSpeedID);
+    EXPECT_EQ(model->presetName(), u"A"_s) << "independent of the active one";
+    EXPECT_EQ(reopen().presetName(), u"Full Speed"_s);
+    model->selectUserPreset(1);
+    EXPECT_EQ(model->presetName(), u"B"_s);
+    EXPECT_TRUE(model->userPresets()->choices()[1].isSelected);
+    EXPECT_EQ(model->builtInPresets()->rowCount(), 2);
+    model->selectUserPreset(2);
+    EXPECT_EQ(model->presetName(), u"B"_s);
+    state->presets().remove(*model->displayedPreset());
+    EXPECT_EQ(model->presetName(), u"Full Speed"_s);
+    EXPECT_TRUE(model->isBuiltIn());
+}
+
+TEST_F(CurvesScreen, MakesPresetsUpToTheLimitUnderNamesOfTheirOwn) {
+    open({preset(u"New Preset"_s)});
+    model->createPreset();
+    EXPECT_EQ(model->presetName(), u"New Preset 2"_s);
+    EXPECT_FALSE(state->presets().activePresetID());
+    model->selectBuiltInPreset(0);
+    EXPECT_TRUE(model->customizeHelp().isEmpty());
+    model->duplicateForEditing();
+    EXPECT_EQ(model->presetName(), u"Cool Copy"_s);
+    EXPECT_TRUE(model->chart()->isEditable());
+    EXPECT_EQ(model->chart()->curve().points().size(), 6);
+    model->duplicateForEditing();
+    EXPECT_EQ(state->presets().presets().size(), 5) << "a copy is no built-in";
+
+    EXPECT_FALSE(model->canAddPreset());
+    model->selectBuiltInPreset(0);
+    EXPECT_THAT(model->customizeHelp().toStdString(), testing::HasSubstr("3"));
+    model->createPreset();
+    model->duplicateForEditing();
+    EXPECT_EQ(state->presets().presets().size(), 5);
+    EXPECT_EQ(model->presetName(), u"Cool"_s);
+}
+
+TEST_F(CurvesScreen, KeepsADragToItselfUntilItIsLetGo) {
+    open({preset(u"A"_s)});
+    sample(50, 2);
+    const QByteArray before = file();
+    const ino_t untouched = fileNumber();
+    for (int step = 0; step < 40; ++step) {
+        model->chart()->drag(1, {200.0 + step, 100.0 - step});
+        EXPECT_EQ(stored(), QList<FanCurve>{ramp});
+        ASSERT_TRUE(model->draftPreset());
+        EXPECT_FALSE(model->canUndo());
+    }
+    model->chart()->drag(1, {390, 20});
+    EXPECT_EQ(model->chart()->curve().points()[1], (FanCurvePoint{79, 90}));
+    EXPECT_EQ(fileNumber(), untouched) << "not written at all";
+    EXPECT_EQ(file(), before);
+
+    model->chart()->release({390, 20});
+    EXPECT_EQ(stored(), QList<FanCurve>(2, model->chart()->curve())) << "once for each fan";
+    EXPECT_NE(fileNumber(), untouched);
+    EXPECT_NE(file(), before);
+    EXPECT_FALSE(model->draftPreset());
+}
+
+TEST_F(CurvesScreen, PushesAnEditToTheFansOfTheActivePreset) {
+    open({preset(u"A"_s)});
+    state->presets().setActivePresetID(model->selectedPresetID());
+    sample(60, 2);
+    const ControlEngine& engine = state->appState->engine();
+    EXPECT_EQ(engine.requestedPercents(), QList<double>({50, 50}));
+    model->chart()->pressKey(1, Qt::Key_Up, Qt::ShiftModifier);
+    model->chart()->pressKey(1, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(engine.requestedPercents(), QList<double>({50, 50})) << "a moment later";
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            return engine.requestedPercents() == QList<double>({60, 60});
+        },
+        3000));
+}
+
+TEST_F(CurvesScreen, DiscardsADragThatIsCancelledOrLeft) {
+    open({preset(u"A"_s), preset(u"B"_s)});
+    const QByteArray before = file();
+    const auto end = [&](const std::function<void()>& how) {
+        model->selectUserPreset(0);
+        model->chart()->drag(1, {300, 20});
+        ASSERT_TRUE(model->draftPreset());
+        how();
+        EXPECT_FALSE(model->draftPreset());
+        EXPECT_EQ(model->chart()->draggedPoint(), -1);
+        EXPECT_EQ(model->chart()->curve(), model->displayedPreset()->curves.value(0));
+        model->chart()->drag(99, {300, 20});
+        model->chart()->release({300, 20});
+        EXPECT_EQ(file(), before);
+    };
+    end([&] { model->chart()->cancelDrag(); });
+    end([&] { model->selectUserPreset(1); });
+    end([&] { model->selectBuiltInPreset(0); });
+    model->selectUserPreset(0);
+    model->chart()->drag(1, {300, 20});
+    state->presets().remove(*state->presets().preset(*model->selectedPresetID()));
+    EXPECT_EQ(model->chart()->draggedPoint(), -1) << "the other preset is not dragged on";
+    EXPECT_EQ(model->presetName(), u"B"_s);
+    EXPECT_EQ(model->chart()->curve(), ramp);
+}
+
+TEST_F(CurvesScreen, AddsAndDeletesWithinTheRules) {
+    open({preset(u"A"_s, {ramp, FanCurve({{20, 100}})})});
+    sample(50, 1);
+    Q_EMIT model->chart()->addPoint(41.5, 50);
+    EXPECT_EQ(stored().size(), 2) << "too close: nothing is written";
+    model->chart()->click({50, 40});
+    EXPECT_EQ(stored(), QList<FanCurve>{FanCurve({{30, 80}, {40, 20}, {60, 50}, {80, 100}})});
+    Q_EMIT model->chart()->addPoint(200, -5);
+    EXPECT_EQ(stored()[0].points().last(), (FanCurvePoint{110, 0}));
+    while (stored()[0].points().size() > 1)
+        model->chart()->deletePoint(0);
+    model->chart()->deletePoint(0);
+    EXPECT_EQ(stored(), QList<FanCurve>{FanCurve({{110, 0}})});
+    Q_EMIT model->chart()->deletePointRequested(5);
+    EXPECT_EQ(stored()[0].points().size(), 1);
+
+    model->selectBuiltInPreset(0);
+    const QByteArray before = file();
+    Q_EMIT model->chart()->addPoint(90, 50);
+    Q_EMIT model->chart()->movePoint(0, 90, 50, true);
+    Q_EMIT model->chart()->deletePointRequested(0);
+    EXPECT_EQ(model->chart()->curve().points().size(), 6);
+    EXPECT_EQ(file(), before);
+}
+
+TEST_F(CurvesScreen, TakesEditsBackAndMakesThemAgain) {
+    const QList<FanCurve> asFound{ramp, FanCurve({{20, 100}})};
+    open({preset(u"A"_s, asFound), preset(u"B"_s)});
+    sample(50, 2);
+    EXPECT_FALSE(model->canUndo());
+    model->chart()->pressKey(0, Qt::Key_Right, Qt::NoModifier);
+    model->chart()->deletePoint(1);
+    const QList<FanCurve> edited = stored();
+    model->selectUserPreset(1);
+    EXPECT_FALSE(model->canUndo()) << "each preset has its own";
+    reopen().selectUserPreset(0);
+    EXPECT_TRUE(model->canUndo()) << "for the run of the application";
+    model->undo();
+    EXPECT_EQ(stored()[0].points().size(), 3);
+    model->undo();
+    EXPECT_EQ(stored(), asFound) << "exactly, also what the screen does not show";
+    EXPECT_TRUE(file().contains("100"));
+    EXPECT_FALSE(model->canUndo());
+    model->undo();
+    model->redo();
+    model->redo();
+    EXPECT_EQ(stored(), edited);
+    EXPECT_FALSE(model->canRedo());
+    model->undo();
+    model->chart()->pressKey(0, Qt::Key_Up, Qt::NoModifier);
+    EXPECT_FALSE(model->canRedo()) << "the future is another";
+    model->undo();
+    EXPECT_FALSE(model->chart()->draggedPoint() >= 0);
+
+    FanPreset foreign = *model->displayedPreset();
+    foreign.curves = {FanCurve({{50, 50}})};
+    state->presets().update(foreign);
+    EXPECT_EQ(model->chart()->curve(), foreign.curves[0]);
+    EXPECT_FALSE(model->canUndo() || model->canRedo()) << "what others changed is not ours";
+}
+
+TEST(CurveEditHistories, ForgetTheOldestEdits) {
+    CurveEditHistory history;
+    const QUuid id = QUuid::createUuid();
+    const auto curves = [](qsizetype n) {
+        return QList<FanCurve>{FanCurve({{30, static_cast<double>(n)}})};
+    };
+    const qsizetype edits = CurveEditHistory::longest + 5;
+    history.record(id, curves(0), curves(0));
+    EXPECT_FALSE(history.canUndo(id, curves(0)));
+    for (qsizetype n = 0; n < edits; ++n)
+        history.record(id, curves(n), curves(n + 1));
+    qsizetype now = edits;
+    while (history.undo(id, curves(now)))
+        --now;
+    EXPECT_EQ(now, 5);
+}
+
+TEST_F(CurvesScreen, ShowsTheTemperatureAndAFanOnlyWhileSeen) {
+    open({preset(u"A"_s)});
+    EXPECT_FALSE(model->chart()->live().isShown);
+    sample(50, 2);
+    EXPECT_EQ(model->chart()->live().temperature, 50);
+    model->chart()->drag(1, {200, 120});
+    EXPECT_EQ(model->chart()->callout().text, u"60 °C · 40% · about 3,120 rpm"_s);
+    model->chart()->cancelDrag();
+    QQuickItem hidden;
+    model->setView(&hidden);
+    sample(70, 2);
+    EXPECT_EQ(model->chart()->live().temperature, 50);
+    model->setView(nullptr);
+    EXPECT_EQ(model->chart()->live().temperature, 70);
+}
+
+} // namespace
+} // namespace kestrowind
