@@ -1,7 +1,11 @@
 #include "Platform/UserDefaults.h"
 
+#include <QFile>
+#include <QLockFile>
 #include <QLoggingCategory>
 #include <QRegularExpression>
+
+#include <chrono>
 
 namespace kestrowind {
 namespace {
@@ -53,11 +57,26 @@ double numberOfText(const QString& text) {
     return number.match(text).captured().trimmed().toDouble();
 }
 
+/// A process that was killed as it stored something leaves the lock of the file behind. One that
+/// does not say whose it is would hold up the next change for half a minute.
+void removeAbandonedLock(const QSettings& store) {
+    constexpr std::chrono::milliseconds longestWrite(50);
+    const QString path = store.fileName() + u".lock"_s;
+    if (!QFile::exists(path))
+        return;
+    QLockFile lock(path);
+    lock.setStaleLockTime(longestWrite);
+    if (!lock.tryLock(3 * longestWrite))
+        qCWarning(log) << "the settings are locked:" << path;
+}
+
 } // namespace
 
 UserDefaults::UserDefaults(const QStringList& arguments, std::unique_ptr<QSettings> store)
     : m_arguments(parseArguments(arguments))
-    , m_store(std::move(store)) {}
+    , m_store(std::move(store)) {
+    removeAbandonedLock(*m_store);
+}
 
 UserDefaults::~UserDefaults() = default;
 

@@ -41,12 +41,16 @@ std::optional<bool> traced(const std::function<void()>& deed, const AtStop& atSt
     ::waitpid(child, &status, 0);
     if (WIFEXITED(status))
         return std::nullopt;
+    ::ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_TRACESYSGOOD);
+    int signal = 0;
     for (;;) {
-        ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+        ::ptrace(PTRACE_SYSCALL, child, nullptr, signal);
         ::waitpid(child, &status, 0);
         if (WIFEXITED(status) || WIFSIGNALED(status))
             return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-        if (!atStop(child)) {
+        const bool isAtCall = WSTOPSIG(status) == (SIGTRAP | 0x80);
+        signal = isAtCall ? 0 : WSTOPSIG(status);
+        if (isAtCall && !atStop(child)) {
             ::kill(child, SIGKILL);
             ::waitpid(child, &status, 0);
             return false;
@@ -69,8 +73,9 @@ protected:
         QFile in(file);
         return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
     }
-    /// Puts the folder back to how it was before the deed.
-    void restore() const {
+    /// Puts the folder back to how it was before the deed, and starts anew.
+    void restore() {
+        defaults = home.defaults();
         QDir folder(home.path(u"app"_s));
         for (const QString& name : folder.entryList(QDir::Files))
             folder.remove(name);
