@@ -5,6 +5,7 @@
 #include "Shared/SMCKit/SMCConnection.h"
 #include "Simulator/Link/SMCLink.h"
 
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -17,15 +18,18 @@ namespace kestrowind {
 /// The real application inside a booted Mac, printing its readings, with a home of its own.
 class RunningApp {
 public:
-    /// Without a display of its own it runs on the offscreen platform.
-    RunningApp(const BootedMac& mac, const QStringList& arguments, const QString& display = {}) {
+    /// Without a display of its own it runs on the offscreen platform, and without a home that is
+    /// given in one that goes with it.
+    RunningApp(const BootedMac& mac, const QStringList& arguments, const QString& display = {},
+               const QString& home = {}) {
+        const QDir folder(home.isEmpty() ? m_home.path() : home);
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QString::fromLatin1(SimulatedMac::rootVariable),
                            QString::fromStdString(mac.root().string()));
         environment.insert(QStringLiteral("XDG_DATA_HOME"),
-                           m_home.filePath(QStringLiteral("data")));
+                           folder.filePath(QStringLiteral("data")));
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
-                           m_home.filePath(QStringLiteral("config")));
+                           folder.filePath(QStringLiteral("config")));
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
                            display.isEmpty() ? QStringLiteral("offscreen") : QStringLiteral("xcb"));
         environment.insert(QStringLiteral("DISPLAY"), display);
