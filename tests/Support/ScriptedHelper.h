@@ -30,7 +30,7 @@ public:
         invalidated, ///< so does every later call on this connection
         empty,       ///< no numbers, no status
         tooShort,    ///< a number less, half a status
-        tooLong,     ///< ten thousand numbers, a status of a megabyte
+        tooLong,     ///< ten thousand numbers, a status of 30 kilobytes
         nonsense,    ///< not a number; no JSON
         otherVersion,
     };
@@ -148,7 +148,7 @@ private:
             if (how == Answer::otherVersion)
                 status.version = "9.9";
             if (how == Answer::tooLong)
-                status.lastError = std::string(1'000'000, 'x');
+                status.lastError = std::string(30'000, 'x');
             const auto bytes = QByteArray::fromStdString(encodeHelperStatus(status));
             if (how == Answer::empty)
                 return std::nullopt;
