@@ -15,6 +15,11 @@ if(KESTROWIND_SANITIZE)
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(KESTROWIND_SANITIZE_THREADS)
+    add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=thread)
+endif()
+
 if(KESTROWIND_FUZZERS)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

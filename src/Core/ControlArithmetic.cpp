@@ -1,5 +1,7 @@
 #include "Core/ControlArithmetic.h"
 
+#include "Shared/HelperShared/FanTargets.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -26,7 +28,11 @@ QList<double> ControlArithmetic::requestedPercents(const std::optional<FanPreset
 double ControlArithmetic::target(double percent, const SMCFanReading& fan) {
     if (!(fan.maxRPM > fan.minRPM) || !(percent > 0))
         return 0;
-    return std::round(fan.minRPM + (fan.maxRPM - fan.minRPM) * std::min(percent, 100.0) / 100);
+    const double speed =
+        std::round(fan.minRPM + (fan.maxRPM - fan.minRPM) * std::min(percent, 100.0) / 100);
+    // Limits that no fan has were misread. The helper would refuse such a speed, and with it the
+    // targets of all the other fans.
+    return checkFanSpeeds(std::span(&speed, 1)) ? speed : 0;
 }
 
 std::vector<double> ControlArithmetic::targets(const QList<double>& requestedPercents,

@@ -46,13 +46,15 @@ TEST(ControlArithmetic, RisesAtOnceAndFallsSlowly) {
 
 TEST(ControlArithmetic, TurnsDemandIntoSpeed) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double inf = std::numeric_limits<double>::infinity();
     struct Row {
         double percent, minRPM, maxRPM, expected;
     };
     const Row rows[] = {
-        {40, 1200, 6000, 3120}, {100, 1000, 1000, 0},   {150, 1200, 6000, 6000},
-        {0, 1200, 6000, 0},     {30, 1350, 5900, 2715}, {50, 0, 1, 1},
-        {-5, 1200, 6000, 0},    {50, nan, 6000, 0},     {50, 1200, nan, 0},
+        {40, 1200, 6000, 3120}, {100, 1000, 1000, 0}, {150, 1200, 6000, 6000}, {0, 1200, 6000, 0},
+        {30, 1350, 5900, 2715}, {50, 0, 1, 1},        {-5, 1200, 6000, 0},     {50, nan, 6000, 0},
+        {50, 1200, nan, 0},     {50, -inf, 6000, 0},  {50, 1200, inf, 0},      {50, 1200, 3e38, 0},
+        {10, -9000, 6000, 0},
     };
     for (const Row& row : rows)
         EXPECT_EQ(ControlArithmetic::target(row.percent, fan(0, row.minRPM, row.maxRPM)),

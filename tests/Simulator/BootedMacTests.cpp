@@ -112,7 +112,8 @@ TEST(BootedMac, OffersItsSMCToManyClientsAndIsNotHurtByBadOnes) {
 TEST(BootedMac, StartsTheHelperForWhoeverAsksAndAgainAfterItDied) {
     const BootedMac mac({u"--installed"_s});
     ASSERT_TRUE(mac.isUp());
-    EXPECT_TRUE(mac.status().at("helper").at("pid").is_null()) << "nobody has asked yet";
+    ASSERT_TRUE(waitUntil([&mac] { return mac.status().at("helper").at("starts") == 1; }))
+        << "it runs from its bootstrap on";
     {
         HelperCaller caller(mac, u"first"_s);
         EXPECT_EQ(caller.status().at("version"), HelperConstants::helperVersion);
@@ -129,6 +130,25 @@ TEST(BootedMac, StartsTheHelperForWhoeverAsksAndAgainAfterItDied) {
     EXPECT_EQ(caller.call(u"ShutDown"_s).type(), QDBusMessage::ReplyMessage);
     EXPECT_TRUE(waitUntil([&mac] { return mac.status().at("helper").at("pid").is_null(); }));
     EXPECT_EQ(mac.status().at("helper").at("lastExit"), "exited with status 0");
+    HelperCaller third(mac, u"third"_s);
+    EXPECT_EQ(third.status().at("phase"), "idle") << "it ended well, and comes back when asked for";
+    EXPECT_EQ(mac.status().at("helper").at("starts"), 3);
+}
+
+TEST(BootedMac, StartsAKilledHelperAtOnceSoThatItHandsTheFansBack) {
+    const BootedMac mac({u"--installed"_s, u"--profile"_s, u"desktop-1fan"_s});
+    ASSERT_TRUE(mac.isUp());
+    const auto smc =
+        SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root()))).value();
+    {
+        HelperCaller holder(mac, u"lonely"_s);
+        const QDBusReply<QList<double>> applied = holder.call(u"SetTargets"_s, {targets({2500})});
+        ASSERT_TRUE(applied.isValid()) << applied.error().message().toStdString();
+        ASSERT_EQ(smc->readUInt8("F0md"), 1);
+        ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
+    }
+    EXPECT_TRUE(waitUntil([&smc] { return smc->readUInt8("F0md") == 0; }))
+        << "though nobody asks for the helper any more";
 }
 
 TEST(BootedMac, GivesTheFansBackAsSoonAsTheirHolderIsGone) {

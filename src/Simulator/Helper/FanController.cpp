@@ -75,7 +75,7 @@ FanController::setTargets(std::span<const double> targets) {
         return std::unexpected("this machine has no fans");
     if (auto checked = checkFanTargets(targets, m_fans.size()); !checked)
         return std::unexpected(std::move(checked.error()));
-    hearFromApplication();
+    m_lastWord = m_now();
     for (std::size_t index = 0; index < m_fans.size(); ++index)
         m_fans[index].target = targets[index];
     if (const auto taken = isHolding() ? Result<void>() : takeFans(); !taken)

@@ -18,7 +18,8 @@ namespace kestrowind {
 ///
 /// It takes a machine's fans when it is given targets, keeps every fan at or above the temperature
 /// safety floor, and gives the fans back to the system when told to, when something goes wrong, and
-/// when it has not heard from the application for the heartbeat time. Belongs to one thread.
+/// when no targets have come for the heartbeat time: whoever only asks for the status has lost
+/// interest in the fans, or does not know that it holds them. Belongs to one thread.
 class FanController {
 public:
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
@@ -48,9 +49,6 @@ public:
 
     /// Gives the fans back and reports this as the reason.
     void fail(const std::string& why);
-
-    /// The application lives: the heartbeat time starts anew.
-    void hearFromApplication() { m_lastWord = m_now(); }
 
     /// Does what is due by now: next attempt to unlock, new floors, end of patience.
     void tick();

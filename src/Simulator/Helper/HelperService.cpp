@@ -168,7 +168,6 @@ QDBusMessage HelperService::act(const QDBusMessage& message, const QDBusConnecti
         m_controller.fail(behaviour.text);
     if (message.member() == "SetTargets"_L1)
         return setTargets(message, connection, behaviour);
-    m_controller.hearFromApplication();
     if (message.member() == "Status"_L1)
         return status(message, behaviour);
     if (message.member() == "Uninstall"_L1)
@@ -182,6 +181,9 @@ QDBusMessage HelperService::setTargets(const QDBusMessage& message,
                                        const HelperBehaviour& behaviour) {
     if (behaviour.kind == HelperBehaviour::Kind::fail)
         return message.createReply(targetList(m_controller.status().effectiveTargets));
+    // Who hung up before we began to watch the connection is never reported as lost any more.
+    if (!connection.isConnected())
+        return message.createErrorReply(QDBusError::Disconnected, u"the caller is gone"_s);
     const auto asked = qdbus_cast<QList<double>>(message.arguments().constFirst());
     const auto applied = m_controller.setTargets(std::vector<double>(asked.begin(), asked.end()));
     if (!applied)

@@ -61,8 +61,10 @@ Launchd::Result Launchd::bootstrap(const std::filesystem::path& propertyList) {
     const auto start = [this, at = job.get()] { startProgram(*at); };
     QObject::connect(&job->notifier, &QSocketNotifier::activated, &job->throttle, start);
     QObject::connect(&job->throttle, &QTimer::timeout, &job->throttle,
-                     [at = job.get()] { at->notifier.setEnabled(true); });
-    m_jobs.emplace(label, std::move(job));
+                     [this, at = job.get()] { becomeReady(*at); });
+    Job& taken = *m_jobs.emplace(label, std::move(job)).first->second;
+    if (taken.description.isKeptAliveUntilItSucceeds)
+        startProgram(taken);
     return {};
 }
 
@@ -104,6 +106,8 @@ void Launchd::programEnded(Job& job, ChildProcess::Exit exit) {
     job.state.pid.reset();
     job.state.lastExit = inWords(exit);
     releaseLater(std::move(job.process));
+    job.isWantedBack =
+        job.description.isKeptAliveUntilItSucceeds && (exit.code != 0 || exit.signal != 0);
     watchAgain(job);
 }
 
@@ -111,6 +115,13 @@ void Launchd::watchAgain(Job& job) {
     const auto run = std::chrono::milliseconds(job.sinceStart.elapsed());
     if (run < shortestRun)
         job.throttle.start(shortestRun - run);
+    else
+        becomeReady(job);
+}
+
+void Launchd::becomeReady(Job& job) {
+    if (std::exchange(job.isWantedBack, false))
+        startProgram(job);
     else
         job.notifier.setEnabled(true);
 }

@@ -18,7 +18,8 @@
 namespace kestrowind {
 
 /// The launchd of a simulated Mac: holds the sockets of the Mach services of its jobs, and starts a
-/// job's program when somebody connects while it does not run.
+/// job's program when somebody connects while it does not run. A job that is to be kept alive until
+/// it succeeds runs from its bootstrap on, and is started again when it fails or is killed.
 class Launchd final {
 public:
     /// What it knows of a job.
@@ -60,6 +61,7 @@ private:
         QElapsedTimer sinceStart;
         JobState state;
         QTimer throttle;
+        bool isWantedBack = false; ///< it is to run again without being asked for
     };
     struct Departure {
         std::unique_ptr<ChildProcess> process;
@@ -71,6 +73,7 @@ private:
     void refuseWaiting(Job& job);
     void programEnded(Job& job, ChildProcess::Exit exit);
     void watchAgain(Job& job);
+    void becomeReady(Job& job);
     void depart(std::unique_ptr<ChildProcess> process, std::function<void(Result)> done);
 
     std::filesystem::path m_root;

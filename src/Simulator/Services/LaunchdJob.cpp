@@ -32,6 +32,21 @@ std::string readFirstKey(QXmlStreamReader& xml) {
     return first;
 }
 
+/// Whether a KeepAlive dictionary wants a program back that failed; no other condition is known.
+bool readWantsFailedBack(QXmlStreamReader& xml) {
+    bool wantsBack = false;
+    QString key;
+    while (xml.readNextStartElement()) {
+        if (xml.name() == "key"_L1) {
+            key = xml.readElementText();
+        } else {
+            wantsBack = wantsBack || (key == "SuccessfulExit"_L1 && xml.name() == "false"_L1);
+            xml.skipCurrentElement();
+        }
+    }
+    return wantsBack;
+}
+
 LaunchdJob readJob(QXmlStreamReader& xml) {
     LaunchdJob job;
     if (!xml.readNextStartElement() || xml.name() != "plist"_L1 || !xml.readNextStartElement() ||
@@ -49,6 +64,8 @@ LaunchdJob readJob(QXmlStreamReader& xml) {
             job.programArguments = readTexts(xml);
         else if (key == "MachServices"_L1 && xml.name() == "dict"_L1)
             job.machService = readFirstKey(xml);
+        else if (key == "KeepAlive"_L1 && xml.name() == "dict"_L1)
+            job.isKeptAliveUntilItSucceeds = readWantsFailedBack(xml);
         else
             xml.skipCurrentElement();
     }

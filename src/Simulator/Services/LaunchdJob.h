@@ -14,6 +14,9 @@ struct LaunchdJob {
     std::string label;
     std::string machService;
     std::vector<std::string> programArguments; ///< the program first, as a path of the Mac
+    /// KeepAlive's SuccessfulExit is false: the program runs from the start on, and again whenever
+    /// it ended in any other way than by exiting with 0.
+    bool isKeptAliveUntilItSucceeds = false;
 };
 
 /// Reads a property list in XML. The error says what is missing or malformed.

@@ -17,6 +17,10 @@ struct TickRule {
 constexpr TickRule tickRules[] = {
     {2.5, 0.5}, {6, 1}, {15, 3}, {std::numeric_limits<double>::infinity(), 5}};
 
+/// More lines than this cannot be told apart; half an hour of samples never has them. They come
+/// with a long sleep, or with a clock that was set by years while we ran.
+constexpr double mostTimeTicks = 96;
+
 /// Below this, in seconds, a time is told in seconds.
 constexpr double secondsLimit = 95;
 
@@ -47,8 +51,9 @@ QList<double> ticks(double span) {
     const double step = std::ranges::find_if(tickRules, [span](const TickRule& rule) {
                             return span <= rule.longestSpan;
                         })->step;
+    const double stride = step * std::max(1.0, std::ceil(span / step / mostTimeTicks));
     QList<double> ticks;
-    for (double tick = -step; tick > -span; tick -= step)
+    for (double tick = -stride; tick > -span; tick -= stride)
         ticks.append(tick);
     return ticks;
 }

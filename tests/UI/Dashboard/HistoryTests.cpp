@@ -90,6 +90,13 @@ TEST(HistoryChartAxis, ChoosesTicksByTheSpan) {
         EXPECT_EQ(HistoryChartAxis::domain(span), (LineChart::Domain{-span, 0}));
         EXPECT_EQ(HistoryChartAxis::ticks(span), row.ticks) << span;
     }
+    // A machine slept, or its clock was set while we ran: by an hour, to its day, from 1970.
+    for (const double span : {90.0, 480.0, 1440.0, 29.6e6}) {
+        const QList<double> ticks = HistoryChartAxis::ticks(span);
+        EXPECT_LE(ticks.size(), 96) << span;
+        EXPECT_GE(ticks.size(), 17) << span;
+        EXPECT_LT(ticks.last(), -0.9 * span);
+    }
 }
 
 TEST(HistoryChartAxis, LabelsInSecondsThenMinutes) {

@@ -1,0 +1,406 @@
+#include "Core/AppState.h"
+#include "Core/HelperClient.h"
+#include "Platform/AdminScriptRunner.h"
+#include "Shared/HelperShared/HelperConstants.h"
+#include "Shared/SMCKit/FourCC.h"
+#include "Shared/SMCKit/SMCCodec.h"
+#include "Simulator/SimulatedSMC.h"
+#include "Support/FakeSystemInformation.h"
+#include "Support/FaultySMC.h"
+#include "Support/QtPrinters.h"
+#include "Support/ScriptedHelper.h"
+#include "Support/TestDefaults.h"
+
+#include <QAbstractEventDispatcher>
+#include <QCoroTask>
+#include <QElapsedTimer>
+#include <QLoggingCategory>
+#include <QPromise>
+#include <QTest>
+#include <gmock/gmock.h>
+
+#include <atomic>
+
+// Everything between the SMC and the helper, with one thing broken at a time. Each case ends with
+// the machine mended, control regained, and the fans handed back by quitting.
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Answer = ScriptedHelper::Answer;
+using Method = ScriptedHelper::Method;
+
+// In the relation that they have in the application: 2 seconds and 3.
+constexpr auto interval = 6ms;
+constexpr auto callTimeout = 9ms;
+constexpr int limit = 4000; ///< milliseconds to wait for what must come
+
+/// How long the event loop of this thread was kept from going round, at the longest.
+class StallWatch {
+public:
+    StallWatch() {
+        const auto* loop = QAbstractEventDispatcher::instance();
+        QObject::connect(loop, &QAbstractEventDispatcher::awake, &m_context,
+                         [this] { m_sinceAwake.start(); });
+        QObject::connect(loop, &QAbstractEventDispatcher::aboutToBlock, &m_context, [this] {
+            if (m_sinceAwake.isValid())
+                m_longest = std::max(m_longest, m_sinceAwake.nsecsElapsed());
+            m_sinceAwake.invalidate();
+        });
+    }
+    [[nodiscard]] std::chrono::nanoseconds longest() const {
+        return std::chrono::nanoseconds(m_longest);
+    }
+
+private:
+    QObject m_context;
+    QElapsedTimer m_sinceAwake;
+    qint64 m_longest = 0;
+};
+
+/// A password dialog that nobody answers, until the test does.
+class HangingScriptRunner final : public AdminScriptRunner {
+public:
+    HangingScriptRunner() { m_promise.start(); }
+    QFuture<ScriptOutcome> run(const QString& /*appleScript*/) override {
+        isAsking = true;
+        return m_promise.future();
+    }
+    void cancel() {
+        m_promise.addResult(ScriptOutcome{ScriptOutcome::Kind::failed, u"User cancelled."_s});
+        m_promise.finish();
+    }
+    bool isAsking = false;
+
+private:
+    QPromise<ScriptOutcome> m_promise;
+};
+
+/// The whole of the application but its windows, on a machine with two fans.
+class RunningState {
+public:
+    RunningState() {
+        information.files = {QString::fromLatin1(HelperConstants::daemonPlistPath),
+                             QString::fromLatin1(HelperConstants::helperInstallPath)};
+        information.resources = {{u"KestrowindHelper"_s, u"/h"_s},
+                                 {u"app.kestrowind.helper.plist"_s, u"/p"_s}};
+        smc->setByte("FNum", 2);
+        for (const char* fan : {"F0", "F1"}) {
+            for (const char* suffix : {"Ac", "Tg", "Mn"})
+                smc->setFloat(std::string(fan) + suffix, 1200);
+            smc->setFloat(std::string(fan) + "Mx", 6000);
+            smc->setByte(std::string(fan) + "md", 0);
+        }
+        smc->setFloat("Tp01", 50);
+        smc->setFloat("Tg01", 45);
+
+        auto telemetry = std::make_unique<TelemetryStore>(*defaults, [this] { return kernel; });
+        auto client = std::make_unique<HelperClient>(
+            HelperClient::Environment{.makeConnection = helper.factory(),
+                                      .information = information,
+                                      .scriptRunner = scriptRunner,
+                                      .callTimeout = callTimeout});
+        auto presets = std::make_unique<PresetStore>(2, *defaults,
+                                                     PresetStore::Storage{.folder = home.path()});
+        auto engine = std::make_unique<ControlEngine>(*telemetry, *presets, *client,
+                                                      [this] { return clock(); });
+        state = std::make_unique<AppState>(std::move(telemetry), std::move(client),
+                                           std::move(presets), std::move(engine));
+        // A demand of its own, since without a temperature no curve asks for anything.
+        state->engine().setQuickBoostPercent(100);
+        state->telemetry().onSample([this](const TelemetrySample&) { ++samples; });
+    }
+    ~RunningState() { state.reset(); }
+    RunningState(const RunningState&) = delete;
+    RunningState& operator=(const RunningState&) = delete;
+
+    void start() { state->telemetry().start(interval); }
+    bool takesSamples(int count) {
+        const int enough = samples + count;
+        return QTest::qWaitFor([&] { return samples >= enough; }, limit);
+    }
+    [[nodiscard]] bool isInControl() const {
+        return state->engine().isOverriding() && helper.isHolding &&
+               helper.targets == std::vector<double>{6000, 6000} &&
+               state->helper().state() == HelperState::installed;
+    }
+    bool regainsControl() {
+        return QTest::qWaitFor([&] { return isInControl(); }, limit);
+    }
+    /// As the application quits; at most two calls may run out of time.
+    void quit() {
+        QElapsedTimer timer;
+        timer.start();
+        QCoro::waitFor(state->engine().shutDown());
+        QCoro::waitFor(state->helper().shutDownDaemon());
+        EXPECT_LT(timer.elapsed(), 500) << "quitting hangs";
+        EXPECT_FALSE(state->engine().isOverriding());
+        takesSamples(state->telemetry().latest() ? 2 : 0);
+        EXPECT_FALSE(state->engine().isOverriding()) << "nothing takes the fans after that";
+    }
+
+    TestHome home;
+    std::unique_ptr<UserDefaults> defaults = home.defaults();
+    FakeSystemInformation information;
+    HangingScriptRunner scriptRunner;
+    std::shared_ptr<SimulatedSMC> smc = std::make_shared<SimulatedSMC>();
+    std::shared_ptr<FaultySMC> kernel = std::make_shared<FaultySMC>(smc);
+    ScriptedHelper helper{callTimeout};
+    std::function<std::chrono::system_clock::time_point()> clock = &std::chrono::system_clock::now;
+    int samples = 0;
+    std::unique_ptr<AppState> state;
+};
+
+class FaultTest : public testing::Test {
+protected:
+    // Each broken call is logged, as it should be; here it is what was wanted.
+    void SetUp() override { QLoggingCategory::setFilterRules(u"app.kestrowind.*=false"_s); }
+    void TearDown() override { QLoggingCategory::setFilterRules({}); }
+
+    /// On a busy computer any thread may be made to wait: only what stalls every time is a stall.
+    static void expectNoStalls(const std::function<void()>& scenario) {
+        std::chrono::nanoseconds shortest = 1h;
+        for (int attempt = 0; attempt < 3 && shortest > 50ms; ++attempt) {
+            const StallWatch watch;
+            scenario();
+            shortest = std::min(shortest, watch.longest());
+            if (HasFailure())
+                return;
+        }
+        EXPECT_LE(shortest, 50ms) << "the main thread was held up";
+    }
+};
+
+struct SMCFaultRow {
+    const char* name;
+    FaultySMC::Fault fault;
+};
+
+std::vector<SMCFaultRow> smcFaults() {
+    struct Call {
+        const char* name;
+        std::uint8_t command;
+        std::optional<std::uint32_t> key;
+    };
+    const Call calls[] = {
+        {"the number of keys", SMCCommand::readKey, smcFourCC("#KEY")},
+        {"a key's name", SMCCommand::getKeyFromIndex, {}},
+        {"a key's description", SMCCommand::getKeyInfo, {}},
+        {"the number of fans", SMCCommand::readKey, smcFourCC("FNum")},
+        {"a fan's speed", SMCCommand::readKey, smcFourCC("F1Ac")},
+        {"any value", SMCCommand::readKey, {}},
+    };
+    using Kind = FaultySMC::Kind;
+    std::vector<SMCFaultRow> rows;
+    for (const Call& call : calls) {
+        for (const Kind kind :
+             {Kind::kernelFails, Kind::refuses, Kind::answersZeros, Kind::answersNonsense}) {
+            for (const bool isForGood : {false, true})
+                rows.push_back({call.name, {call.command, kind, isForGood, call.key}});
+        }
+    }
+    return rows;
+}
+
+/// What is wrong with a description stays: it is asked for once, as long as it is answered.
+bool isRememberedFromTheStart(const FaultySMC::Fault& fault) {
+    return fault.command == SMCCommand::getKeyInfo && fault.isForGood &&
+           (fault.kind == FaultySMC::Kind::answersZeros ||
+            fault.kind == FaultySMC::Kind::answersNonsense);
+}
+
+TEST_F(FaultTest, EveryCallToTheSMCMayFailFromTheStartOrLater) {
+    for (const SMCFaultRow& row : smcFaults()) {
+        for (const bool isFromTheStart : {true, false}) {
+            SCOPED_TRACE(testing::Message()
+                         << row.name << ", kind " << static_cast<int>(row.fault.kind)
+                         << (row.fault.isForGood ? ", for good" : ", once")
+                         << (isFromTheStart ? ", from the start" : ", while it runs"));
+            expectNoStalls([&] {
+                RunningState mac;
+                if (!isFromTheStart) {
+                    mac.start();
+                    ASSERT_TRUE(mac.regainsControl());
+                }
+                mac.kernel->setFault(row.fault);
+                if (isFromTheStart)
+                    mac.start();
+                EXPECT_TRUE(mac.takesSamples(4)) << "samples go on";
+                mac.kernel->setFault({});
+                if (isFromTheStart && isRememberedFromTheStart(row.fault))
+                    EXPECT_TRUE(mac.takesSamples(1));
+                else
+                    EXPECT_TRUE(mac.regainsControl());
+                EXPECT_FALSE(mac.helper.wasAskedNonsense);
+                mac.quit();
+                EXPECT_FALSE(mac.helper.isHolding);
+            });
+        }
+    }
+}
+
+TEST_F(FaultTest, AnSMCThatDoesNotOpenLeavesEverythingElseAlive) {
+    const std::function<void(SimulatedSMC&)> faults[] = {
+        [](SimulatedSMC& smc) { smc.setServices(SimulatedSMC::Services::none); },
+        [](SimulatedSMC& smc) { smc.setOpenResult(static_cast<std::int32_t>(0xe00002c5)); },
+    };
+    for (const auto& fault : faults) {
+        RunningState mac;
+        fault(*mac.smc);
+        mac.start();
+        QTest::qWait(200); // past the delay of a push
+        EXPECT_EQ(mac.samples, 0);
+        EXPECT_EQ(mac.helper.connectionsMade, 0);
+        mac.quit();
+    }
+}
+
+TEST_F(FaultTest, ASlowSMCDelaysNobody) {
+    expectNoStalls([] {
+        RunningState mac;
+        mac.start();
+        ASSERT_TRUE(mac.regainsControl());
+        mac.smc->setCallObserver([](const SMCParamStruct&) { QThread::msleep(60); });
+        QTest::qWait(150);
+        mac.quit();
+        EXPECT_FALSE(mac.helper.isHolding);
+    });
+}
+
+TEST_F(FaultTest, FansThatVanishAreTakenAgainWhenTheyComeBack) {
+    using Fault = SimulatedSMC::Fault;
+    RunningState mac;
+    mac.start();
+    for (const char* key : {"FNum", "F0Ac", "F1Mx"}) {
+        ASSERT_TRUE(mac.regainsControl()) << key;
+        mac.smc->setFault(key, Fault::missing);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !mac.state->engine().isOverriding(); }, limit));
+        EXPECT_TRUE(mac.state->engine().requestedPercents().isEmpty());
+        mac.smc->setFault(key, std::nullopt);
+    }
+    ASSERT_TRUE(mac.regainsControl());
+    // A fan less is a list of targets less, and the other way round.
+    mac.smc->setByte("FNum", 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return mac.helper.targets.size() == 1; }, limit));
+    mac.smc->setByte("FNum", 2);
+    EXPECT_TRUE(mac.regainsControl());
+    mac.quit();
+}
+
+TEST_F(FaultTest, NoSpeedThatAFanReportsReachesTheHelperUnchecked) {
+    constexpr float inf = std::numeric_limits<float>::infinity();
+    RunningState mac;
+    mac.start();
+    ASSERT_TRUE(mac.regainsControl());
+    for (const char* suffix : {"Ac", "Tg", "Mn", "Mx"}) {
+        for (const float speed :
+             {std::numeric_limits<float>::quiet_NaN(), inf, -inf, 1e-42F, -1.0F, 3e38F, 0.0F}) {
+            SCOPED_TRACE(testing::Message() << suffix << " is " << speed);
+            const auto bytes = encodeFloat(speed);
+            mac.smc->holdValue(std::string("F0") + suffix, {bytes.begin(), bytes.end()});
+            ASSERT_TRUE(mac.takesSamples(3));
+            EXPECT_FALSE(mac.helper.wasAskedNonsense);
+            EXPECT_EQ(mac.helper.targets.at(1), 6000) << "the other fan is driven all the same";
+            EXPECT_EQ(mac.state->helper().state(), HelperState::installed);
+            mac.smc->setFault(std::string("F0") + suffix, std::nullopt);
+        }
+    }
+    EXPECT_TRUE(mac.regainsControl());
+    mac.quit();
+}
+
+TEST_F(FaultTest, AHelperMayFailAtEachStepOfAPushAndOfQuitting) {
+    for (const Answer answer :
+         {Answer::silent, Answer::late, Answer::broken, Answer::invalidated, Answer::empty,
+          Answer::tooShort, Answer::tooLong, Answer::nonsense, Answer::otherVersion}) {
+        for (const Method method :
+             {Method::setTargets, Method::status, Method::releaseControl, Method::shutDown}) {
+            SCOPED_TRACE(testing::Message() << "method " << static_cast<int>(method) << ", answer "
+                                            << static_cast<int>(answer));
+            expectNoStalls([&] {
+                RunningState mac;
+                mac.start();
+                ASSERT_TRUE(mac.regainsControl());
+                mac.helper.answers = {{method, answer}};
+                EXPECT_TRUE(mac.takesSamples(6));
+                EXPECT_EQ(mac.state->helper().isHelperOutdated(),
+                          method == Method::status && answer == Answer::otherVersion);
+                mac.helper.answers.clear();
+                EXPECT_TRUE(mac.regainsControl());
+
+                mac.helper.answers = {{method, answer}};
+                mac.quit();
+                const bool wasCutOff = answer == Answer::broken || answer == Answer::invalidated;
+                EXPECT_FALSE(mac.helper.isHolding && !wasCutOff);
+            });
+        }
+    }
+}
+
+TEST_F(FaultTest, ASilentHelperIsOwedNoMoreThanTheTimeOutLetsThrough) {
+    RunningState mac;
+    mac.helper.answers = {{Method::setTargets, Answer::silent}, {Method::status, Answer::silent}};
+    const SMCFanReading fan{.minRPM = 1200, .maxRPM = 6000};
+    for (int sample = 0; sample < 60; ++sample) {
+        mac.state->telemetry().ingest({.timestamp = mac.clock(), .fans = {fan, fan}});
+        QTest::qWait(interval.count());
+    }
+    // Two by the clock, and one because the user had just asked for something.
+    EXPECT_LE(mac.helper.mostWaiting, 3);
+    mac.helper.answers.clear();
+    mac.start();
+    EXPECT_TRUE(mac.regainsControl());
+    mac.quit();
+}
+
+TEST_F(FaultTest, AHelperThatDiesAgainAndAgainIsFoundAgain) {
+    RunningState mac;
+    mac.start();
+    for (int round = 0; round < 20; ++round) {
+        ASSERT_TRUE(mac.regainsControl()) << round;
+        mac.takesSamples(round % 3);
+        mac.helper.restart();
+        EXPECT_FALSE(mac.helper.isHolding);
+    }
+    EXPECT_TRUE(mac.regainsControl());
+    EXPECT_EQ(mac.helper.connectionsMade, 1) << "an interrupted connection is kept";
+    mac.quit();
+}
+
+TEST_F(FaultTest, APasswordThatNobodyTypesHoldsNothingUp) {
+    RunningState mac;
+    mac.start();
+    ASSERT_TRUE(mac.regainsControl());
+    auto installation = mac.state->helper().install();
+    ASSERT_TRUE(mac.scriptRunner.isAsking);
+    mac.helper.restart();
+    EXPECT_TRUE(mac.regainsControl()) << "behind the dialog";
+    mac.quit();
+    mac.state.reset();
+    mac.scriptRunner.cancel();
+    EXPECT_FALSE(QCoro::waitFor(std::move(installation)));
+}
+
+TEST_F(FaultTest, AClockThatJumpsMovesNoFan) {
+    RunningState mac;
+    mac.state->presets().setActivePresetID(FanPreset::coolID);
+    mac.state->engine().setQuickBoostPercent(0);
+    std::atomic<std::chrono::seconds> offset{0s};
+    mac.clock = [&] { return std::chrono::system_clock::now() + offset.load(); };
+    mac.start();
+    const auto isDriven = [&] { return mac.state->engine().isOverriding(); };
+    ASSERT_TRUE(QTest::qWaitFor(isDriven, limit));
+    const auto before = mac.helper.targets;
+    for (const auto jump : {3600s, 0s, -3600s, 1'800'000'000s, 0s}) {
+        offset = jump;
+        ASSERT_TRUE(mac.takesSamples(3));
+        EXPECT_TRUE(isDriven());
+        EXPECT_EQ(mac.helper.targets, before) << jump.count();
+    }
+    mac.quit();
+}
+
+} // namespace
+} // namespace kestrowind
