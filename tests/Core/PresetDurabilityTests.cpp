@@ -213,15 +213,17 @@ TEST_F(PresetDurabilityTest, KeepsEveryDamagedFile) {
     // Every damage is decoded; a store is made of some, and saves over fewer.
     for (qsizetype length = 0; length < before.size(); ++length) {
         (void)decodePresets(before.left(length));
-        if (length % 32 == 0)
+        if (length % 32 == 0) {
             ASSERT_NO_FATAL_FAILURE(check(before.left(length), length % 256 == 0)) << length;
+        }
     }
     for (qsizetype bit = 0; bit < 8 * before.size(); ++bit) {
         QByteArray damaged = before;
         damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << (bit % 8)));
         (void)decodePresets(damaged);
-        if (bit % 61 == 0)
+        if (bit % 61 == 0) {
             ASSERT_NO_FATAL_FAILURE(check(damaged, bit % 2013 == 0)) << "bit " << bit;
+        }
     }
 }
 

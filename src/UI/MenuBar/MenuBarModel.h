@@ -6,7 +6,7 @@
 #include "UI/MenuBar/RowListModel.h"
 
 #include <QObject>
-#include <QtQml/qqmlregistration.h>
+#include <QtQml/qqml.h>
 
 #include <memory>
 
