@@ -42,6 +42,8 @@ std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
 Scenes::Scenes(AppState& appState, Platform& platform)
     : m_systemAppearance(platform.systemAppearance())
     , m_startsHidden(platform.userDefaults->boolean(u"StartHidden"_s))
+    , m_notifications(platform.notifications())
+    , m_alertNotifier(appState, *platform.userDefaults, *m_notifications)
     , m_helperOperation(appState.helper())
     , m_mainWindow(appState, *platform.userDefaults, *platform.activationPolicy,
                    m_systemAppearance.get())
@@ -50,12 +52,18 @@ Scenes::Scenes(AppState& appState, Platform& platform)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 
-    m_mainWindow.setSectionViews(sectionViews(appState, platform, m_helperOperation));
+    m_mainWindow.setSectionViews(
+        sectionViews(appState, platform, m_helperOperation));
     appState.setOpenMainWindow([this] { m_mainWindow.show(); });
     connect(&m_menuBarExtra, &MenuBarExtra::openMainWindowRequested, &m_mainWindow,
             &MainWindowScene::show);
     connect(&m_menuBarExtra, &MenuBarExtra::quitRequested, this, &Scenes::quitRequested);
     connect(&m_mainWindow, &MainWindowScene::quitRequested, this, &Scenes::quitRequested);
+
+    connect(m_notifications.get(), &Notifications::activated, &m_mainWindow,
+            &MainWindowScene::show);
+    connect(m_notifications.get(), &Notifications::notShown, &m_menuBarExtra,
+            &MenuBarExtra::showMessage);
 
     m_trayWait.setSingleShot(true);
     m_trayWait.setInterval(trayWait);

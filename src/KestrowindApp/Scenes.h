@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Core/AlertNotifier.h"
+#include "Platform/Notifications.h"
 #include "Platform/SystemAppearance.h"
 #include "UI/MainWindow/MainWindowScene.h"
 #include "UI/MenuBar/MenuBarExtra.h"
@@ -38,6 +40,8 @@ Q_SIGNALS:
 private:
     std::unique_ptr<SystemAppearance> m_systemAppearance;
     bool m_startsHidden;
+    std::unique_ptr<Notifications> m_notifications;
+    AlertNotifier m_alertNotifier;
     HelperOperation m_helperOperation;
     MainWindowScene m_mainWindow;
     MenuBarExtra m_menuBarExtra;
