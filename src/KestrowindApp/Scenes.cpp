@@ -15,11 +15,11 @@ namespace {
 using namespace Qt::StringLiterals;
 
 std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
-                                      HelperOperation& helperOperation) {
+                                      FileDialogs& fileDialogs, HelperOperation& helperOperation) {
     return {
         {.section = MainSection::dashboard,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
-         .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
+         .makeModel = [&] { return std::make_unique<DashboardModel>(appState, fileDialogs); }},
         {.section = MainSection::presets,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Presets/PresetsRootView.qml"_s),
          .makeModel = [&appState] { return std::make_unique<PresetsModel>(appState); }},
@@ -53,7 +53,7 @@ Scenes::Scenes(AppState& appState, Platform& platform)
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 
     m_mainWindow.setSectionViews(
-        sectionViews(appState, platform, m_helperOperation));
+        sectionViews(appState, platform, m_fileDialogs, m_helperOperation));
     appState.setOpenMainWindow([this] { m_mainWindow.show(); });
     connect(&m_menuBarExtra, &MenuBarExtra::openMainWindowRequested, &m_mainWindow,
             &MainWindowScene::show);
