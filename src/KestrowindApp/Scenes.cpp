@@ -22,7 +22,7 @@ std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
          .makeModel = [&] { return std::make_unique<DashboardModel>(appState, fileDialogs); }},
         {.section = MainSection::presets,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Presets/PresetsRootView.qml"_s),
-         .makeModel = [&appState] { return std::make_unique<PresetsModel>(appState); }},
+         .makeModel = [&] { return std::make_unique<PresetsModel>(appState, fileDialogs); }},
         {.section = MainSection::settings,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Settings/SettingsRootView.qml"_s),
          .makeModel =

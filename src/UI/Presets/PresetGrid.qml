@@ -76,7 +76,14 @@ Item {
         height: root.cardHeight
         canCreate: root.model.canAddPreset
         onClicked: root.model.createPreset()
+        onContextMenuRequested: at => newMenu.show(newCard, at)
         Keys.onLeftPressed: root.focusCard(cards.count - 1)
+    }
+
+    NewPresetMenu {
+        id: newMenu
+
+        screen: root.model
     }
 
     PresetContextMenu {
