@@ -28,7 +28,7 @@ std::vector<Alert> AlertRules::take(const TelemetrySample& sample,
     return alerts;
 }
 
-bool AlertRules::Watch::take(bool isHolding, TimePoint now, std::chrono::seconds patience) {
+bool AlertRules::Watch::take(bool isHolding, TimePoint now, std::chrono::seconds wait) {
     const bool isUnbroken = m_last && now >= *m_last && now - *m_last <= longestGap;
     m_last = now;
     // A clock that was set back must not stretch the silence.
@@ -40,7 +40,7 @@ bool AlertRules::Watch::take(bool isHolding, TimePoint now, std::chrono::seconds
     }
     if (!m_since || !isUnbroken)
         m_since = now;
-    if (now - *m_since < patience || (m_told && now - *m_told < silence))
+    if (now - *m_since < wait || (m_told && now - *m_told < silence))
         return false;
     m_told = now;
     return true;

@@ -61,8 +61,8 @@ private:
     /// One condition over time.
     class Watch {
     public:
-        /// Whether to tell of it now.
-        [[nodiscard]] bool take(bool isHolding, TimePoint now, std::chrono::seconds patience);
+        /// Whether to tell of it now, when it has to hold for `wait`.
+        [[nodiscard]] bool take(bool isHolding, TimePoint now, std::chrono::seconds wait);
 
     private:
         std::optional<TimePoint> m_since; ///< absent while it does not hold

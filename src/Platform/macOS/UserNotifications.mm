@@ -76,11 +76,10 @@ void UserNotifications::show(const Notification& notification) {
     // Handlers may come on any thread.
     const auto fail = [self = QPointer(this), notification](const QString& reason) {
         qCDebug(notificationsLog).noquote() << "not shown:" << reason;
-        QMetaObject::invokeMethod(
-            qApp, [=] {
-                if (self)
-                    Q_EMIT self->notShown(notification);
-            });
+        QMetaObject::invokeMethod(qApp, [=] {
+            if (self)
+                Q_EMIT self->notShown(notification);
+        });
     };
     if (!m_link) {
         fail(QStringLiteral("the program is not in a bundle"));
@@ -96,20 +95,21 @@ void UserNotifications::show(const Notification& notification) {
                                              content:content
                                              trigger:nil];
     UNUserNotificationCenter* center = m_link->center;
-    const auto wanted =
-        static_cast<UNAuthorizationOptions>(UNAuthorizationOptionAlert | UNAuthorizationOptionSound);
+    const auto wanted = static_cast<UNAuthorizationOptions>(UNAuthorizationOptionAlert |
+                                                            UNAuthorizationOptionSound);
     [center requestAuthorizationWithOptions:wanted
                           completionHandler:^(BOOL granted, NSError* refusal) {
-                            if (!granted) {
-                                fail(refusal ? QString::fromNSString(refusal.localizedDescription)
-                                             : QStringLiteral("the user does not want any"));
-                                return;
-                            }
-                            [center addNotificationRequest:request
-                                     withCompletionHandler:^(NSError* error) {
+                              if (!granted) {
+                                  fail(refusal ? QString::fromNSString(refusal.localizedDescription)
+                                               : QStringLiteral("the user does not want any"));
+                                  return;
+                              }
+                              [center
+                                  addNotificationRequest:request
+                                   withCompletionHandler:^(NSError* error) {
                                        if (error)
                                            fail(QString::fromNSString(error.localizedDescription));
-                                     }];
+                                   }];
                           }];
 }
 
