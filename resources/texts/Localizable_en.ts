@@ -3,6 +3,31 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
+    <message id="alert.fanStandsStill.body">
+        <extracomment>%1: revolutions per minute</extracomment>
+        <translation>It should be turning at %1 rpm. If it does not start again, let the Mac cool down and have the fan looked at.</translation>
+    </message>
+    <message id="alert.fanStandsStill.title">
+        <extracomment>%1: the fan’s name</extracomment>
+        <translation>%1 stands still</translation>
+    </message>
+    <message id="alert.helperFailed.body">
+        <translation>The helper cannot drive the fans.</translation>
+    </message>
+    <message id="alert.helperFailed.bodyWithReason">
+        <extracomment>%1: what the helper said</extracomment>
+        <translation>The helper cannot drive the fans: %1</translation>
+    </message>
+    <message id="alert.helperFailed.title">
+        <translation>Fan control has failed</translation>
+    </message>
+    <message id="alert.overheating.body">
+        <extracomment>%1: whole degrees</extracomment>
+        <translation>The hottest sensor has been above 100 °C for ten seconds. It is at %1 °C now.</translation>
+    </message>
+    <message id="alert.overheating.title">
+        <translation>The Mac is very hot</translation>
+    </message>
     <message id="app.window.mainTitle">
         <translation>Kestrowind</translation>
     </message>
@@ -162,6 +187,22 @@
     </message>
     <message id="dashboard.history.collectingTitle">
         <translation>Collecting Data</translation>
+    </message>
+    <message id="dashboard.history.save.button">
+        <translation>Save History…</translation>
+    </message>
+    <message id="dashboard.history.save.failed">
+        <translation>The history could not be saved</translation>
+    </message>
+    <message id="dashboard.history.save.fileKind">
+        <translation>CSV table</translation>
+    </message>
+    <message id="dashboard.history.save.fileName">
+        <extracomment>%1: date and time</extracomment>
+        <translation>Kestrowind %1</translation>
+    </message>
+    <message id="dashboard.history.save.title">
+        <translation>Save History</translation>
     </message>
     <message id="dashboard.history.title">
         <translation>History</translation>
@@ -358,6 +399,15 @@
     <message id="presets.contextMenu.duplicate">
         <translation>Duplicate</translation>
     </message>
+    <message id="presets.contextMenu.export">
+        <translation>Export…</translation>
+    </message>
+    <message id="presets.contextMenu.import">
+        <translation>Import…</translation>
+    </message>
+    <message id="presets.contextMenu.new">
+        <translation>New Preset</translation>
+    </message>
     <message id="presets.contextMenu.rename">
         <translation>Rename…</translation>
     </message>
@@ -384,12 +434,56 @@
     <message id="presets.explainer">
         <translation>Click a card to let its preset drive the fans. Drag cards to arrange them; the row above follows their order.</translation>
     </message>
+    <message id="presets.export.failed">
+        <extracomment>%1: a file’s name</extracomment>
+        <translation>“%1” could not be written</translation>
+    </message>
+    <message id="presets.export.notFinite">
+        <translation>One of its curves has a point that is not a number.</translation>
+    </message>
+    <message id="presets.export.title">
+        <translation>Export Preset</translation>
+    </message>
+    <message id="presets.file.kind">
+        <translation>Kestrowind preset</translation>
+    </message>
+    <message id="presets.import.failed">
+        <extracomment>%1: a file’s name</extracomment>
+        <translation>“%1” could not be imported</translation>
+    </message>
+    <message id="presets.import.noCurve">
+        <translation>The preset has no curve.</translation>
+    </message>
+    <message id="presets.import.noName">
+        <translation>The preset has no name.</translation>
+    </message>
+    <message id="presets.import.notAPreset">
+        <translation>It is not a preset that Kestrowind has exported.</translation>
+    </message>
+    <message id="presets.import.pointOutOfRange">
+        <translation>A point of its curves is not between 20 and 110 °C and 0 and 100 %.</translation>
+    </message>
+    <message id="presets.import.pointsOutOfOrder">
+        <translation>The points of its curves are not in the order of their temperatures.</translation>
+    </message>
+    <message id="presets.import.several">
+        <translation>It holds more than one preset.</translation>
+    </message>
+    <message id="presets.import.title">
+        <translation>Import Preset</translation>
+    </message>
+    <message id="presets.import.tooMuch">
+        <translation>Its name or its curves are longer than any that Kestrowind makes.</translation>
+    </message>
     <message id="presets.limitReachedHelp">
         <extracomment>%1: how many presets of their own users may have</extracomment>
         <translation>There can be %1 presets of your own. Delete one to make room.</translation>
     </message>
     <message id="presets.newPresetDefaultName">
         <translation>New Preset</translation>
+    </message>
+    <message id="presets.newPresetHelp">
+        <translation>Its menu imports a preset from a file</translation>
     </message>
     <message id="presets.rename.confirm">
         <translation>Rename</translation>
@@ -505,6 +599,30 @@
     </message>
     <message id="settings.helper.workingSpinner">
         <translation>Waiting for the administrator script</translation>
+    </message>
+    <message id="settings.notifications.helperFailure.subtitle">
+        <translation>The helper could not take or keep control of them.</translation>
+    </message>
+    <message id="settings.notifications.helperFailure.title">
+        <translation>The fans cannot be controlled</translation>
+    </message>
+    <message id="settings.notifications.overheating.subtitle">
+        <translation>The hottest sensor stays above 100 °C for ten seconds.</translation>
+    </message>
+    <message id="settings.notifications.overheating.title">
+        <translation>The Mac is very hot</translation>
+    </message>
+    <message id="settings.notifications.sectionTitle">
+        <translation>Notifications</translation>
+    </message>
+    <message id="settings.notifications.standingFan.subtitle">
+        <translation>It was told to turn and has not for ten seconds.</translation>
+    </message>
+    <message id="settings.notifications.standingFan.title">
+        <translation>A fan stands still</translation>
+    </message>
+    <message id="shared.dialog.ok">
+        <translation>OK</translation>
     </message>
     <message id="shared.fan.left">
         <translation>Left fan</translation>

@@ -146,6 +146,17 @@ std::optional<FanPreset> PresetStore::duplicate(const FanPreset& source) {
     return copy;
 }
 
+std::optional<FanPreset> PresetStore::adopt(FanPreset preset) {
+    if (!canAddPreset())
+        return std::nullopt;
+    preset.id = QUuid::createUuid();
+    preset.isBuiltIn = false;
+    while (std::ranges::find(m_presets, preset.name, &FanPreset::name) != m_presets.end())
+        preset.name = localized("presets.duplicate.name").arg(preset.name);
+    append(preset);
+    return preset;
+}
+
 void PresetStore::append(const FanPreset& added) {
     m_presets.append(added);
     reconcileSlots();

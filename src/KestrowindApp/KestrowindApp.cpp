@@ -1,5 +1,6 @@
 #include "KestrowindApp/KestrowindApp.h"
 
+#include "Core/AlertNotifier.h"
 #include "Core/SMCDiagnostics.h"
 
 #include <QCoreApplication>
@@ -15,6 +16,7 @@ KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& 
     , m_appState(m_platform)
     , m_delegate(m_platform) {
     m_platform.userDefaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
+    registerAlertDefaults(*m_platform.userDefaults);
     connect(&m_delegate, &AppDelegate::replyToShouldTerminate, this,
             [this] { m_platform.application->replyToShouldTerminate(); });
     if (options.readings) {

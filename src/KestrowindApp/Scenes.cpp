@@ -17,13 +17,13 @@ namespace {
 using namespace Qt::StringLiterals;
 
 std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
-                                      HelperOperation& helperOperation) {
+                                      FileDialogs& fileDialogs, HelperOperation& helperOperation) {
     // Outlives the section, which is there only while it can be seen.
     const auto curveEdits = std::make_shared<CurveEditHistory>();
     return {
         {.section = MainSection::dashboard,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s),
-         .makeModel = [&appState] { return std::make_unique<DashboardModel>(appState); }},
+         .makeModel = [&] { return std::make_unique<DashboardModel>(appState, fileDialogs); }},
         {.section = MainSection::curves,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Curves/CurvesRootView.qml"_s),
          .makeModel =
@@ -32,7 +32,7 @@ std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
              }},
         {.section = MainSection::presets,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Presets/PresetsRootView.qml"_s),
-         .makeModel = [&appState] { return std::make_unique<PresetsModel>(appState); }},
+         .makeModel = [&] { return std::make_unique<PresetsModel>(appState, fileDialogs); }},
         {.section = MainSection::settings,
          .qmlUrl = QUrl(u"qrc:/qt/qml/Kestrowind/Settings/SettingsRootView.qml"_s),
          .makeModel =
@@ -52,6 +52,8 @@ std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
 Scenes::Scenes(AppState& appState, Platform& platform)
     : m_systemAppearance(platform.systemAppearance())
     , m_startsHidden(platform.userDefaults->boolean(u"StartHidden"_s))
+    , m_notifications(platform.notifications())
+    , m_alertNotifier(appState, *platform.userDefaults, *m_notifications)
     , m_helperOperation(appState.helper())
     , m_mainWindow(appState, *platform.userDefaults, *platform.activationPolicy,
                    m_systemAppearance.get())
@@ -60,12 +62,18 @@ Scenes::Scenes(AppState& appState, Platform& platform)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 
-    m_mainWindow.setSectionViews(sectionViews(appState, platform, m_helperOperation));
+    m_mainWindow.setSectionViews(
+        sectionViews(appState, platform, m_fileDialogs, m_helperOperation));
     appState.setOpenMainWindow([this] { m_mainWindow.show(); });
     connect(&m_menuBarExtra, &MenuBarExtra::openMainWindowRequested, &m_mainWindow,
             &MainWindowScene::show);
     connect(&m_menuBarExtra, &MenuBarExtra::quitRequested, this, &Scenes::quitRequested);
     connect(&m_mainWindow, &MainWindowScene::quitRequested, this, &Scenes::quitRequested);
+
+    connect(m_notifications.get(), &Notifications::activated, &m_mainWindow,
+            &MainWindowScene::show);
+    connect(m_notifications.get(), &Notifications::notShown, &m_menuBarExtra,
+            &MenuBarExtra::showMessage);
 
     m_trayWait.setSingleShot(true);
     m_trayWait.setInterval(trayWait);

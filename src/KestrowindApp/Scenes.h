@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Core/AlertNotifier.h"
+#include "Platform/Notifications.h"
 #include "Platform/SystemAppearance.h"
+#include "UI/FileDialogs/WidgetFileDialogs.h"
 #include "UI/MainWindow/MainWindowScene.h"
 #include "UI/MenuBar/MenuBarExtra.h"
 #include "UI/Settings/HelperOperation.h"
@@ -38,6 +41,9 @@ Q_SIGNALS:
 private:
     std::unique_ptr<SystemAppearance> m_systemAppearance;
     bool m_startsHidden;
+    std::unique_ptr<Notifications> m_notifications;
+    AlertNotifier m_alertNotifier;
+    WidgetFileDialogs m_fileDialogs;
     HelperOperation m_helperOperation;
     MainWindowScene m_mainWindow;
     MenuBarExtra m_menuBarExtra;

@@ -5,6 +5,7 @@
 #include "Platform/ApplicationObject.h"
 #include "Platform/HelperConnection.h"
 #include "Platform/LoginItem.h"
+#include "Platform/Notifications.h"
 #include "Platform/RunningApplications.h"
 #include "Platform/SystemAppearance.h"
 #include "Platform/SystemInformation.h"
@@ -30,6 +31,8 @@ struct Platform {
     /// Called when there is something to show: a run without windows asks nobody for a colour
     /// scheme.
     SystemAppearanceFactory systemAppearance;
+    /// The same: a run without windows connects to nobody.
+    NotificationsFactory notifications;
 };
 
 /// What has to be set for this system's desktop before the application object is made.

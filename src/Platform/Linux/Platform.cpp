@@ -1,6 +1,7 @@
 #include "Platform/Platform.h"
 
 #include "Platform/Linux/AutostartEntry.h"
+#include "Platform/Linux/BusNotifications.h"
 #include "Platform/Linux/EventLoopApplication.h"
 #include "Platform/Linux/HelperBus.h"
 #include "Platform/Linux/LinuxRunningApplications.h"
@@ -74,6 +75,9 @@ Platform makePlatform(const QStringList& arguments) {
         .smc = machineSMC(),
         .systemAppearance = []() -> std::unique_ptr<SystemAppearance> {
             return std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
+        },
+        .notifications = []() -> std::unique_ptr<Notifications> {
+            return std::make_unique<BusNotifications>(QDBusConnection::sessionBus());
         },
     };
 }

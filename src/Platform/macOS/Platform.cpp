@@ -8,6 +8,7 @@
 #include "Platform/macOS/IOKitUserClient.h"
 #include "Platform/macOS/NativeDefaults.h"
 #include "Platform/macOS/SystemLog.h"
+#include "Platform/macOS/UserNotifications.h"
 #include "Platform/macOS/WorkspaceApplications.h"
 #include "Platform/macOS/XPCHelperConnection.h"
 
@@ -36,6 +37,9 @@ Platform makePlatform(const QStringList& arguments) {
         .smc = [] { return std::make_shared<IOKitUserClient>(); },
         // The toolkit's palette follows the system's light and dark.
         .systemAppearance = []() -> std::unique_ptr<SystemAppearance> { return nullptr; },
+        .notifications = []() -> std::unique_ptr<Notifications> {
+            return std::make_unique<UserNotifications>();
+        },
     };
 }
 

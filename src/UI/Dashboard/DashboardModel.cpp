@@ -10,9 +10,10 @@
 
 namespace kestrowind {
 
-DashboardModel::DashboardModel(AppState& appState, QObject* parent)
+DashboardModel::DashboardModel(AppState& appState, FileDialogs& fileDialogs, QObject* parent)
     : QObject(parent)
-    , m_appState(appState) {
+    , m_appState(appState)
+    , m_historyExport(appState.telemetry(), fileDialogs) {
     // The history changes with every sample, once the store has taken in all of it.
     connect(&appState.telemetry(), &TelemetryStore::historyChanged, this,
             &DashboardModel::takeSample);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UI/Dashboard/FanGaugeRows.h"
+#include "UI/Dashboard/HistoryExport.h"
 #include "UI/Dashboard/LineChart.h"
 #include "UI/Dashboard/TemperatureFacts.h"
 
@@ -30,6 +31,7 @@ class DashboardModel final : public QObject {
     Q_PROPERTY(bool hasHistory READ hasHistory NOTIFY hasHistoryChanged FINAL)
     Q_PROPERTY(kestrowind::LineChart temperatures READ temperatures NOTIFY historyChanged FINAL)
     Q_PROPERTY(kestrowind::LineChart fanSpeeds READ fanSpeeds NOTIFY historyChanged FINAL)
+    Q_PROPERTY(kestrowind::HistoryExport* historyExport READ historyExport CONSTANT FINAL)
     Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")
@@ -42,8 +44,8 @@ public:
     };
     Q_ENUM(State)
 
-    /// The state must outlive the model.
-    explicit DashboardModel(AppState& appState, QObject* parent = nullptr);
+    /// Both must outlive the model.
+    DashboardModel(AppState& appState, FileDialogs& fileDialogs, QObject* parent = nullptr);
     ~DashboardModel() override;
 
     [[nodiscard]] static State select(const TelemetryStore& telemetry);
@@ -58,6 +60,8 @@ public:
     [[nodiscard]] bool hasHistory() const { return m_hasHistory; }
     [[nodiscard]] const LineChart& temperatures() const { return m_temperatures; }
     [[nodiscard]] const LineChart& fanSpeeds() const { return m_fanSpeeds; }
+
+    [[nodiscard]] HistoryExport* historyExport() { return &m_historyExport; }
 
     /// The item that shows the model; without one the model counts as seen.
     [[nodiscard]] QQuickItem* view() const { return m_view; }
@@ -90,6 +94,7 @@ private:
     bool m_hasHistory = false;
     LineChart m_temperatures;
     LineChart m_fanSpeeds;
+    HistoryExport m_historyExport;
     QPointer<QQuickItem> m_view;
     std::unique_ptr<VisibilityWatch> m_visibility;
 };

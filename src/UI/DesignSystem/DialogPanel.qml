@@ -10,7 +10,7 @@ T.Dialog {
 
     property string message
     property string confirmText
-    property string cancelText
+    property string cancelText // none: there is nothing to decide
     property bool destructive: false
     property bool canConfirm: true
     readonly property Item confirmButton: confirm
@@ -105,12 +105,15 @@ T.Dialog {
             Row {
                 id: buttons
 
-                readonly property real buttonWidth: (width - spacing) / 2
+                readonly property real buttonWidth: cancel.visible ? (width - spacing) / 2 : width
 
                 width: parent.width
                 spacing: Spacing.small
 
                 PushButton {
+                    id: cancel
+
+                    visible: root.cancelText.length > 0
                     width: buttons.buttonWidth
                     height: 30
                     text: root.cancelText

@@ -54,6 +54,8 @@ constexpr std::array table = {
     Entry{"power"_L1, 0xe8ac},                                              // power_settings_new
     Entry{"shield.slash.fill"_L1, 0xe9d4},                                  // remove_moderator
     Entry{"snowflake"_L1, 0xeb3b},                                          // ac_unit
+    Entry{"square.and.arrow.down"_L1, 0xe171},                              // save_alt
+    Entry{"square.and.arrow.up"_L1, 0xe2c6},                                // file_upload
     Entry{"square.stack.3d.up"_L1, 0xe53b},                                 // layers
     Entry{"trash"_L1, 0xe872},                                              // delete
     Entry{"tray.full"_L1, 0xe156},                                          // inbox

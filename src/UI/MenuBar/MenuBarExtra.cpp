@@ -3,6 +3,7 @@
 #include "Core/AppState.h"
 #include "Core/LocalizedText.h"
 #include "Core/Logging.h"
+#include "Platform/Notifications.h"
 #include "UI/MenuBar/MenuBarPanel.h"
 
 #include <QCursor>
@@ -56,6 +57,8 @@ void MenuBarExtra::showIcon() {
     connect(m_panel.get(), &MenuBarPanel::quitRequested, this, &MenuBarExtra::quitRequested);
     m_trayIcon = std::make_unique<QSystemTrayIcon>();
     connect(m_trayIcon.get(), &QSystemTrayIcon::activated, this, &MenuBarExtra::activated);
+    connect(m_trayIcon.get(), &QSystemTrayIcon::messageClicked, this,
+            &MenuBarExtra::openMainWindowRequested);
     if (!hasMenuBar()) {
         m_contextMenu = makeContextMenu();
         m_trayIcon->setContextMenu(m_contextMenu.get());
@@ -75,6 +78,11 @@ void MenuBarExtra::showIcon() {
 
     m_appState.setOpenMainWindow([this] { Q_EMIT openMainWindowRequested(); });
     Q_EMIT availableChanged();
+}
+
+void MenuBarExtra::showMessage(const Notification& notification) {
+    if (m_trayIcon)
+        m_trayIcon->showMessage(notification.title, notification.body, m_icon.icon());
 }
 
 void MenuBarExtra::updateIcon() {

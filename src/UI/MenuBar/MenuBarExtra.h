@@ -15,6 +15,7 @@ namespace kestrowind {
 
 class AppState;
 class MenuBarPanel;
+struct Notification;
 
 /// The application's permanent presence on the desktop: the reading in the menu bar or tray and
 /// the panel behind it. Needs a QApplication. Where there is no tray it waits for one.
@@ -28,6 +29,9 @@ public:
 
     /// Whether the icon is shown.
     [[nodiscard]] bool isAvailable() const { return m_trayIcon != nullptr; }
+    /// A balloon beside the icon, for a desktop that shows no notifications; nothing without a
+    /// tray.
+    void showMessage(const Notification& notification);
 
 Q_SIGNALS:
     /// A tray appeared; the icon is shown from now on.

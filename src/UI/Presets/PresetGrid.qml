@@ -77,7 +77,14 @@ Item {
         canCreate: root.model.canAddPreset
         limitHelp: root.model.limitHelp
         onClicked: root.model.createPreset()
+        onContextMenuRequested: at => newMenu.show(newCard, at)
         Keys.onLeftPressed: root.focusCard(cards.count - 1)
+    }
+
+    NewPresetMenu {
+        id: newMenu
+
+        screen: root.model
     }
 
     PresetContextMenu {

@@ -34,14 +34,16 @@ PresetCard card(const FanPreset& preset, bool isActive) {
 
 } // namespace
 
-PresetsModel::PresetsModel(AppState& appState, QObject* parent)
+PresetsModel::PresetsModel(AppState& appState, FileDialogs& fileDialogs, QObject* parent)
     : QObject(parent)
     , m_appState(appState)
+    , m_exchange(appState.presets(), fileDialogs)
     , m_canAddPreset(appState.presets().canAddPreset()) {
     const PresetStore& presets = appState.presets();
     connect(&presets, &PresetStore::presetsChanged, this, &PresetsModel::update);
     connect(&presets, &PresetStore::slotOrderChanged, this, &PresetsModel::update);
     connect(&presets, &PresetStore::activePresetIDChanged, this, &PresetsModel::update);
+    connect(&m_exchange, &PresetExchange::imported, this, &PresetsModel::tellCreated);
     update();
 }
 

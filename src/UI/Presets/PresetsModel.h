@@ -3,6 +3,7 @@
 #include "Core/FanPreset.h"
 #include "UI/Presets/CardGrid.h"
 #include "UI/Presets/PresetCards.h"
+#include "UI/Presets/PresetExchange.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -18,6 +19,7 @@ class AppState;
 class PresetsModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(kestrowind::PresetCards* cards READ cards CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::PresetExchange* exchange READ exchange CONSTANT FINAL)
     Q_PROPERTY(bool canAddPreset READ canAddPreset NOTIFY canAddPresetChanged FINAL)
     Q_PROPERTY(QString limitHelp READ limitHelp NOTIFY canAddPresetChanged FINAL)
     Q_PROPERTY(int activeRow READ activeRow NOTIFY activeRowChanged FINAL)
@@ -37,10 +39,11 @@ class PresetsModel final : public QObject {
     QML_UNCREATABLE("made with the application's state")
 
 public:
-    /// The state must outlive the model.
-    explicit PresetsModel(AppState& appState, QObject* parent = nullptr);
+    /// Both must outlive the model.
+    PresetsModel(AppState& appState, FileDialogs& fileDialogs, QObject* parent = nullptr);
 
     [[nodiscard]] PresetCards* cards() { return &m_cards; }
+    [[nodiscard]] PresetExchange* exchange() { return &m_exchange; }
     [[nodiscard]] bool canAddPreset() const { return m_canAddPreset; }
     /// Why no preset can be added; empty while one can.
     [[nodiscard]] QString limitHelp() const;
@@ -105,6 +108,7 @@ private:
 
     AppState& m_appState;
     PresetCards m_cards;
+    PresetExchange m_exchange;
     bool m_canAddPreset;
     int m_activeRow = 0;
     double m_availableWidth = 0;

@@ -9,6 +9,7 @@ SettingsModel::SettingsModel(const SettingsServices& services)
     : m_helper(services.helper, services.helperOperation)
     , m_fanBoost(services.userDefaults)
     , m_general(services.userDefaults, services.loginItem)
+    , m_notifications(services.userDefaults)
     , m_about(services.information, services.helper) {}
 
 SettingsModel::~SettingsModel() = default;

@@ -4,6 +4,7 @@
 #include "UI/Settings/FanBoostSettings.h"
 #include "UI/Settings/GeneralSettings.h"
 #include "UI/Settings/HelperSettings.h"
+#include "UI/Settings/NotificationSettings.h"
 
 #include <QObject>
 #include <QPointer>
@@ -25,12 +26,13 @@ struct SettingsServices {
     const SystemInformation& information;
 };
 
-/// The settings screen: a model for each of its four sections, and whether anybody can see it.
+/// The settings screen: a model for each of its sections, and whether anybody can see it.
 class SettingsModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(kestrowind::HelperSettings* helper READ helper CONSTANT FINAL)
     Q_PROPERTY(kestrowind::FanBoostSettings* fanBoost READ fanBoost CONSTANT FINAL)
     Q_PROPERTY(kestrowind::GeneralSettings* general READ general CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::NotificationSettings* notifications READ notifications CONSTANT FINAL)
     Q_PROPERTY(kestrowind::AboutSettings* about READ about CONSTANT FINAL)
     Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged FINAL)
     QML_ELEMENT
@@ -43,6 +45,7 @@ public:
     [[nodiscard]] HelperSettings* helper() { return &m_helper; }
     [[nodiscard]] FanBoostSettings* fanBoost() { return &m_fanBoost; }
     [[nodiscard]] GeneralSettings* general() { return &m_general; }
+    [[nodiscard]] NotificationSettings* notifications() { return &m_notifications; }
     [[nodiscard]] AboutSettings* about() { return &m_about; }
 
     /// The item that shows the model; without one nobody sees it.
@@ -58,6 +61,7 @@ private:
     HelperSettings m_helper;
     FanBoostSettings m_fanBoost;
     GeneralSettings m_general;
+    NotificationSettings m_notifications;
     AboutSettings m_about;
     QPointer<QQuickItem> m_view;
     std::unique_ptr<VisibilityWatch> m_visibility;

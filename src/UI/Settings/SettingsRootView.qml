@@ -38,6 +38,11 @@ Item {
             model: root.model.general
         }
 
+        NotificationSettingsSection {
+            width: parent.width
+            model: root.model.notifications
+        }
+
         AboutSettingsSection {
             width: parent.width
             model: root.model.about

@@ -3,6 +3,7 @@
 #include "Core/AppState.h"
 #include "Core/PreviewHelperClient.h"
 #include "Simulator/SimulatedSMC.h"
+#include "Support/FakeFileDialogs.h"
 #include "Support/TestDefaults.h"
 
 #include <algorithm>
@@ -59,6 +60,8 @@ struct DashboardMachine {
     AppState state{std::make_unique<TelemetryStore>(
                        *defaults, [] { return std::make_shared<SimulatedSMC>(); }),
                    std::make_unique<PreviewHelperClient>(), nullptr, nullptr};
+
+    FakeFileDialogs fileDialogs;
 
     PreviewHelperClient& helper() { return static_cast<PreviewHelperClient&>(state.helper()); }
     void ingest(const std::vector<TelemetrySample>& samples) {

@@ -69,7 +69,7 @@ TEST(TemperatureReadout, FollowsTheLocale) {
 class DashboardModelTest : public testing::Test {
 protected:
     DashboardMachine machine;
-    DashboardModel model{machine.state};
+    DashboardModel model{machine.state, machine.fileDialogs};
 
     QVariant fan(int row, FanGaugeRows::Role role) {
         return model.fans()->data(model.fans()->index(row), role);
@@ -86,7 +86,7 @@ TEST_F(DashboardModelTest, ChoosesItsState) {
     for (const auto& [celsius, speeds, state] : rows) {
         machine.ingest({sampleAt(time += 2, celsius, celsius, speeds)});
         EXPECT_EQ(model.state(), state) << time;
-        EXPECT_EQ(DashboardModel(machine.state).state(), state) << time;
+        EXPECT_EQ(DashboardModel(machine.state, machine.fileDialogs).state(), state) << time;
     }
 }
 

@@ -1,7 +1,10 @@
+#include "Core/HistoryTable.h"
 #include "UI/Dashboard/DashboardMachine.h"
 #include "UI/Dashboard/DashboardModel.h"
 #include "UI/DesignSystem/FanGaugeArcs.h"
 
+#include <QAccessible>
+#include <QFile>
 #include <QQmlEngine>
 #include <QQuickView>
 #include <QSignalSpy>
@@ -50,7 +53,7 @@ protected:
     }
 
     DashboardMachine machine;
-    DashboardModel model{machine.state};
+    DashboardModel model{machine.state, machine.fileDialogs};
     QQuickView view;
 
 private:
@@ -109,6 +112,42 @@ TEST_F(DashboardViewTest, RestsWhileNobodySeesIt) {
     view.rootObject()->setVisible(true);
     EXPECT_EQ(history.size(), 2);
     EXPECT_EQ(model.fans()->data(model.fans()->index(0), FanGaugeRows::ReadoutRole), u"4000"_s);
+}
+
+TEST_F(DashboardViewTest, SavesTheHistoryOrSaysWhyNot) {
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    const auto button = [this]() -> QQuickItem* {
+        for (QQuickItem* item : items<QQuickItem>()) {
+            const auto* spoken = QAccessible::queryAccessibleInterface(item);
+            if (spoken && spoken->role() == QAccessible::Button && item->isVisible() &&
+                spoken->text(QAccessible::Name) == u"Save History…"_s)
+                return item;
+        }
+        return nullptr;
+    };
+    machine.ingest({sampleAt(0, 50, 40, {2000})});
+    EXPECT_EQ(button(), nullptr) << "nothing to save yet";
+    machine.ingest({sampleAt(2, 51, 40, {2100})});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return button() != nullptr; }));
+    button()->forceActiveFocus(Qt::TabFocusReason);
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(machine.fileDialogs.asked, FakeFileDialogs::Purpose::save);
+    EXPECT_EQ(machine.fileDialogs.kind.suffix, u"csv"_s);
+    const QString path = machine.home.path(u"history.csv"_s);
+    machine.fileDialogs.answer(path);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), historyTable(machine.state.telemetry().history()));
+    FailureNotice& failure = *model.historyExport()->failure();
+    EXPECT_FALSE(failure.isShown());
+
+    model.historyExport()->save();
+    machine.fileDialogs.answer(machine.home.path(u"no such folder/history.csv"_s));
+    EXPECT_TRUE(failure.isShown());
+    EXPECT_FALSE(failure.message().isEmpty());
+    QTest::keyClick(&view, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !failure.isShown(); }));
 }
 
 } // namespace

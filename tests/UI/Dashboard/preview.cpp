@@ -47,7 +47,7 @@ int main(int argc, char* argv[]) {
     machine.ingest({history.begin(), next});
     if (parser.isSet(helperMissing))
         machine.helper().setState(HelperState::notInstalled);
-    DashboardModel model(machine.state);
+    DashboardModel model(machine.state, machine.fileDialogs);
 
     QQuickView view;
     view.engine()->addImportPath(u"qrc:/qt/qml"_s);

@@ -2,6 +2,7 @@
 
 #include "Core/AppState.h"
 #include "Core/PreviewHelperClient.h"
+#include "Support/FakeFileDialogs.h"
 #include "Support/TestDefaults.h"
 
 #include <functional>
@@ -53,6 +54,7 @@ public:
     std::unique_ptr<UserDefaults> defaults;
     ObedientHelper* helper = new ObedientHelper;
     std::unique_ptr<AppState> appState;
+    FakeFileDialogs fileDialogs;
 };
 
 } // namespace kestrowind

@@ -80,7 +80,7 @@ TEST(OneLineTest, KeepsNamesOnALineAndInTheirPlace) {
 
 TEST(PresetsModelTest, ShowsTheSlotsInTheUsersOrder) {
     TestState state;
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     EXPECT_THAT(names(model.cards()), ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
     EXPECT_EQ(model.activeRow(), 0);
     EXPECT_TRUE(model.cards()->cards()[0].isActive);
@@ -101,7 +101,7 @@ TEST(PresetsModelTest, ShowsTheSlotsInTheUsersOrder) {
 
 TEST(PresetsModelTest, MovesRowsInsteadOfMakingThemAnew) {
     TestState state;
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     QSignalSpy inserted(model.cards(), &PresetCards::rowsInserted);
     QSignalSpy removed(model.cards(), &PresetCards::rowsRemoved);
     QSignalSpy moved(model.cards(), &PresetCards::rowsMoved);
@@ -118,7 +118,7 @@ TEST(PresetsModelTest, MovesRowsInsteadOfMakingThemAnew) {
 
 TEST(PresetsModelTest, BearsASlotThatWasSavedTwice) {
     TestState state({u"-presetSlotOrder"_s, u"(automatic, automatic, nonsense, %1)"_s.arg(coolID)});
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     ASSERT_THAT(names(model.cards()),
                 ElementsAre(u"Automatic"_s, u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
     EXPECT_TRUE(model.drop(u"automatic"_s, fullSpeedID));
@@ -128,7 +128,7 @@ TEST(PresetsModelTest, BearsASlotThatWasSavedTwice) {
 
 TEST(PresetsModelTest, RefusesWhateverTextNamesNoSlot) {
     TestState state;
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     const QList<PresetSlot> order = state.presets().slotOrder();
     for (const QString& text :
          {QString(), u" "_s, u"Automatic"_s, u"automatic\n"_s, u"automatic automatic"_s,
@@ -147,7 +147,7 @@ TEST(PresetsModelTest, RefusesWhateverTextNamesNoSlot) {
 
 TEST(PresetsModelTest, MovesByTheKeyboardWithinTheCards) {
     TestState state;
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     for (const auto& [row, places] : {std::pair(0, -1), {2, 1}, {-1, 1}, {7, -5}, {0, 3}})
         model.moveBy(row, places);
     EXPECT_THAT(names(model.cards()), ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
@@ -159,7 +159,7 @@ TEST(PresetsModelTest, MovesByTheKeyboardWithinTheCards) {
 TEST(PresetsModelTest, ActivatesAndAsksTheEngineToPush) {
     TestState state;
     state.boost(0);
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     QSignalSpy pushed(&state.appState->engine(), &ControlEngine::requestedPercentsChanged);
     model.activate(fullSpeedID);
     EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID);
@@ -174,7 +174,7 @@ TEST(PresetsModelTest, ActivatesAndAsksTheEngineToPush) {
 
 TEST(PresetsModelTest, MakesPresetsUpToTheLimit) {
     TestState state;
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     QSignalSpy created(&model, &PresetsModel::cardCreated);
     model.createPreset();
     EXPECT_TRUE(model.isRenaming());
@@ -197,7 +197,7 @@ TEST(PresetsModelTest, MakesPresetsUpToTheLimit) {
 
 TEST(PresetsModelTest, TakesTheTrimmedDraftAsTheName) {
     TestState state;
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     const QString id = idOf(state.presets().addPreset(u"Mine"_s)->id);
     const auto name = [&] { return state.presets().presets().last().name; };
     struct Row {
@@ -231,7 +231,7 @@ TEST(PresetsModelTest, TakesTheTrimmedDraftAsTheName) {
 
 TEST(PresetsModelTest, KeepsWhatChangedWhileTheNameWasTyped) {
     TestState state;
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     auto mine = state.presets().addPreset(u"Mine"_s);
     model.rename(idOf(mine->id));
     mine->symbolName = u"bolt.fill"_s;
@@ -244,7 +244,7 @@ TEST(PresetsModelTest, KeepsWhatChangedWhileTheNameWasTyped) {
 
 TEST(PresetsModelTest, DeletesOnlyTheUsersOwnAndOnlyWhenConfirmed) {
     TestState state;
-    PresetsModel model(*state.appState);
+    PresetsModel model(*state.appState, state.fileDialogs);
     EXPECT_EQ(model.deletionTitle(), u"Delete this preset?"_s);
     for (const QString& fixed : {coolID, u"automatic"_s, u"nonsense"_s}) {
         model.requestDeletion(fixed);

@@ -107,7 +107,7 @@ protected:
     }
 
     TestState state;
-    PresetsModel model{*state.appState};
+    PresetsModel model{*state.appState, state.fileDialogs};
     QQuickView view;
 
 private:
@@ -256,6 +256,38 @@ TEST_F(PresetsViewTest, TheContextMenuRenamesAndDeletes) {
     click(u"Mine"_s, Qt::RightButton);
     click(u"Delete…"_s);
     EXPECT_TRUE(QTest::qWaitFor([this] { return model.isDeleting(); }));
+}
+
+TEST_F(PresetsViewTest, MenusExportAndImportByPointerAndByKey) {
+    click(u"Cool"_s, Qt::RightButton);
+    click(u"Export…"_s);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return state.fileDialogs.asked == FakeFileDialogs::Purpose::save; }));
+    state.fileDialogs.answer(state.home.path(u"cool.json"_s));
+
+    click(u"New Preset"_s, Qt::RightButton);
+    click(u"Import…"_s);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return state.fileDialogs.asked == FakeFileDialogs::Purpose::open; }));
+    state.fileDialogs.answer(state.home.path(u"cool.json"_s));
+    EXPECT_EQ(state.presets().presets().last().name, u"Cool Copy"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return focused() == u"Cool Copy"_s; }));
+
+    press(Qt::Key_Right);
+    EXPECT_EQ(focused(), u"New Preset"_s);
+    press(Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_NE(awaited(u"Import…"_s), nullptr);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return state.fileDialogs.asked == FakeFileDialogs::Purpose::open; }));
+    state.fileDialogs.answer(state.home.path(u"missing.json"_s));
+    EXPECT_NE(awaited(u"“\u2068missing.json\u2069” could not be imported"_s), nullptr);
+    EXPECT_NE(awaited(model.exchange()->failure()->message()), nullptr);
+    EXPECT_EQ(focused(), u"OK"_s);
+    press(Qt::Key_Return);
+    EXPECT_FALSE(model.exchange()->failure()->isShown());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return focused() == u"New Preset"_s; }));
 }
 
 TEST_F(PresetsViewTest, ADroppedTextMovesACardOrIsRefused) {

@@ -241,6 +241,28 @@ TEST(GeneralSettings, StoresWhetherTheDockIconHides) {
     EXPECT_FALSE(machine.home.defaults()->boolean(u"hideDockIconWhenWindowClosed"_s));
 }
 
+TEST(NotificationSettings, AreOnUntilSwitchedOffEachForItself) {
+    SettingsMachine machine;
+    registerAlertDefaults(*machine.defaults);
+    NotificationSettings settings(*machine.defaults);
+    const auto all = [&] {
+        return std::array{settings.helperFailure(), settings.standingFan(), settings.overheating()};
+    };
+    QSignalSpy changes(&settings, &NotificationSettings::changed);
+    EXPECT_EQ(all(), (std::array{true, true, true}));
+    settings.setStandingFan(false);
+    EXPECT_EQ(all(), (std::array{true, false, true}));
+    settings.setHelperFailure(false);
+    settings.setOverheating(false);
+    settings.setStandingFan(true);
+    EXPECT_EQ(all(), (std::array{false, true, false}));
+    EXPECT_FALSE(machine.home.defaults()->boolean(alertKey(AlertKind::overheating))) << "stored";
+    changes.clear();
+    machine.defaults->setBoolean(alertKey(AlertKind::overheating), true);
+    machine.defaults->setBoolean(u"another"_s, true);
+    EXPECT_EQ(changes.size(), 1);
+}
+
 TEST(AboutSettings, NamesTheVersionAsTheBundleDoes) {
     struct Row {
         QHash<QString, QString> texts;

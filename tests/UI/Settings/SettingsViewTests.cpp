@@ -144,6 +144,16 @@ TEST_F(SettingsViewTest, FlipsASettingByAClickAnywhereInItsRowAndByKey) {
     dock->forceActiveFocus(Qt::TabFocusReason);
     QTest::keyClick(&view, Qt::Key_Space);
     EXPECT_FALSE(machine.defaults->boolean(u"hideDockIconWhenWindowClosed"_s));
+    for (const auto& [key, kind] :
+         {std::pair("settings.notifications.overheating.title", AlertKind::overheating),
+          std::pair("settings.notifications.standingFan.title", AlertKind::fanStandsStill),
+          std::pair("settings.notifications.helperFailure.title", AlertKind::helperFailed)}) {
+        auto* const row = toggle(key);
+        ASSERT_NE(row, nullptr) << key;
+        row->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(&view, Qt::Key_Space);
+        EXPECT_TRUE(machine.defaults->boolean(alertKey(kind))) << key;
+    }
 }
 
 TEST_F(SettingsViewTest, ChoosesTheTemperatureByKeyAndByClick) {

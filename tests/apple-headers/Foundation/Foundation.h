@@ -55,6 +55,7 @@ typedef struct {
 @end
 
 @interface NSString : NSObject
+- (BOOL)isEqualToString:(NSString*)string;
 @end
 
 @interface NSData : NSObject

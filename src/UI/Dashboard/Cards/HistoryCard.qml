@@ -30,11 +30,24 @@ DashboardCard {
             }
 
             TabularText {
-                anchors.right: parent.right
+                anchors.right: save.visible ? save.left : parent.right
+                anchors.rightMargin: save.visible ? Spacing.tight : 0
                 anchors.baseline: title.baseline
                 text: root.model.windowCaption
                 font: Typography.subheadline
                 color: AppColors.secondaryText
+            }
+
+            IconButton {
+                id: save
+
+                visible: root.model.hasHistory
+                anchors.right: parent.right
+                anchors.rightMargin: -padding
+                anchors.verticalCenter: title.verticalCenter
+                symbolName: "square.and.arrow.down"
+                text: qsTrId("dashboard.history.save.button")
+                onClicked: root.model.historyExport.save()
             }
         }
 

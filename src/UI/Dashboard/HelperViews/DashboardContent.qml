@@ -39,4 +39,6 @@ Item {
             model: root.model
         }
     }
+
+    MessageDialog { notice: root.model.historyExport.failure }
 }

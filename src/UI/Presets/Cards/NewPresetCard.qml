@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 import Kestrowind.Presets
 
-// Makes a preset while there may be more; then it says why not.
+// Makes a preset while there may be more; then it says why not. Its menu imports one.
 FocusScope {
     id: root
 
@@ -13,8 +13,19 @@ FocusScope {
     readonly property bool isLit: isHovering && canCreate
 
     signal clicked()
+    signal contextMenuRequested(point at)
+
+    function requestMenu(at: point): void {
+        if (canCreate)
+            contextMenuRequested(at)
+    }
 
     HoverHandler { id: pointer }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => root.requestMenu(eventPoint.position)
+    }
 
     T.AbstractButton {
         id: button
@@ -27,6 +38,12 @@ FocusScope {
         onClicked: root.clicked()
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
+        Keys.onMenuPressed: root.requestMenu(Qt.point(width / 2, height / 2))
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_F10 && (event.modifiers & Qt.ShiftModifier)
+            if (event.accepted)
+                root.requestMenu(Qt.point(width / 2, height / 2))
+        }
         Accessible.role: Accessible.Button
         Accessible.name: text
         Accessible.description: tip.text
@@ -102,7 +119,7 @@ FocusScope {
     Tooltip {
         id: tip
 
-        text: root.limitHelp
+        text: root.canCreate ? qsTrId("presets.newPresetHelp") : root.limitHelp
         shown: root.isHovering
     }
 }

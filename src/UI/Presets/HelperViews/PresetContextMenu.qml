@@ -43,6 +43,12 @@ PopupMenu {
         onTriggered: Qt.callLater(() => root.screen.rename(root.slotID))
     }
 
+    PopupMenuItem {
+        text: qsTrId("presets.contextMenu.export")
+        symbolName: "square.and.arrow.up"
+        onTriggered: Qt.callLater(() => root.screen.exchange.exportPreset(root.slotID))
+    }
+
     PopupMenuSeparator {
         visible: root.isEditable
         height: visible ? implicitHeight : 0

@@ -29,4 +29,6 @@ Item {
         onConfirmed: root.model.confirmDeletion()
         onDismissed: root.model.cancelDeletion()
     }
+
+    MessageDialog { notice: root.model.exchange.failure }
 }

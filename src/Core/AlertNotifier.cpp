@@ -1,0 +1,97 @@
+#include "Core/AlertNotifier.h"
+
+#include "Core/AppState.h"
+#include "Core/FanNaming.h"
+#include "Core/LocalizedText.h"
+#include "Core/Logging.h"
+#include "Core/OneLine.h"
+#include "Platform/Notifications.h"
+#include "Platform/UserDefaults.h"
+
+#include <QPointer>
+
+#include <cmath>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The reason is the helper's word, not ours: a notification has room for a line or two of it.
+constexpr qsizetype longestReason = 200;
+
+QString reasonText(const std::string& reason) {
+    const QString text = oneLine(QString::fromStdString(reason)).trimmed();
+    return text.size() <= longestReason ? text : text.left(longestReason) + u'…';
+}
+
+} // namespace
+
+QString alertKey(AlertKind kind) {
+    switch (kind) {
+    case AlertKind::helperFailed:
+        return u"notifiesHelperFailure"_s;
+    case AlertKind::fanStandsStill:
+        return u"notifiesStandingFan"_s;
+    case AlertKind::overheating:
+        break;
+    }
+    return u"notifiesOverheating"_s;
+}
+
+void registerAlertDefaults(UserDefaults& userDefaults) {
+    for (const AlertKind kind : alertKinds)
+        userDefaults.registerDefault(alertKey(kind), true);
+}
+
+Notification notificationOf(const Alert& alert) {
+    switch (alert.kind) {
+    case AlertKind::helperFailed: {
+        const QString reason = reasonText(alert.reason);
+        return {.identifier = u"helper"_s,
+                .title = localized("alert.helperFailed.title"),
+                .body = reason.isEmpty()
+                            ? localized("alert.helperFailed.body")
+                            : localized("alert.helperFailed.bodyWithReason").arg(reason)};
+    }
+    case AlertKind::fanStandsStill:
+        return {.identifier = u"fan-"_s + QString::number(alert.fanIndex),
+                .title = localized("alert.fanStandsStill.title")
+                             .arg(sharedFanName(alert.fanIndex, alert.fanCount)),
+                .body = localized("alert.fanStandsStill.body").arg(std::lround(alert.value))};
+    case AlertKind::overheating:
+        break;
+    }
+    return {.identifier = u"heat"_s,
+            .title = localized("alert.overheating.title"),
+            .body = localized("alert.overheating.body").arg(std::lround(alert.value))};
+}
+
+AlertNotifier::AlertNotifier(AppState& appState, const UserDefaults& userDefaults,
+                             Notifications& notifications)
+    : m_appState(appState)
+    , m_userDefaults(userDefaults)
+    , m_notifications(notifications) {
+    appState.telemetry().onSample([notifier = QPointer(this)](const TelemetrySample& sample) {
+        if (notifier)
+            notifier->take(sample);
+    });
+}
+
+void AlertNotifier::take(const TelemetrySample& sample) {
+    const HelperControlling& helper = m_appState.helper();
+    // The last word of a helper that is gone says nothing of now.
+    const auto status =
+        helper.state() == HelperState::installed ? helper.lastStatus() : std::nullopt;
+    const auto isWanted = [this](AlertKind kind) { return m_userDefaults.boolean(alertKey(kind)); };
+    const AlertRules::Choice choice{.helperFailed = isWanted(AlertKind::helperFailed),
+                                    .fanStandsStill = isWanted(AlertKind::fanStandsStill),
+                                    .overheating = isWanted(AlertKind::overheating)};
+    for (const Alert& alert : m_rules.take(sample, status, choice)) {
+        const Notification notification = notificationOf(alert);
+        qCInfo(shellLog).noquote() << "alert:" << notification.identifier << notification.body;
+        m_notifications.show(notification);
+    }
+}
+
+} // namespace kestrowind

@@ -1,0 +1,73 @@
+#include "Platform/Linux/BusNotifications.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QLoggingCategory>
+
+namespace kestrowind {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(notificationsLog, "app.kestrowind.notifications", QtInfoMsg)
+
+const QString service = u"org.freedesktop.Notifications"_s;
+const QString path = u"/org/freedesktop/Notifications"_s;
+const QString interface = u"org.freedesktop.Notifications"_s;
+
+/// The action that the service calls for a click on the notification itself.
+const QString clickAction = u"default"_s;
+
+constexpr uchar criticalUrgency = 2; ///< stays until the user has seen it
+constexpr int serviceDecides = -1;   ///< how long it is shown
+
+} // namespace
+
+BusNotifications::BusNotifications(QDBusConnection bus, QObject* parent)
+    : Notifications(parent)
+    , m_bus(std::move(bus)) {
+    if (m_bus.isConnected())
+        m_bus.connect(service, path, interface, u"ActionInvoked"_s, this,
+                      SLOT(noteAction(uint, QString)));
+}
+
+void BusNotifications::show(const Notification& notification) {
+    if (!m_bus.isConnected()) {
+        qCDebug(notificationsLog) << "not shown: there is no session bus";
+        Q_EMIT notShown(notification);
+        return;
+    }
+    QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, u"Notify"_s);
+    call << u"Kestrowind"_s << m_ids.value(notification.identifier) << u"app.kestrowind"_s
+         << notification.title
+         // The service reads simple markup in it.
+         << notification.body.toHtmlEscaped() << QStringList{clickAction, QString()}
+         << QVariantMap{{u"desktop-entry"_s, u"app.kestrowind"_s},
+                        {u"urgency"_s, QVariant::fromValue(criticalUrgency)}}
+         << serviceDecides;
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [=, this] {
+        takeReply(*watcher, notification);
+        watcher->deleteLater();
+    });
+}
+
+void BusNotifications::takeReply(QDBusPendingCallWatcher& watcher,
+                                 const Notification& notification) {
+    const QDBusPendingReply<uint> reply(watcher);
+    if (reply.isError()) {
+        qCDebug(notificationsLog).noquote() << "not shown:" << reply.error().message();
+        Q_EMIT notShown(notification);
+        return;
+    }
+    m_ids.insert(notification.identifier, reply.value());
+}
+
+void BusNotifications::noteAction(uint id, const QString& action) {
+    // The service tells everybody of everybody's notifications.
+    if (action == clickAction && std::ranges::find(m_ids, id) != m_ids.end())
+        Q_EMIT activated();
+}
+
+} // namespace kestrowind

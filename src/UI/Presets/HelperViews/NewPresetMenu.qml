@@ -1,0 +1,31 @@
+import QtQuick
+import Kestrowind.DesignSystem
+import Kestrowind.Presets
+
+// The ways to another preset. A command runs when the menu is gone, so that a dialog does not compete
+// with it for the keyboard.
+PopupMenu {
+    id: root
+
+    required property PresetsModel screen
+
+    function show(card: Item, at: point): void {
+        popup(card, at.x, at.y)
+        forceActiveFocus(Qt.PopupFocusReason)
+        currentIndex = 0
+    }
+
+    PopupMenuItem {
+        text: qsTrId("presets.contextMenu.new")
+        symbolName: "plus"
+        enabled: root.screen.canAddPreset
+        onTriggered: Qt.callLater(() => root.screen.createPreset())
+    }
+
+    PopupMenuItem {
+        text: qsTrId("presets.contextMenu.import")
+        symbolName: "square.and.arrow.down"
+        enabled: root.screen.canAddPreset
+        onTriggered: Qt.callLater(() => root.screen.exchange.importPreset())
+    }
+}
