@@ -33,7 +33,9 @@ QByteArray number(double value, int decimals) {
 QByteArray time(const TelemetrySample& sample, const QTimeZone& zone) {
     const auto sinceEpoch =
         std::chrono::floor<std::chrono::milliseconds>(sample.timestamp.time_since_epoch());
-    const auto local = QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(), zone);
+    // The system's zone may be one that nobody knows.
+    const auto local = QDateTime::fromMSecsSinceEpoch(sinceEpoch.count(),
+                                                      zone.isValid() ? zone : QTimeZone::utc());
     return local.toOffsetFromUtc(local.offsetFromUtc()).toString(Qt::ISODateWithMs).toLatin1();
 }
 

@@ -2,6 +2,7 @@
 
 #include "Core/LocalizedText.h"
 #include "Core/Logging.h"
+#include "Core/OneLine.h"
 #include "Core/PresetCoding.h"
 
 #include <QFile>
@@ -55,11 +56,11 @@ std::expected<FanPreset, QString> PresetFile::decode(const QByteArray& content) 
         return error(presets->isEmpty() ? "presets.import.notAPreset" : "presets.import.several");
     FanPreset preset = presets->front();
     preset.name = preset.name.trimmed();
-    if (preset.name.isEmpty())
+    if (oneLine(preset.name).trimmed().isEmpty())
         return error("presets.import.noName");
     if (preset.curves.isEmpty())
         return error("presets.import.noCurve");
-    if (preset.curves.size() > mostCurves || preset.name.size() > longestName)
+    if (preset.curves.size() > mostCurves)
         return error("presets.import.tooMuch");
     for (const FanCurve& curve : preset.curves) {
         if (const auto fault = faultOf(curve))

@@ -17,7 +17,6 @@ inline constexpr char suffix[] = "json";
 inline constexpr qsizetype largestSize = 256 * 1024; ///< bytes
 inline constexpr qsizetype mostCurves = 16;
 inline constexpr qsizetype mostPoints = 100; ///< of a curve
-inline constexpr qsizetype longestName = 200;
 
 /// A built-in becomes a preset like any other. The error is for people.
 [[nodiscard]] std::expected<QByteArray, QString> encode(FanPreset preset);

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QLoggingCategory>
 #include <QSaveFile>
 
 #include <cerrno>
@@ -13,6 +14,8 @@ namespace kestrowind {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(log, "app.kestrowind.files", QtInfoMsg)
 
 QString systemReason() {
     return QString::fromLocal8Bit(std::strerror(errno));
@@ -40,7 +43,10 @@ std::expected<void, QString> DurableFile::write(const QString& path, const QByte
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
         file.write(content) != content.size() || !file.commit())
         return std::unexpected(file.errorString());
-    return syncFolder(QFileInfo(path).absolutePath());
+    // The file is there. Some folders cannot be synced, by their rights or their file system.
+    if (const auto synced = syncFolder(QFileInfo(path).absolutePath()); !synced)
+        qCDebug(log).noquote() << "folder of" << path << "not synced:" << synced.error();
+    return {};
 }
 
 std::expected<QString, QString> DurableFile::setAside(const QString& path, const QString& newName) {

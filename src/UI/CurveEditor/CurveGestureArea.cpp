@@ -94,6 +94,8 @@ void CurveGestureArea::mousePressEvent(QMouseEvent* event) {
         event->ignore();
         return;
     }
+    if (m_press) // another button in the middle of a gesture
+        return;
     const int point = m_chart->pointAt(inPlot(event->position()));
     if (event->button() == Qt::RightButton) {
         event->setAccepted(point >= 0);
@@ -108,6 +110,7 @@ void CurveGestureArea::mousePressEvent(QMouseEvent* event) {
                     .isTouch = event->device()->type() == QInputDevice::DeviceType::TouchScreen};
     if (point < 0)
         return;
+    m_chart->setCurrentPoint(point);
     Q_EMIT pointPressed(point);
     if (m_press->isTouch)
         m_hold.start();
@@ -131,6 +134,8 @@ void CurveGestureArea::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CurveGestureArea::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
     m_hold.stop();
     const auto press = std::exchange(m_press, std::nullopt);
     if (!press || !m_chart)

@@ -8,12 +8,20 @@
 #include <cmath>
 
 namespace kestrowind {
+namespace {
+
+/// What a fan reports is not checked; no limit beyond this is one.
+constexpr double fastestRPM = 100'000;
+
+} // namespace
 
 QString CurveCallout::textOf(const FanCurvePoint& point, const std::optional<SMCFanReading>& fan) {
     const double percent = std::round(point.percent);
     const QString temperatureText = QString::number(std::lround(point.tempC));
     const QString percentText = QString::number(std::lround(percent));
-    if (!fan)
+    const bool hasLimits =
+        fan && std::abs(fan->minRPM) <= fastestRPM && std::abs(fan->maxRPM) <= fastestRPM;
+    if (!hasLimits)
         return localized("curves.chart.callout.temperatureAndPercent")
             .arg(temperatureText, percentText);
     if (percent <= 0)

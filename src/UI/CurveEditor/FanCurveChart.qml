@@ -12,6 +12,16 @@ FocusScope {
     // For bubbles, in the plot: they may cover the margins, too.
     readonly property rect bubbleBounds: Qt.rect(-40, -14, width - 12, height)
 
+    property bool hadFocusBeforeMenu: false
+
+    // A point that goes takes the keyboard with it; the current one has it next.
+    function keepKeyboard(): void {
+        const shown = model.hasKeyboardFocus
+        if (model.currentPoint >= 0 && model.currentPoint < handles.count)
+            handles.itemAt(model.currentPoint).forceActiveFocus()
+        model.hasKeyboardFocus = shown
+    }
+
     implicitWidth: 700
     implicitHeight: 340
     onActiveFocusChanged: if (!activeFocus) model.hasKeyboardFocus = false
@@ -81,6 +91,7 @@ FocusScope {
         id: menu
 
         chart: root.model
+        onClosed: if (root.hadFocusBeforeMenu) root.keepKeyboard()
     }
 
     Connections {
@@ -88,8 +99,13 @@ FocusScope {
         function onContextMenuRequested(index: int) {
             const handle = handles.itemAt(index)
             menu.point = index
-            menu.popup(handle, handle.width, handle.height)
+            root.hadFocusBeforeMenu = root.activeFocus
+            menu.popup(plot, handle.x + handle.width, handle.y + handle.height)
         }
-        function onCurveChanged() { menu.close() }
+        function onCurveChanged() {
+            menu.close()
+            if (root.activeFocus && root.model.draggedPoint < 0)
+                root.keepKeyboard()
+        }
     }
 }

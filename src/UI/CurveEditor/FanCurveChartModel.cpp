@@ -136,7 +136,7 @@ CurveCallout FanCurveChartModel::ghostAtHover() const {
 }
 
 CurveLiveMarker FanCurveChartModel::liveMarker() const {
-    if (!m_liveTemperature)
+    if (!m_liveTemperature || !std::isfinite(*m_liveTemperature))
         return {};
     const CurvePlotGeometry plot = geometry();
     const double x = plot.x(
@@ -158,7 +158,8 @@ void FanCurveChartModel::setHoverLocation(const std::optional<QPointF>& location
 }
 
 int FanCurveChartModel::pointAt(const QPointF& position) const {
-    return m_isEditable ? geometry().pointAt(position) : -1;
+    // Where a click would add a point, no other one is meant.
+    return m_isEditable && !geometry().candidateAt(position) ? geometry().pointAt(position) : -1;
 }
 
 void FanCurveChartModel::drag(int index, const QPointF& position) {

@@ -276,7 +276,7 @@ void CurvesModel::refreshChoices() {
     for (const FanPreset& preset : m_appState.presets().presets()) {
         (preset.isBuiltIn ? builtIn : user)
             .append({.id = preset.id,
-                     .name = preset.name,
+                     .name = oneLine(preset.name),
                      .symbolName = preset.symbolName,
                      .isSelected = selected && preset.id == selected->id});
     }

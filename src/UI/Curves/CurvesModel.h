@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/FanPreset.h"
+#include "Core/OneLine.h"
 #include "UI/CurveEditor/FanCurveChartModel.h"
 #include "UI/Curves/PresetChoices.h"
 
@@ -62,7 +63,7 @@ public:
     [[nodiscard]] std::optional<FanPreset> displayedPreset() const;
 
     [[nodiscard]] bool hasPreset() const { return m_shown.has_value(); }
-    [[nodiscard]] QString presetName() const { return shown().name; }
+    [[nodiscard]] QString presetName() const { return oneLine(shown().name); }
     [[nodiscard]] QString presetSymbolName() const { return shown().symbolName; }
     [[nodiscard]] bool isBuiltIn() const { return shown().isBuiltIn; }
     [[nodiscard]] QString builtInNote() const;

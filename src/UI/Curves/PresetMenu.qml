@@ -8,12 +8,12 @@ PopupMenu {
 
     required property CurvesModel model
 
-    // As wide as its widest name.
+    // As wide as its widest name, within bounds.
     onAboutToShow: {
         let widest = 200
         for (let i = 0; i < count; ++i)
             widest = Math.max(widest, itemAt(i).implicitWidth)
-        width = widest + leftPadding + rightPadding
+        width = Math.min(widest, 420) + leftPadding + rightPadding
     }
 
     PopupMenuHeading {

@@ -53,5 +53,6 @@ T.Button {
         id: menu
 
         model: root.model
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     }
 }

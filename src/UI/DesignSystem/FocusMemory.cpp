@@ -13,7 +13,8 @@ void FocusMemory::remember(const QQuickItem* inWindowOf) {
 }
 
 void FocusMemory::giveBack() {
-    if (m_item)
+    // An item that is on its way out has no window any more.
+    if (m_item && m_item->window())
         m_item->forceActiveFocus(m_reason);
     m_item.clear();
 }

@@ -43,6 +43,7 @@ T.Button {
     PopupMenu {
         id: menu
 
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
         // As wide as the longest name: here names are never shortened.
         onAboutToShow: {
             let widest = 150

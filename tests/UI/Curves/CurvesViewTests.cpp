@@ -1,3 +1,4 @@
+#include "Support/QmlComplaints.h"
 #include "UI/Curves/CurveEditHistory.h"
 #include "UI/Curves/CurvesModel.h"
 #include "UI/MainWindow/TestState.h"
@@ -19,19 +20,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Whatever QML complains of while a test runs.
-QStringList* complaints = nullptr;
-
-void collectComplaint(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type != QtDebugMsg && type != QtInfoMsg && complaints)
-        complaints->append(message);
-}
-
 class CurvesView : public testing::Test {
 protected:
     CurvesView() {
-        complaints = &m_complaints;
-        m_previousHandler = qInstallMessageHandler(collectComplaint);
         view.engine()->addImportPath(u"qrc:/qt/qml"_s);
         view.setResizeMode(QQuickView::SizeRootObjectToView);
         view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
@@ -40,11 +31,6 @@ protected:
         view.show();
         view.requestActivate();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
-    }
-    ~CurvesView() override {
-        qInstallMessageHandler(m_previousHandler);
-        complaints = nullptr;
-        EXPECT_EQ(m_complaints.join(u'\n').toStdString(), "");
     }
 
     /// The visible item of a name that a screen reader says.
@@ -72,8 +58,7 @@ protected:
     QQuickView view;
 
 private:
-    QStringList m_complaints;
-    QtMessageHandler m_previousHandler = nullptr;
+    QmlComplaints m_complaints;
 };
 
 TEST_F(CurvesView, CustomizesEditsAndUndoesByPointerAndKeys) {

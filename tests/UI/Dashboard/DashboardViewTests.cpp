@@ -1,4 +1,5 @@
 #include "Core/HistoryTable.h"
+#include "Support/QmlComplaints.h"
 #include "UI/Dashboard/DashboardMachine.h"
 #include "UI/Dashboard/DashboardModel.h"
 #include "UI/DesignSystem/FanGaugeArcs.h"
@@ -20,29 +21,14 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// Whatever QML complains of while a test runs.
-QStringList* complaints = nullptr;
-
-void collectComplaint(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type != QtDebugMsg && type != QtInfoMsg && complaints)
-        complaints->append(message);
-}
-
 class DashboardViewTest : public testing::Test {
 protected:
     DashboardViewTest() {
-        complaints = &m_complaints;
-        m_previousHandler = qInstallMessageHandler(collectComplaint);
         view.engine()->addImportPath(u"qrc:/qt/qml"_s);
         view.setResizeMode(QQuickView::SizeRootObjectToView);
         view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
         view.setSource(QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s));
         view.resize(820, 700);
-    }
-    ~DashboardViewTest() override {
-        qInstallMessageHandler(m_previousHandler);
-        complaints = nullptr;
-        EXPECT_THAT(m_complaints, testing::IsEmpty());
     }
 
     template <class Item>
@@ -66,8 +52,7 @@ private:
         }
     }
 
-    QStringList m_complaints;
-    QtMessageHandler m_previousHandler = nullptr;
+    QmlComplaints m_complaints;
 };
 
 TEST_F(DashboardViewTest, IsAsHighAsItsContentAndKeepsItsGauges) {

@@ -1,3 +1,4 @@
+#include "Support/QmlComplaints.h"
 #include "Support/QtPrinters.h"
 #include "UI/DesignSystem/SceneAppearance.h"
 #include "UI/MainWindow/TestState.h"
@@ -11,9 +12,13 @@
 #include <QQuickView>
 #include <QSignalSpy>
 #include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
 
 #include <utility>
+
+Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
+Q_IMPORT_QML_PLUGIN(Kestrowind_PresetsPlugin)
 
 namespace kestrowind {
 namespace {
@@ -21,19 +26,9 @@ namespace {
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 
-/// Whatever QML complains of while a test runs.
-QStringList* complaints = nullptr;
-
-void collectComplaint(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type != QtDebugMsg && type != QtInfoMsg && complaints)
-        complaints->append(message);
-}
-
 class PresetsViewTest : public testing::Test {
 protected:
     PresetsViewTest() {
-        complaints = &m_complaints;
-        m_previousHandler = qInstallMessageHandler(collectComplaint);
         view.engine()->addImportPath(u"qrc:/qt/qml"_s);
         view.setResizeMode(QQuickView::SizeRootObjectToView);
         view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
@@ -43,11 +38,6 @@ protected:
         static_cast<void>(QTest::qWaitForWindowExposed(&view));
         view.requestActivate();
         static_cast<void>(QTest::qWaitForWindowActive(&view));
-    }
-    ~PresetsViewTest() override {
-        qInstallMessageHandler(m_previousHandler);
-        complaints = nullptr;
-        EXPECT_THAT(m_complaints, testing::IsEmpty());
     }
 
     void press(int key, Qt::KeyboardModifiers modifiers = {}) {
@@ -129,8 +119,7 @@ private:
         return nullptr;
     }
 
-    QStringList m_complaints;
-    QtMessageHandler m_previousHandler;
+    QmlComplaints m_complaints;
 };
 
 TEST_F(PresetsViewTest, AClickActivatesACardAndMakesAPreset) {

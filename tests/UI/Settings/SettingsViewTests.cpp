@@ -1,6 +1,7 @@
 #include "SettingsMachine.h"
 
 #include "Core/LocalizedText.h"
+#include "Support/QmlComplaints.h"
 #include "Support/QtPrinters.h"
 #include "UI/DesignSystem/Spinner.h"
 
@@ -19,28 +20,14 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QStringList* complaints = nullptr;
-
-void collectComplaint(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type != QtDebugMsg && type != QtInfoMsg && complaints)
-        complaints->append(message);
-}
-
 class SettingsViewTest : public testing::Test {
 protected:
     SettingsViewTest() {
-        complaints = &m_complaints;
-        m_previousHandler = qInstallMessageHandler(collectComplaint);
         view.engine()->addImportPath(u"qrc:/qt/qml"_s);
         view.setResizeMode(QQuickView::SizeRootObjectToView);
         view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
         view.setSource(QUrl(u"qrc:/qt/qml/Kestrowind/Settings/SettingsRootView.qml"_s));
         view.resize(820, 900);
-    }
-    ~SettingsViewTest() override {
-        qInstallMessageHandler(m_previousHandler);
-        complaints = nullptr;
-        EXPECT_THAT(m_complaints, testing::IsEmpty());
     }
     void show() {
         ASSERT_EQ(view.status(), QQuickView::Ready);
@@ -78,8 +65,7 @@ protected:
     }
 
 private:
-    QStringList m_complaints;
-    QtMessageHandler m_previousHandler = nullptr;
+    QmlComplaints m_complaints;
 };
 
 TEST_F(SettingsViewTest, InstallsByAClickWithASpinnerInPlaceOfTheButtons) {

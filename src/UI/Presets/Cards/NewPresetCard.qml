@@ -80,7 +80,7 @@ FocusScope {
                 dashes: [6, 5]
                 topColor: Qt.alpha(AppColors.accent, 0.7)
                 bottomColor: topColor
-                opacity: root.isLit ? 1 : 0
+                opacity: root.isHovering ? 1 : 0
                 visible: opacity > 0
 
                 Behavior on opacity { SpringMotion { timing: Springs.hover } }

@@ -19,13 +19,13 @@ PopupMenu {
         text: qsTrId("presets.contextMenu.new")
         symbolName: "plus"
         enabled: root.screen.canAddPreset
-        onTriggered: Qt.callLater(() => root.screen.createPreset())
+        onTriggered: Qt.callLater(() => root.screen.createPreset()) // qmllint disable
     }
 
     PopupMenuItem {
         text: qsTrId("presets.contextMenu.import")
         symbolName: "square.and.arrow.down"
         enabled: root.screen.canAddPreset
-        onTriggered: Qt.callLater(() => root.screen.exchange.importPreset())
+        onTriggered: Qt.callLater(() => root.screen.exchange.importPreset()) // qmllint disable
     }
 }

@@ -22,7 +22,7 @@ PopupMenu {
     PopupMenuItem {
         text: qsTrId("presets.contextMenu.activate")
         symbolName: "checkmark"
-        onTriggered: Qt.callLater(() => root.screen.activate(root.slotID))
+        onTriggered: Qt.callLater(() => root.screen.activate(root.slotID)) // qmllint disable
     }
 
     PopupMenuSeparator {}
@@ -31,7 +31,7 @@ PopupMenu {
         text: qsTrId("presets.contextMenu.duplicate")
         symbolName: "plus.square.on.square"
         enabled: root.screen.canAddPreset
-        onTriggered: Qt.callLater(() => root.screen.duplicate(root.slotID))
+        onTriggered: Qt.callLater(() => root.screen.duplicate(root.slotID)) // qmllint disable
     }
 
     PopupMenuItem {
@@ -40,13 +40,13 @@ PopupMenu {
         visible: root.isEditable
         enabled: visible
         height: visible ? implicitHeight : 0
-        onTriggered: Qt.callLater(() => root.screen.rename(root.slotID))
+        onTriggered: Qt.callLater(() => root.screen.rename(root.slotID)) // qmllint disable
     }
 
     PopupMenuItem {
         text: qsTrId("presets.contextMenu.export")
         symbolName: "square.and.arrow.up"
-        onTriggered: Qt.callLater(() => root.screen.exchange.exportPreset(root.slotID))
+        onTriggered: Qt.callLater(() => root.screen.exchange.exportPreset(root.slotID)) // qmllint disable
     }
 
     PopupMenuSeparator {
@@ -61,6 +61,6 @@ PopupMenu {
         visible: root.isEditable
         enabled: visible
         height: visible ? implicitHeight : 0
-        onTriggered: Qt.callLater(() => root.screen.requestDeletion(root.slotID))
+        onTriggered: Qt.callLater(() => root.screen.requestDeletion(root.slotID)) // qmllint disable
     }
 }

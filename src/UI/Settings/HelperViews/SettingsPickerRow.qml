@@ -26,6 +26,10 @@ SettingsRow {
         y: 2
         label: root.title
         currentIndex: root.selection
-        onActivated: index => root.chosen(index)
+        onActivated: index => {
+            root.chosen(index)
+            // A choice has set it; what counts may be something else.
+            currentIndex = Qt.binding(() => root.selection)
+        }
     }
 }

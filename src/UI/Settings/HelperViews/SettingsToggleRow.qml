@@ -3,13 +3,15 @@ import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 import Kestrowind.Settings
 
-// A row that is one switch all over. The owner answers toggled() by setting isOn.
+// A row that is one switch all over. The owner answers flipped() by setting isOn.
 T.Switch {
     id: root
 
     required property string title
     required property string subtitle
     required property bool isOn
+
+    signal flipped(bool on)
 
     width: parent ? parent.width : 0
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
@@ -18,6 +20,11 @@ T.Switch {
     topPadding: Spacing.medium
     bottomPadding: Spacing.medium
     checked: isOn
+    onToggled: {
+        flipped(checked)
+        // The click has set it; what counts may be something else.
+        checked = Qt.binding(() => root.isOn)
+    }
     Accessible.name: title
     Accessible.description: subtitle
     Keys.onReturnPressed: flip()

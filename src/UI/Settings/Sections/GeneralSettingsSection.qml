@@ -13,7 +13,7 @@ SettingsSection {
         title: qsTrId("settings.general.launchAtLogin.title")
         subtitle: qsTrId("settings.general.launchAtLogin.subtitle")
         isOn: root.model.launchesAtLogin
-        onToggled: root.model.setLaunchesAtLogin(checked)
+        onFlipped: on => root.model.setLaunchesAtLogin(on)
     }
 
     SettingsRow {
@@ -33,6 +33,6 @@ SettingsSection {
         title: qsTrId("settings.general.hideDockIcon.title")
         subtitle: qsTrId("settings.general.hideDockIcon.subtitle")
         isOn: root.model.hidesDockIcon
-        onToggled: root.model.setHidesDockIcon(checked)
+        onFlipped: on => root.model.setHidesDockIcon(on)
     }
 }

@@ -13,20 +13,20 @@ SettingsSection {
         title: qsTrId("settings.notifications.overheating.title")
         subtitle: qsTrId("settings.notifications.overheating.subtitle")
         isOn: root.model.overheating
-        onToggled: root.model.setOverheating(checked)
+        onFlipped: on => root.model.setOverheating(on)
     }
 
     SettingsToggleRow {
         title: qsTrId("settings.notifications.standingFan.title")
         subtitle: qsTrId("settings.notifications.standingFan.subtitle")
         isOn: root.model.standingFan
-        onToggled: root.model.setStandingFan(checked)
+        onFlipped: on => root.model.setStandingFan(on)
     }
 
     SettingsToggleRow {
         title: qsTrId("settings.notifications.helperFailure.title")
         subtitle: qsTrId("settings.notifications.helperFailure.subtitle")
         isOn: root.model.helperFailure
-        onToggled: root.model.setHelperFailure(checked)
+        onFlipped: on => root.model.setHelperFailure(on)
     }
 }

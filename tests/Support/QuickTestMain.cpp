@@ -1,14 +1,9 @@
 #include "Core/LocalizedText.h"
 
 #include <QGuiApplication>
-#include <QtQml/qqmlextensionplugin.h>
-
 #include <gmock/gmock.h>
 
 #include <utility>
-
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_PresetsPlugin)
 
 int main(int argc, char* argv[]) {
     testing::InitGoogleMock(&argc, argv);
