@@ -26,8 +26,8 @@ void FanCurveChartModel::setCurve(const FanCurve& curve) {
     if (!isPoint(m_draggedPoint))
         setDraggedPoint(-1);
     m_points.setGeometry(geometry());
-    Q_EMIT curveChanged();
     setCurrentPoint(m_currentPoint);
+    Q_EMIT curveChanged();
     updateMarks();
     setMotion(Motion::None);
 }

@@ -230,6 +230,27 @@ TEST_F(CurveGestures, TheKeyboardComesToTheFirstPointAndStaysWithItsPoint) {
     EXPECT_TRUE(chart.hasKeyboardFocus());
 }
 
+TEST_F(CurveGestures, KeepKeyboardAndPointerOnOnePoint) {
+    click(at(80, 100));
+    EXPECT_EQ(chart.currentPoint(), 2) << "the one that was pressed";
+    QTest::mouseDClick(&view, Qt::LeftButton, Qt::NoModifier, at(80, 100));
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"delete 2"_s});
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return view.activeFocusItem() == handle(chart.currentPoint()); }, 2000))
+        << "the keyboard stays in the chart";
+
+    // Another button in the middle of a drag means nothing.
+    press(at(60, 50));
+    move(at(65, 60));
+    press(at(65, 60), Qt::RightButton);
+    QTest::mouseRelease(&view, Qt::RightButton, Qt::NoModifier, at(65, 60));
+    EXPECT_FALSE(view.rootObject()->property("isMenuOpen").toBool());
+    EXPECT_EQ(chart.draggedPoint(), 1);
+    EXPECT_TRUE(owner.takeEdits().isEmpty());
+    release(at(66, 61));
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"move 1: 66 61"_s});
+}
+
 TEST_F(CurveGestures, TheLineSpringsToAnEditAndFollowsADrag) {
     auto* shape = view.rootObject()->findChild<CurveShape*>();
     ASSERT_NE(shape, nullptr);
