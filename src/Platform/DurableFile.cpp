@@ -15,7 +15,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-Q_LOGGING_CATEGORY(log, "app.kestrowind.files", QtInfoMsg)
+Q_LOGGING_CATEGORY(filesLog, "app.kestrowind.files", QtInfoMsg)
 
 QString systemReason() {
     return QString::fromLocal8Bit(std::strerror(errno));
@@ -45,7 +45,7 @@ std::expected<void, QString> DurableFile::write(const QString& path, const QByte
         return std::unexpected(file.errorString());
     // The file is there. Some folders cannot be synced, by their rights or their file system.
     if (const auto synced = syncFolder(QFileInfo(path).absolutePath()); !synced)
-        qCDebug(log).noquote() << "folder of" << path << "not synced:" << synced.error();
+        qCDebug(filesLog).noquote() << "folder of" << path << "not synced:" << synced.error();
     return {};
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-Q_LOGGING_CATEGORY(log, "app.kestrowind.defaults", QtInfoMsg)
+Q_LOGGING_CATEGORY(defaultsLog, "app.kestrowind.defaults", QtInfoMsg)
 
 bool isKey(const QString& argument) {
     return argument.size() > 1 && argument.startsWith(u'-') && !argument.at(1).isDigit() &&
@@ -67,7 +67,7 @@ void removeAbandonedLock(const QSettings& store) {
     QLockFile lock(path);
     lock.setStaleLockTime(longestWrite);
     if (!lock.tryLock(3 * longestWrite))
-        qCWarning(log) << "the settings are locked:" << path;
+        qCWarning(defaultsLog) << "the settings are locked:" << path;
 }
 
 } // namespace
@@ -157,7 +157,7 @@ void UserDefaults::store(const QString& key, const QVariant& value) {
     m_store->setValue(key, value);
     m_store->sync();
     if (m_store->status() != QSettings::NoError)
-        qCDebug(log) << "could not store" << key << "status" << m_store->status();
+        qCDebug(defaultsLog) << "could not store" << key << "status" << m_store->status();
     Q_EMIT changed(key);
 }
 

@@ -12,9 +12,9 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(notificationsLog, "app.kestrowind.notifications", QtInfoMsg)
 
-const QString service = u"org.freedesktop.Notifications"_s;
-const QString path = u"/org/freedesktop/Notifications"_s;
-const QString interface = u"org.freedesktop.Notifications"_s;
+const QString busService = u"org.freedesktop.Notifications"_s;
+const QString busPath = u"/org/freedesktop/Notifications"_s;
+const QString busInterface = u"org.freedesktop.Notifications"_s;
 
 /// The action that the service calls for a click on the notification itself.
 const QString clickAction = u"default"_s;
@@ -28,7 +28,7 @@ BusNotifications::BusNotifications(QDBusConnection bus, QObject* parent)
     : Notifications(parent)
     , m_bus(std::move(bus)) {
     if (m_bus.isConnected())
-        m_bus.connect(service, path, interface, u"ActionInvoked"_s, this,
+        m_bus.connect(busService, busPath, busInterface, u"ActionInvoked"_s, this,
                       SLOT(noteAction(uint, QString)));
 }
 
@@ -38,7 +38,8 @@ void BusNotifications::show(const Notification& notification) {
         Q_EMIT notShown(notification);
         return;
     }
-    QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, u"Notify"_s);
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(busService, busPath, busInterface, u"Notify"_s);
     call << u"Kestrowind"_s << m_ids.value(notification.identifier) << u"app.kestrowind"_s
          << notification.title
          // The service reads simple markup in it.

@@ -11,14 +11,14 @@ namespace kestrowind {
 namespace {
 
 constexpr std::array offered{TemperatureSource::average, TemperatureSource::hottestCore};
-const QString key = QString::fromLatin1(temperatureSourceKey);
+const QString settingsKey = QString::fromLatin1(temperatureSourceKey);
 
 } // namespace
 
 FanBoostSettings::FanBoostSettings(UserDefaults& userDefaults)
     : m_userDefaults(userDefaults) {
     connect(&userDefaults, &UserDefaults::changed, this, [this](const QString& changed) {
-        if (changed == key)
+        if (changed == settingsKey)
             Q_EMIT temperatureSourceChanged();
     });
 }
@@ -36,7 +36,7 @@ int FanBoostSettings::temperatureSource() const {
 void FanBoostSettings::chooseTemperatureSource(int index) {
     if (index < 0 || index >= static_cast<int>(offered.size()))
         return;
-    m_userDefaults.setString(key, text(offered[static_cast<std::size_t>(index)]));
+    m_userDefaults.setString(settingsKey, text(offered[static_cast<std::size_t>(index)]));
     // Even if the choice does not count because a launch argument does: what is shown follows.
     Q_EMIT temperatureSourceChanged();
 }
