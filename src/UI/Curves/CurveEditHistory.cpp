@@ -1,5 +1,7 @@
 #include "UI/Curves/CurveEditHistory.h"
 
+#include <algorithm>
+
 namespace kestrowind {
 
 void CurveEditHistory::record(const QUuid& preset, const Curves& before, const Curves& after) {
@@ -31,6 +33,12 @@ std::optional<CurveEditHistory::Curves> CurveEditHistory::undo(const QUuid& pres
 std::optional<CurveEditHistory::Curves> CurveEditHistory::redo(const QUuid& preset,
                                                                const Curves& current) {
     return step(preset, current, +1);
+}
+
+void CurveEditHistory::keepOnly(const QList<FanPreset>& presets) {
+    m_timelines.removeIf([&](const auto& line) {
+        return std::ranges::find(presets, line.key(), &FanPreset::id) == presets.end();
+    });
 }
 
 const CurveEditHistory::Timeline* CurveEditHistory::timeline(const QUuid& preset,

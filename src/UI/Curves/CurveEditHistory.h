@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/FanCurve.h"
+#include "Core/FanPreset.h"
 
 #include <QHash>
 #include <QList>
@@ -27,6 +27,9 @@ public:
     /// The curves before the last edit, which is undone thereby; absent when there is none.
     [[nodiscard]] std::optional<Curves> undo(const QUuid& preset, const Curves& current);
     [[nodiscard]] std::optional<Curves> redo(const QUuid& preset, const Curves& current);
+
+    /// Forgets the history of all other presets.
+    void keepOnly(const QList<FanPreset>& presets);
 
 private:
     struct Timeline {

@@ -4,7 +4,6 @@
 #include "Core/AssignIfChanged.h"
 #include "Core/LocalizedText.h"
 #include "UI/Curves/CurveEditHistory.h"
-#include "UI/DesignSystem/VisibilityWatch.h"
 
 #include <QKeySequence>
 
@@ -33,6 +32,7 @@ CurvesModel::CurvesModel(AppState& appState, CurveEditHistory& history, QObject*
     // The history changes with every sample, once the store has taken in all of it.
     connect(&appState.telemetry(), &TelemetryStore::historyChanged, this,
             &CurvesModel::refreshTelemetry);
+    connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &CurvesModel::refreshTelemetry);
     connect(&m_chart, &FanCurveChartModel::movePoint, this, &CurvesModel::movePoint);
     connect(&m_chart, &FanCurveChartModel::addPoint, this, &CurvesModel::addPoint);
     connect(&m_chart, &FanCurveChartModel::deletePointRequested, this, &CurvesModel::deletePoint);
@@ -43,8 +43,6 @@ CurvesModel::CurvesModel(AppState& appState, CurveEditHistory& history, QObject*
     refresh();
     refreshTelemetry();
 }
-
-CurvesModel::~CurvesModel() = default;
 
 // --- the preset that is shown -------------------------------------------------------------------
 
@@ -242,15 +240,8 @@ void CurvesModel::redo() {
 // --- what is seen -------------------------------------------------------------------------------
 
 void CurvesModel::setView(QQuickItem* view) {
-    if (!assignIfChanged(m_view, view))
+    if (!m_visibility.watch(view))
         return;
-    m_visibility.reset();
-    if (view) {
-        m_visibility = std::make_unique<VisibilityWatch>(*view);
-        connect(m_visibility.get(), &VisibilityWatch::isSeenChanged, this,
-                &CurvesModel::refreshTelemetry);
-        connect(view, &QObject::destroyed, this, [this] { m_visibility.reset(); });
-    }
     refreshTelemetry();
     Q_EMIT viewChanged();
 }
@@ -266,6 +257,7 @@ void CurvesModel::refresh() {
     refreshChoices();
     m_chart.setIsEditable(m_shown && !m_shown->isBuiltIn);
     m_chart.setCurve(displayedCurve(shown()));
+    m_history.keepOnly(m_appState.presets().presets());
     Q_EMIT presetChanged();
 }
 
@@ -285,7 +277,7 @@ void CurvesModel::refreshChoices() {
 }
 
 void CurvesModel::refreshTelemetry() {
-    if (m_visibility && !m_visibility->isSeen())
+    if (m_visibility.item() && !m_visibility.isSeen())
         return;
     const TelemetryStore& telemetry = m_appState.telemetry();
     m_chart.setLiveTemperature(telemetry.systemTemperature());

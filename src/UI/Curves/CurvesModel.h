@@ -4,20 +4,18 @@
 #include "Core/OneLine.h"
 #include "UI/CurveEditor/FanCurveChartModel.h"
 #include "UI/Curves/PresetChoices.h"
+#include "UI/DesignSystem/VisibilityWatch.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-#include <memory>
 #include <optional>
 
 namespace kestrowind {
 
 class AppState;
 class CurveEditHistory;
-class VisibilityWatch;
 
 /// The curves screen: which preset is shown, and every edit of its curve. One curve drives every
 /// fan: an edit takes the preset's first curve and writes it back once for each fan.
@@ -48,7 +46,6 @@ class CurvesModel final : public QObject {
 public:
     /// Both must outlive the model; the history is that of the whole run of the application.
     CurvesModel(AppState& appState, CurveEditHistory& history, QObject* parent = nullptr);
-    ~CurvesModel() override;
 
     /// The preset chosen here if it exists, else the active one, else the first user preset, else
     /// the first preset.
@@ -90,7 +87,7 @@ public:
     Q_INVOKABLE void redo();
 
     /// The item that shows the model; without one the model counts as seen.
-    [[nodiscard]] QQuickItem* view() const { return m_view; }
+    [[nodiscard]] QQuickItem* view() const { return m_visibility.item(); }
     void setView(QQuickItem* view);
 
 Q_SIGNALS:
@@ -124,8 +121,7 @@ private:
     PresetChoices m_userPresets;
     PresetChoices m_builtInPresets;
     FanCurveChartModel m_chart;
-    QPointer<QQuickItem> m_view;
-    std::unique_ptr<VisibilityWatch> m_visibility;
+    VisibilityWatch m_visibility;
 };
 
 } // namespace kestrowind

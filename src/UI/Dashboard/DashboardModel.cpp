@@ -6,7 +6,6 @@
 #include "UI/Dashboard/FanSpeedHistory.h"
 #include "UI/Dashboard/HistorySamples.h"
 #include "UI/Dashboard/TemperatureHistory.h"
-#include "UI/DesignSystem/VisibilityWatch.h"
 
 namespace kestrowind {
 
@@ -19,11 +18,10 @@ DashboardModel::DashboardModel(AppState& appState, FileDialogs& fileDialogs, QOb
             &DashboardModel::takeSample);
     connect(&appState.helper(), &HelperControlling::stateChanged, this,
             &DashboardModel::takeHelperState);
+    connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &DashboardModel::refreshIfSeen);
     takeHelperState();
     takeSample();
 }
-
-DashboardModel::~DashboardModel() = default;
 
 DashboardModel::State DashboardModel::select(const TelemetryStore& telemetry) {
     if (!telemetry.latest())
@@ -33,15 +31,8 @@ DashboardModel::State DashboardModel::select(const TelemetryStore& telemetry) {
 }
 
 void DashboardModel::setView(QQuickItem* view) {
-    if (!assignIfChanged(m_view, view))
+    if (!m_visibility.watch(view))
         return;
-    m_visibility.reset();
-    if (view) {
-        m_visibility = std::make_unique<VisibilityWatch>(*view);
-        connect(m_visibility.get(), &VisibilityWatch::isSeenChanged, this,
-                &DashboardModel::refreshIfSeen);
-        connect(view, &QObject::destroyed, this, [this] { m_visibility.reset(); });
-    }
     refreshIfSeen();
     Q_EMIT viewChanged();
 }
@@ -60,7 +51,7 @@ void DashboardModel::takeHelperState() {
 
 void DashboardModel::refreshIfSeen() {
     const TelemetryStore& telemetry = m_appState.telemetry();
-    if ((m_visibility && !m_visibility->isSeen()) || select(telemetry) != State::Content)
+    if ((m_visibility.item() && !m_visibility.isSeen()) || select(telemetry) != State::Content)
         return;
     m_fans.setFans(telemetry.latest()->fans);
     refreshTemperatures();

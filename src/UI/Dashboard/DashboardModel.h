@@ -4,18 +4,16 @@
 #include "UI/Dashboard/HistoryExport.h"
 #include "UI/Dashboard/LineChart.h"
 #include "UI/Dashboard/TemperatureFacts.h"
+#include "UI/DesignSystem/VisibilityWatch.h"
 
 #include <QObject>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-#include <memory>
-
 namespace kestrowind {
 
 class AppState;
 class TelemetryStore;
-class VisibilityWatch;
 
 /// What the dashboard shows, derived from the application's state with every sample. Which of its
 /// pictures is shown and whether the helper is missing are always known; the rest is derived only
@@ -46,7 +44,6 @@ public:
 
     /// Both must outlive the model.
     DashboardModel(AppState& appState, FileDialogs& fileDialogs, QObject* parent = nullptr);
-    ~DashboardModel() override;
 
     [[nodiscard]] static State select(const TelemetryStore& telemetry);
 
@@ -64,7 +61,7 @@ public:
     [[nodiscard]] HistoryExport* historyExport() { return &m_historyExport; }
 
     /// The item that shows the model; without one the model counts as seen.
-    [[nodiscard]] QQuickItem* view() const { return m_view; }
+    [[nodiscard]] QQuickItem* view() const { return m_visibility.item(); }
     void setView(QQuickItem* view);
 
 Q_SIGNALS:
@@ -95,8 +92,7 @@ private:
     LineChart m_temperatures;
     LineChart m_fanSpeeds;
     HistoryExport m_historyExport;
-    QPointer<QQuickItem> m_view;
-    std::unique_ptr<VisibilityWatch> m_visibility;
+    VisibilityWatch m_visibility;
 };
 
 } // namespace kestrowind

@@ -21,7 +21,7 @@ Rectangle {
         radius: parent.radius
         color: root.prominent ? (root.pressed ? Qt.alpha("black", 0.18) : Qt.alpha("white", 0.10))
                               : (root.pressed ? AppColors.pressedFill : AppColors.hoverFill)
-        opacity: root.pressed || root.hovered ? 1 : 0
+        opacity: root.pressed || (root.hovered && root.enabled) ? 1 : 0
         Behavior on opacity { NumberAnimation { duration: 120 } }
     }
 }

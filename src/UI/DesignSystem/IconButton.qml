@@ -10,6 +10,7 @@ T.Button {
     property real symbolSize: 18
     property color color: AppColors.secondaryText
     property string toolTip: text
+    readonly property bool isLifted: enabled && (hovered || down)
 
     padding: 6
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
@@ -24,7 +25,7 @@ T.Button {
         radius: Radius.control
         color: root.down ? AppColors.pressedFill : AppColors.hoverFill
         opacity: 1
-        visible: root.down || root.hovered || root.visualFocus
+        visible: root.isLifted || root.visualFocus
 
         FocusRing { shown: root.visualFocus; gap: 0 }
     }
@@ -37,7 +38,7 @@ T.Button {
             anchors.centerIn: parent
             name: root.symbolName
             size: root.symbolSize
-            color: root.hovered || root.down ? AppColors.primaryText : root.color
+            color: root.isLifted ? AppColors.primaryText : root.color
         }
     }
 

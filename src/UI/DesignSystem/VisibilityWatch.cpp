@@ -8,11 +8,23 @@
 
 namespace kestrowind {
 
-VisibilityWatch::VisibilityWatch(QQuickItem& item)
-    : m_item(item) {
-    connect(&item, &QQuickItem::visibleChanged, this, &VisibilityWatch::reconsider);
-    connect(&item, &QQuickItem::windowChanged, this, &VisibilityWatch::follow);
-    follow(item.window());
+bool VisibilityWatch::watch(QQuickItem* item) {
+    if (item == m_item)
+        return false;
+    if (m_item)
+        m_item->disconnect(this);
+    m_item = item;
+    if (item) {
+        connect(item, &QQuickItem::visibleChanged, this, &VisibilityWatch::reconsider);
+        connect(item, &QQuickItem::windowChanged, this, &VisibilityWatch::follow);
+        // It is told of as unseen while it is still known: nobody takes it for never watched.
+        connect(item, &QObject::destroyed, this, [this] {
+            takeSeen(false);
+            m_item = nullptr;
+        });
+    }
+    follow(item ? item->window() : nullptr);
+    return true;
 }
 
 bool VisibilityWatch::eventFilter(QObject* watched, QEvent* event) {
@@ -36,8 +48,11 @@ void VisibilityWatch::follow(QQuickWindow* window) {
 }
 
 void VisibilityWatch::reconsider() {
-    const bool isSeen = m_item.isVisible() && m_window && m_window->isExposed() &&
-                        m_window->isVisible() && m_window->visibility() != QWindow::Minimized;
+    takeSeen(m_item && m_item->isVisible() && m_window && m_window->isExposed() &&
+             m_window->isVisible() && m_window->visibility() != QWindow::Minimized);
+}
+
+void VisibilityWatch::takeSeen(bool isSeen) {
     if (assignIfChanged(m_isSeen, isSeen))
         Q_EMIT isSeenChanged();
 }

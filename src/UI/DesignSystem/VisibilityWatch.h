@@ -14,8 +14,15 @@ class VisibilityWatch final : public QObject {
     Q_OBJECT
 
 public:
-    explicit VisibilityWatch(QQuickItem& item);
+    VisibilityWatch() = default;
+    explicit VisibilityWatch(QQuickItem& item) { watch(&item); }
 
+    /// Null when there is none yet, or no longer.
+    [[nodiscard]] QQuickItem* item() const { return m_item; }
+    /// Whether it is another item than before.
+    bool watch(QQuickItem* item);
+
+    /// Nothing to watch is nothing to see.
     [[nodiscard]] bool isSeen() const { return m_isSeen; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -26,8 +33,9 @@ Q_SIGNALS:
 private:
     void follow(QQuickWindow* window);
     void reconsider();
+    void takeSeen(bool isSeen);
 
-    QQuickItem& m_item;
+    QQuickItem* m_item = nullptr;
     QPointer<QQuickWindow> m_window;
     bool m_isSeen = false;
 };

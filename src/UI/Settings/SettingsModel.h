@@ -1,5 +1,6 @@
 #pragma once
 
+#include "UI/DesignSystem/VisibilityWatch.h"
 #include "UI/Settings/AboutSettings.h"
 #include "UI/Settings/FanBoostSettings.h"
 #include "UI/Settings/GeneralSettings.h"
@@ -7,15 +8,10 @@
 #include "UI/Settings/NotificationSettings.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-#include <memory>
-
 namespace kestrowind {
-
-class VisibilityWatch;
 
 /// What the settings work on. All of it must outlive the model.
 struct SettingsServices {
@@ -40,7 +36,6 @@ class SettingsModel final : public QObject {
 
 public:
     explicit SettingsModel(const SettingsServices& services);
-    ~SettingsModel() override;
 
     [[nodiscard]] HelperSettings* helper() { return &m_helper; }
     [[nodiscard]] FanBoostSettings* fanBoost() { return &m_fanBoost; }
@@ -49,7 +44,7 @@ public:
     [[nodiscard]] AboutSettings* about() { return &m_about; }
 
     /// The item that shows the model; without one nobody sees it.
-    [[nodiscard]] QQuickItem* view() const { return m_view; }
+    [[nodiscard]] QQuickItem* view() const { return m_visibility.item(); }
     void setView(QQuickItem* view);
 
 Q_SIGNALS:
@@ -63,8 +58,7 @@ private:
     GeneralSettings m_general;
     NotificationSettings m_notifications;
     AboutSettings m_about;
-    QPointer<QQuickItem> m_view;
-    std::unique_ptr<VisibilityWatch> m_visibility;
+    VisibilityWatch m_visibility;
 };
 
 } // namespace kestrowind

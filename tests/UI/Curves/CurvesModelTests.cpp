@@ -241,7 +241,7 @@ TEST_F(CurvesScreen, TakesEditsBackAndMakesThemAgain) {
     EXPECT_FALSE(model->canUndo() || model->canRedo()) << "what others changed is not ours";
 }
 
-TEST(CurveEditHistories, ForgetTheOldestEdits) {
+TEST(CurveEditHistories, ForgetTheOldestEditsAndDeletedPresets) {
     CurveEditHistory history;
     const QUuid id = QUuid::createUuid();
     const auto curves = [](qsizetype n) {
@@ -256,6 +256,11 @@ TEST(CurveEditHistories, ForgetTheOldestEdits) {
     while (history.undo(id, curves(now)))
         --now;
     EXPECT_EQ(now, 5);
+
+    history.keepOnly({{.id = id}});
+    EXPECT_TRUE(history.canRedo(id, curves(now)));
+    history.keepOnly({});
+    EXPECT_FALSE(history.canRedo(id, curves(now)));
 }
 
 TEST_F(CurvesScreen, ShowsTheTemperatureAndAFanOnlyWhileSeen) {

@@ -50,6 +50,17 @@ TEST(ControlTests, ButtonsAreClickedBySpaceReturnAndPointerUnlessDisabled) {
     }
 }
 
+TEST(ControlTests, AButtonTellsWhyItIsDisabled) {
+    Shown scene(
+        "Item { Repeater { model: 1\nPushButton { text: 'New'; toolTip: 'No more than three'; "
+        "enabled: false } } }");
+    QTest::mouseMove(&scene.window(), {200, 150});
+    QTest::mouseMove(&scene.window(), {20, 10});
+    const auto* const button = scene.item().childItems().value(0);
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(button->property("hovered").toBool());
+}
+
 TEST(ControlTests, ASliderMovesByItsStepWithTheKeysAndSnapsWhileDragged) {
     Shown scene("Slider { label: 'Boost'; from: 0; to: 100; stepSize: 5; width: 218; value: 40 }");
     const auto value = [&] { return scene.item().property("value").toDouble(); };
