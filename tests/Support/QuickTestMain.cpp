@@ -1,7 +1,13 @@
 #include "Core/LocalizedText.h"
 
-#include <QGuiApplication>
 #include <gmock/gmock.h>
+#ifdef QT_WIDGETS_LIB
+#include <QApplication>
+using Application = QApplication;
+#else
+#include <QGuiApplication>
+using Application = QGuiApplication;
+#endif
 
 #include <utility>
 
@@ -13,8 +19,8 @@ int main(int argc, char* argv[]) {
         if (!qEnvironmentVariableIsSet(name))
             qputenv(name, value);
     }
-    QGuiApplication application(argc, argv);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+    Application application(argc, argv);
+    Application::setQuitOnLastWindowClosed(false);
     kestrowind::installLocalizable();
     return RUN_ALL_TESTS();
 }
