@@ -149,6 +149,25 @@
     <message id="dashboard.chart.gpuMaxLegend">
         <translation>GPU hottest core</translation>
     </message>
+    <message id="dashboard.chart.readoutCPU">
+        <extracomment>%1: whole degrees Celsius</extracomment>
+        <translation>CPU %1 °C</translation>
+    </message>
+    <message id="dashboard.chart.readoutFan">
+        <extracomment>%1: the fan, %2: whole revolutions per minute</extracomment>
+        <translation>%1 %2 rpm</translation>
+    </message>
+    <message id="dashboard.chart.readoutGPU">
+        <extracomment>%1: whole degrees Celsius</extracomment>
+        <translation>GPU %1 °C</translation>
+    </message>
+    <message id="dashboard.chart.readoutMinutesAgo">
+        <extracomment>%1: whole minutes before now, %2: and seconds</extracomment>
+        <translation>%1 min %2 s ago</translation>
+    </message>
+    <message id="dashboard.chart.readoutNow">
+        <translation>Now</translation>
+    </message>
     <message id="dashboard.chart.spokenCPU">
         <extracomment>%1: lowest, %2: highest, whole degrees Celsius</extracomment>
         <translation>CPU %1 to %2 °C</translation>

@@ -23,7 +23,9 @@ QList<LineChart::Series> lines(const QList<Point>& points, const QStringList& na
     for (const Point& point : points) {
         auto line = std::ranges::find(lines, point.seriesName, &LineChart::Series::name);
         if (line == lines.end()) {
-            lines.append({.name = point.seriesName, .isDashed = isDashed(point.seriesName, names)});
+            lines.append({.name = point.seriesName,
+                          .readout = localized("dashboard.chart.readoutFan").arg(point.seriesName),
+                          .isDashed = isDashed(point.seriesName, names)});
             line = lines.end() - 1;
         }
         line->points.append({point.minutesFromNow, point.rpm});

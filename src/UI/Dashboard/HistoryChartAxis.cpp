@@ -65,6 +65,15 @@ QString label(double tick) {
     return localized("dashboard.chart.axisMinutesAgo").arg(std::lround(minutes));
 }
 
+QString timeAgo(double minutesFromNow) {
+    const auto seconds = std::lround(-minutesFromNow * 60);
+    if (seconds <= 0)
+        return localized("dashboard.chart.readoutNow");
+    if (seconds < 60)
+        return localized("dashboard.chart.axisSecondsAgo").arg(seconds);
+    return localized("dashboard.chart.readoutMinutesAgo").arg(seconds / 60).arg(seconds % 60);
+}
+
 QList<LineChart::Tick> labelledTicks(double span) {
     QList<LineChart::Tick> labelled;
     for (const double tick : ticks(span))

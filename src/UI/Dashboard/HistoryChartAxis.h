@@ -17,6 +17,8 @@ namespace kestrowind::HistoryChartAxis {
 /// From the newest to the oldest.
 [[nodiscard]] QList<double> ticks(double span);
 [[nodiscard]] QString label(double tick);
+/// The exact time of a sample, such as "3 min 20 s ago".
+[[nodiscard]] QString timeAgo(double minutesFromNow);
 [[nodiscard]] QList<LineChart::Tick> labelledTicks(double span);
 
 /// Round values of a vertical domain, so few that their labels stand apart.

@@ -31,6 +31,7 @@ public:
     };
     struct Series {
         QString name = {};
+        QString readout = {};  ///< one value in words, with a place for the number
         QPolygonF points = {}; ///< oldest first
         Ink ink = Ink::foreground;
         bool isDashed = false;

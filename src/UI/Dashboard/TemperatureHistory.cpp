@@ -25,8 +25,10 @@ QString gpuSeries() {
     return u"GPU Max"_s;
 }
 
-LineChart::Series line(const QList<Point>& points, const QString& name, LineChart::Ink ink) {
-    LineChart::Series line{.name = name, .ink = ink, .isFilled = true};
+LineChart::Series line(const QList<Point>& points, const QString& name, const char* readout,
+                       LineChart::Ink ink) {
+    LineChart::Series line{
+        .name = name, .readout = localized(readout), .ink = ink, .isFilled = true};
     for (const Point& point : points) {
         if (point.seriesName == name)
             line.points.append({point.minutesFromNow, point.celsius});
@@ -76,8 +78,10 @@ LineChart chart(const QList<TelemetrySample>& samples) {
     }
     if (samples.isEmpty())
         return chart;
-    chart.series = {line(all, cpuSeries(), LineChart::Ink::cpu),
-                    line(all, gpuSeries(), LineChart::Ink::gpu)};
+    chart.series = {
+        line(all, cpuSeries(), "dashboard.chart.readoutCPU", LineChart::Ink::cpu),
+        line(all, gpuSeries(), "dashboard.chart.readoutGPU", LineChart::Ink::gpu),
+    };
     chart.spoken = localized("dashboard.chart.spokenTemperatures")
                        .arg(HistorySamples::windowCaption(samples),
                             spokenRange("dashboard.chart.spokenCPU", chart.series[0]),

@@ -30,11 +30,9 @@ Column {
         }
     }
 
-    HistoryChart {
+    HistoryPlot {
         width: parent.width
         height: 150
         chart: root.chart
-        Accessible.role: Accessible.Chart
-        Accessible.name: root.chart.spoken
     }
 }

@@ -24,11 +24,9 @@ Column {
         }
     }
 
-    HistoryChart {
+    HistoryPlot {
         width: parent.width
         height: 190
         chart: root.chart
-        Accessible.role: Accessible.Chart
-        Accessible.name: root.chart.spoken
     }
 }
