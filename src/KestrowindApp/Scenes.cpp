@@ -69,6 +69,8 @@ Scenes::Scenes(AppState& appState, Platform& platform)
             &MainWindowScene::show);
     connect(&m_menuBarExtra, &MenuBarExtra::quitRequested, this, &Scenes::quitRequested);
     connect(&m_mainWindow, &MainWindowScene::quitRequested, this, &Scenes::quitRequested);
+    connect(&m_mainWindow, &MainWindowScene::released, this, platform.returnFreedMemory);
+    connect(&m_menuBarExtra, &MenuBarExtra::panelReleased, this, platform.returnFreedMemory);
 
     connect(m_notifications.get(), &Notifications::activated, &m_mainWindow,
             &MainWindowScene::show);

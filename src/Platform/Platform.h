@@ -12,6 +12,7 @@
 #include "Platform/UserDefaults.h"
 #include "Shared/SMCKit/SMCUserClient.h"
 
+#include <functional>
 #include <memory>
 
 namespace kestrowind {
@@ -33,6 +34,9 @@ struct Platform {
     SystemAppearanceFactory systemAppearance;
     /// The same: a run without windows connects to nobody.
     NotificationsFactory notifications;
+    /// Gives back to the system what the process has freed but its allocator keeps. To be called
+    /// when much has gone at once; takes milliseconds.
+    std::function<void()> returnFreedMemory;
 };
 
 /// What has to be set for this system's desktop before the application object is made.

@@ -14,6 +14,8 @@
 #include <QFile>
 #include <QLoggingCategory>
 
+#include <malloc.h>
+
 namespace kestrowind {
 namespace {
 
@@ -79,6 +81,7 @@ Platform makePlatform(const QStringList& arguments) {
         .notifications = []() -> std::unique_ptr<Notifications> {
             return std::make_unique<BusNotifications>(QDBusConnection::sessionBus());
         },
+        .returnFreedMemory = [] { ::malloc_trim(0); },
     };
 }
 

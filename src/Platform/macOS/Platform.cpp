@@ -12,6 +12,8 @@
 #include "Platform/macOS/WorkspaceApplications.h"
 #include "Platform/macOS/XPCHelperConnection.h"
 
+#include <malloc/malloc.h>
+
 namespace kestrowind {
 
 using namespace Qt::StringLiterals;
@@ -40,6 +42,7 @@ Platform makePlatform(const QStringList& arguments) {
         .notifications = []() -> std::unique_ptr<Notifications> {
             return std::make_unique<UserNotifications>();
         },
+        .returnFreedMemory = [] { ::malloc_zone_pressure_relief(nullptr, 0); },
     };
 }
 

@@ -55,6 +55,7 @@ void MenuBarExtra::showIcon() {
         return;
     m_panel = std::make_unique<MenuBarPanel>(m_appState, m_appearance);
     connect(m_panel.get(), &MenuBarPanel::quitRequested, this, &MenuBarExtra::quitRequested);
+    connect(m_panel.get(), &MenuBarPanel::released, this, &MenuBarExtra::panelReleased);
     m_trayIcon = std::make_unique<QSystemTrayIcon>();
     connect(m_trayIcon.get(), &QSystemTrayIcon::activated, this, &MenuBarExtra::activated);
     connect(m_trayIcon.get(), &QSystemTrayIcon::messageClicked, this,

@@ -38,6 +38,8 @@ Q_SIGNALS:
     void availableChanged();
     void openMainWindowRequested();
     void quitRequested();
+    /// What the closed panel was made of is gone.
+    void panelReleased();
 
 private:
     void showIcon();

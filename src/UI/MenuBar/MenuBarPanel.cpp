@@ -59,7 +59,10 @@ MenuBarPanel::MenuBarPanel(AppState& appState, SystemAppearance* appearance, Tim
     connect(&m_model, &MenuBarModel::quitRequested, this, &MenuBarPanel::quitRequested);
     m_releaseTimer.setSingleShot(true);
     m_releaseTimer.setInterval(timing.releaseDelay);
-    connect(&m_releaseTimer, &QTimer::timeout, this, &MenuBarPanel::releaseScene);
+    connect(&m_releaseTimer, &QTimer::timeout, this, [this] {
+        releaseScene();
+        Q_EMIT released();
+    });
 }
 
 MenuBarPanel::~MenuBarPanel() {

@@ -49,6 +49,8 @@ public:
 
 Q_SIGNALS:
     void quitRequested();
+    /// What the closed panel was made of is gone.
+    void released();
 
 private:
     [[nodiscard]] bool makeScene();
