@@ -121,6 +121,7 @@ TEST_F(DashboardModelTest, KeepsTheRowsOfFansThatStay) {
     TelemetrySample other = sampleAt(8, 50, 50, {2050, 2100});
     other.fans.erase(other.fans.begin());
     ingest(other);
+    EXPECT_EQ(removed.last()[1].toInt(), 0) << "the row of the first fan is not the other's";
     ASSERT_EQ(model.fans()->rowCount(), 1);
     EXPECT_EQ(fan(0, FanGaugeRows::NameRole), localized("shared.fan.numbered").arg(2));
 }

@@ -48,12 +48,5 @@ TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
     }
 }
 
-TEST(PaletteTests, TemperaturesBeyondTheRampHaveTheColoursOfItsEnds) {
-    for (const ColorScheme scheme : {ColorScheme::dark, ColorScheme::light}) {
-        EXPECT_EQ(Palette::temperatureColor(-20, scheme), Palette::temperatureColor(40, scheme));
-        EXPECT_EQ(Palette::temperatureColor(130, scheme), Palette::temperatureColor(95, scheme));
-    }
-}
-
 } // namespace
 } // namespace kestrowind

@@ -138,11 +138,13 @@ TEST_F(MainWindowTest, ComesBackAsItWas) {
 }
 
 TEST_F(MainWindowTest, KeepsTheWindowThatIsWantedBackAtOnce) {
-    scene->setReleaseDelay(60s);
+    scene->setReleaseDelay(50ms);
     scene->show();
-    const QQuickWindow* window = scene->window();
+    const QPointer<QQuickWindow> window = scene->window();
     scene->close();
     scene->show();
+    QTest::qWait(120);
+    EXPECT_NE(window, nullptr);
     EXPECT_EQ(scene->window(), window);
     EXPECT_TRUE(hasContent());
 }

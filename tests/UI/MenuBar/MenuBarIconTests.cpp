@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 
-#include <cmath>
 #include <limits>
 
 namespace kestrowind {

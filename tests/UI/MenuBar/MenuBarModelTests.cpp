@@ -89,6 +89,8 @@ TEST_F(MenuBarModelTest, FollowsTheSamplesInPlaceAndOnlyWhileItShall) {
     model.setIsFollowing(true);
     EXPECT_EQ(model.cpu().text, u"40°C"_s);
     EXPECT_FALSE(model.isHelperInstalled());
+    state.setPhase(HelperControlPhase::failed);
+    EXPECT_TRUE(model.isControlUnavailable());
     EXPECT_TRUE(reset.isEmpty());
 }
 
