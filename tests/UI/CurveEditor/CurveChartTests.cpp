@@ -49,57 +49,17 @@ TEST_F(CurveChart, ShowsTheTemperatureAndWhatTheCurveMakesOfIt) {
     EXPECT_FALSE(chart.live().isShown);
 }
 
-TEST_F(CurveChart, ShowsWhatAClickWouldAddAndTheValuesOfWhatIsPointedAt) {
-    chart.setHoverLocation(QPointF(50, 41));
-    EXPECT_TRUE(chart.ghost().isShown);
-    EXPECT_EQ(chart.ghost().text, u"30 °C · 80%"_s);
-    EXPECT_FALSE(chart.isIdle());
-    EXPECT_FALSE(chart.callout().isShown);
-    chart.setHoverLocation(QPointF(210, 100));
-    EXPECT_FALSE(chart.ghost().isShown);
-    EXPECT_EQ(chart.hoveredPoint(), 1);
-    EXPECT_EQ(chart.callout().text, u"60 °C · 50%"_s);
-    chart.setHoverLocation(std::nullopt);
-    EXPECT_EQ(chart.hoveredPoint(), -1);
-    EXPECT_FALSE(chart.callout().isShown);
-    EXPECT_TRUE(chart.isIdle());
-
-    chart.setIsEditable(false);
-    for (const QPointF& position : {QPointF(50, 41), QPointF(200, 100)}) {
-        chart.setHoverLocation(position);
-        EXPECT_FALSE(chart.ghost().isShown);
-        EXPECT_FALSE(chart.callout().isShown);
-        chart.click(position);
-        chart.drag(1, position);
-        chart.release(position);
-        chart.deletePoint(1);
-    }
-    EXPECT_TRUE(owner.said.isEmpty());
-}
-
 TEST_F(CurveChart, FollowsADragAndForgetsACancelledOne) {
     QSignalSpy motion(&chart, &FanCurveChartModel::motionChanged);
     chart.setHoverLocation(QPointF(50, 41));
     chart.drag(1, {250, 60});
-    EXPECT_EQ(owner.said.takeLast(), u"step 1: 70 70"_s);
     EXPECT_FALSE(chart.ghost().isShown) << "nothing is added while dragging";
     EXPECT_EQ(chart.callout().text, u"70 °C · 70%"_s);
     chart.drag(1, {800, -50});
     EXPECT_EQ(chart.callout().text, u"79 °C · 100%"_s) << "held by its neighbour";
     EXPECT_EQ(motion.size(), 0) << "it is where the pointer is, at once";
-    chart.release({250, 60});
-    EXPECT_EQ(owner.said.takeLast(), u"move 1: 70 70"_s);
-    EXPECT_EQ(chart.draggedPoint(), -1);
-
-    const FanCurve before = chart.curve();
-    chart.drag(2, {300, 30});
-    EXPECT_NE(chart.curve(), before);
     chart.cancelDrag();
-    EXPECT_EQ(chart.curve(), before);
     EXPECT_EQ(motion.size(), 2) << "springs back";
-    owner.said.clear();
-    chart.release({300, 30});
-    EXPECT_TRUE(owner.said.isEmpty());
 
     // The point is taken away under the pointer.
     chart.drag(2, {300, 30});
@@ -133,6 +93,11 @@ TEST_F(CurveChart, TakesEditsFromTheKeyboard) {
     EXPECT_FALSE(chart.pressKey(1, Qt::Key_Right, Qt::ControlModifier));
     EXPECT_FALSE(chart.pressKey(1, Qt::Key_Tab, Qt::NoModifier));
     EXPECT_FALSE(chart.pressKey(7, Qt::Key_Right, Qt::NoModifier));
+
+    chart.setCurve(FanCurve({{40, 20}, {43, 20}, {110, 100}}));
+    EXPECT_TRUE(chart.pressKey(0, Qt::Key_N, Qt::NoModifier));
+    EXPECT_TRUE(chart.pressKey(2, Qt::Key_N, Qt::NoModifier));
+    EXPECT_TRUE(owner.said.isEmpty()) << "there is no room";
 }
 
 TEST_F(CurveChart, ChoosesPointsByKeyAlsoWhereNothingCanBeEdited) {
@@ -152,13 +117,6 @@ TEST_F(CurveChart, ChoosesPointsByKeyAlsoWhereNothingCanBeEdited) {
     EXPECT_TRUE(owner.said.isEmpty());
     chart.setHasKeyboardFocus(true);
     EXPECT_EQ(chart.callout().text, u"40 °C · 20%"_s);
-}
-
-TEST_F(CurveChart, AddsByKeyOnlyWhereThereIsRoom) {
-    chart.setCurve(FanCurve({{40, 20}, {43, 20}, {110, 100}}));
-    EXPECT_TRUE(chart.pressKey(0, Qt::Key_N, Qt::NoModifier));
-    EXPECT_TRUE(chart.pressKey(2, Qt::Key_N, Qt::NoModifier));
-    EXPECT_TRUE(owner.said.isEmpty());
 }
 
 TEST_F(CurveChart, KeepsWhatShowsAPointWithIt) {

@@ -1,13 +1,10 @@
 #include "UI/CurveEditor/CurveGestureArea.h"
 #include "UI/CurveEditor/CurveOwner.h"
 #include "UI/CurveEditor/CurveShape.h"
+#include "UI/RoomView.h"
 
-#include <QAccessible>
 #include <QPointingDevice>
-#include <QQmlEngine>
-#include <QQuickView>
 #include <QSignalSpy>
-#include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <gmock/gmock.h>
@@ -23,16 +20,7 @@ using namespace Qt::StringLiterals;
 /// The chart in a window with real events; 5 points a degree, 2 a percent.
 class CurveGestures : public testing::Test {
 protected:
-    CurveGestures() {
-        view.engine()->addImportPath(u"qrc:/qt/qml"_s);
-        view.setInitialProperties({{u"model"_s, QVariant::fromValue(&chart)}});
-        view.setResizeMode(QQuickView::SizeRootObjectToView);
-        view.setSource(QUrl(u"qrc:/qt/qml/Kestrowind/CurveEditor/FanCurveChart.qml"_s));
-        view.resize(450 + 64, 200 + 44);
-        view.show();
-        view.requestActivate();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
-    }
+    CurveGestures() { view.showActive(); }
 
     static QPoint at(double temperature, double percent) {
         return {46 + qRound((temperature - 20) * 5), 18 + qRound((100 - percent) * 2)};
@@ -48,25 +36,11 @@ protected:
         press(point);
         release(point);
     }
-    [[nodiscard]] QQuickItem* handle(int index) {
-        return itemNamed(view.rootObject(), u"Point %1"_s.arg(index + 1));
-    }
+    [[nodiscard]] QQuickItem* handle(int index) { return view.named(u"Point %1"_s.arg(index + 1)); }
 
     CurveOwner owner{FanCurve({{40, 20}, {60, 50}, {80, 100}})};
     FanCurveChartModel& chart = owner.chart;
-    QQuickView view;
-
-private:
-    static QQuickItem* itemNamed(QQuickItem* below, const QString& name) {
-        for (QQuickItem* child : below->childItems()) {
-            const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(child);
-            if (spoken && spoken->text(QAccessible::Name) == name)
-                return child;
-            if (QQuickItem* item = itemNamed(child, name))
-                return item;
-        }
-        return nullptr;
-    }
+    RoomView view{u"CurveEditor/FanCurveChart.qml"_s, chart, {450 + 64, 200 + 44}};
 };
 
 TEST_F(CurveGestures, DragPointsAndLetThemGoWhereTheyAre) {
@@ -75,15 +49,14 @@ TEST_F(CurveGestures, DragPointsAndLetThemGoWhereTheyAre) {
     EXPECT_TRUE(owner.said.isEmpty()) << "a hand that trembles does not drag";
     move(at(70, 70));
     EXPECT_EQ(chart.draggedPoint(), 1);
-    move({-50, 900}); // out of the window
+    move({1, 243}); // out of the plot
     EXPECT_EQ(chart.curve().points()[1], (FanCurvePoint{41, 0})) << "up to its neighbour";
     move(at(65, 60));
     release(at(65, 60));
     EXPECT_EQ(owner.takeEdits(), QStringList{u"move 1: 65 60"_s});
     EXPECT_EQ(chart.draggedPoint(), -1);
 
-    press(at(65, 60));
-    release(at(65, 60));
+    click(at(65, 60));
     EXPECT_TRUE(owner.takeEdits().isEmpty()) << "a click on a point is no edit";
 }
 
@@ -173,8 +146,11 @@ TEST_F(CurveGestures, OpenAMenuForThePointUnderThePointerOnly) {
 TEST_F(CurveGestures, AreDeafOnAReadOnlyCurve) {
     chart.setIsEditable(false);
     QSignalSpy menu(&chart, &FanCurveChartModel::contextMenuRequested);
-    move(at(30, 80));
-    EXPECT_FALSE(chart.ghost().isShown);
+    for (const QPoint& point : {at(30, 80), at(60, 50)}) {
+        move(point);
+        EXPECT_FALSE(chart.ghost().isShown);
+        EXPECT_FALSE(chart.callout().isShown);
+    }
     click(at(30, 80));
     QTest::mouseDClick(&view, Qt::LeftButton, Qt::NoModifier, at(60, 50));
     QTest::mouseClick(&view, Qt::RightButton, Qt::NoModifier, at(60, 50));
@@ -185,14 +161,18 @@ TEST_F(CurveGestures, AreDeafOnAReadOnlyCurve) {
     EXPECT_EQ(menu.size(), 0);
 }
 
-TEST_F(CurveGestures, HoverShowsTheGhostUntilThePointerLeaves) {
+TEST_F(CurveGestures, HoverShowsWhatAClickWouldAddOrTheValuesOfAPoint) {
     move(at(30, 80));
     EXPECT_TRUE(QTest::qWaitFor([&] { return chart.ghost().isShown; }, 3000));
+    EXPECT_EQ(chart.ghost().text, u"30 °C · 80%"_s);
+    EXPECT_FALSE(chart.callout().isShown);
     move(at(60, 50));
     EXPECT_TRUE(QTest::qWaitFor([&] { return chart.hoveredPoint() == 1; }, 3000));
+    EXPECT_FALSE(chart.ghost().isShown);
+    EXPECT_EQ(chart.callout().text, u"60 °C · 50%"_s);
     move({5, 5});
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return chart.hoveredPoint() == -1 && !chart.ghost().isShown; }, 3000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.isIdle(); }, 3000));
+    EXPECT_FALSE(chart.callout().isShown);
 }
 
 TEST_F(CurveGestures, TheKeyboardComesToTheFirstPointAndStaysWithItsPoint) {
@@ -223,8 +203,7 @@ TEST_F(CurveGestures, TheKeyboardComesToTheFirstPointAndStaysWithItsPoint) {
         EXPECT_EQ(view.activeFocusItem(), handle(next));
     }
     // A click takes the keyboard along, without a ring until a key is pressed.
-    press(at(40, 20));
-    release(at(40, 20));
+    click(at(40, 20));
     EXPECT_FALSE(chart.hasKeyboardFocus());
     QTest::keyClick(&view, Qt::Key_Left);
     EXPECT_TRUE(chart.hasKeyboardFocus());

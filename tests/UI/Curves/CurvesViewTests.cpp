@@ -1,12 +1,9 @@
-#include "Support/QmlComplaints.h"
+#include "Support/QtPrinters.h"
 #include "UI/Curves/CurveEditHistory.h"
 #include "UI/Curves/CurvesModel.h"
-#include "UI/MainWindow/TestState.h"
+#include "UI/RoomView.h"
+#include "UI/TestState.h"
 
-#include <QAccessible>
-#include <QQmlEngine>
-#include <QQuickView>
-#include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
 #include <gmock/gmock.h>
@@ -22,74 +19,43 @@ using namespace Qt::StringLiterals;
 
 class CurvesView : public testing::Test {
 protected:
-    CurvesView() {
-        view.engine()->addImportPath(u"qrc:/qt/qml"_s);
-        view.setResizeMode(QQuickView::SizeRootObjectToView);
-        view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
-        view.setSource(QUrl(u"qrc:/qt/qml/Kestrowind/Curves/CurvesRootView.qml"_s));
-        view.resize(820, 600);
-        view.show();
-        view.requestActivate();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
-    }
-
-    /// The visible item of a name that a screen reader says.
-    QQuickItem* named(const QString& name, QQuickItem* below = nullptr) {
-        for (QQuickItem* child : (below ? below : view.contentItem())->childItems()) {
-            const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(child);
-            if (child->isVisible() && spoken && spoken->text(QAccessible::Name) == name)
-                return child;
-            if (QQuickItem* item = named(name, child))
-                return item;
-        }
-        return nullptr;
-    }
-    void click(const QString& name) {
-        QQuickItem* item = named(name);
-        ASSERT_NE(item, nullptr) << name.toStdString();
-        const QPointF centre(item->width() / 2, item->height() / 2);
-        QTest::mouseClick(&view, Qt::LeftButton, Qt::NoModifier,
-                          item->mapToScene(centre).toPoint());
-    }
+    CurvesView() { view.showActive(); }
 
     TestState state;
     CurveEditHistory history;
     CurvesModel model{*state.appState, history};
-    QQuickView view;
-
-private:
-    QmlComplaints m_complaints;
+    RoomView view{u"Curves/CurvesRootView.qml"_s, model, {820, 600}};
 };
 
 TEST_F(CurvesView, CustomizesEditsAndUndoesByPointerAndKeys) {
     const double withNote = view.rootObject()->implicitHeight();
-    click(u"Customize"_s);
+    view.click(u"Customize"_s);
     EXPECT_EQ(model.presetName(), u"Cool Copy"_s);
     EXPECT_TRUE(
         QTest::qWaitFor([&] { return view.rootObject()->implicitHeight() < withNote; }, 3000));
-    EXPECT_EQ(named(u"Customize"_s), nullptr);
+    EXPECT_EQ(view.named(u"Customize"_s), nullptr);
 
-    click(u"Point 3"_s);
-    QTest::keyClick(&view, Qt::Key_Up);
-    EXPECT_EQ(model.chart()->curve().points()[2], (FanCurvePoint{55, 31}));
-    QTest::keyClick(&view, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(model.chart()->curve().points()[2], (FanCurvePoint{55, 30}));
-    QTest::keyClick(&view, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(model.chart()->curve().points()[2], (FanCurvePoint{55, 31}));
-    click(u"Undo"_s);
-    EXPECT_EQ(model.chart()->curve().points()[2], (FanCurvePoint{55, 30}));
+    const auto third = [&] { return model.chart()->curve().points()[2]; };
+    view.click(u"Point 3"_s);
+    view.press(Qt::Key_Up);
+    EXPECT_EQ(third(), (FanCurvePoint{55, 31}));
+    view.press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(third(), (FanCurvePoint{55, 30}));
+    view.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(third(), (FanCurvePoint{55, 31}));
+    view.click(u"Undo"_s);
+    EXPECT_EQ(third(), (FanCurvePoint{55, 30}));
 }
 
 TEST_F(CurvesView, PicksAndMakesPresetsInItsMenu) {
-    click(u"Preset"_s);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return named(u"Full Speed"_s); }, 3000));
-    EXPECT_EQ(named(u"Your Presets"_s), nullptr) << "there are none";
-    click(u"Full Speed"_s);
+    view.click(u"Preset"_s);
+    ASSERT_NE(view.awaited(u"Full Speed"_s), nullptr);
+    EXPECT_EQ(view.named(u"Your Presets"_s), nullptr) << "there are none";
+    view.click(u"Full Speed"_s);
     EXPECT_EQ(model.presetName(), u"Full Speed"_s);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !named(u"New Preset"_s); }, 3000));
-    click(u"Preset"_s);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return named(u"New Preset"_s); }, 3000));
-    click(u"New Preset"_s);
+    ASSERT_TRUE(view.isGone(u"New Preset"_s));
+    view.click(u"Preset"_s);
+    view.click(u"New Preset"_s);
     EXPECT_EQ(model.presetName(), u"New Preset"_s);
     EXPECT_TRUE(model.chart()->isEditable());
 }

@@ -1,15 +1,12 @@
 #include "Core/HistoryTable.h"
-#include "Support/QmlComplaints.h"
-#include "UI/Dashboard/DashboardMachine.h"
+#include "Support/QtPrinters.h"
 #include "UI/Dashboard/DashboardModel.h"
 #include "UI/DesignSystem/FanGaugeArcs.h"
+#include "UI/RoomView.h"
+#include "UI/TestState.h"
 
-#include <QAccessible>
 #include <QFile>
-#include <QQmlEngine>
-#include <QQuickView>
 #include <QSignalSpy>
-#include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
 
@@ -23,66 +20,51 @@ using namespace Qt::StringLiterals;
 
 class DashboardViewTest : public testing::Test {
 protected:
-    DashboardViewTest() {
-        view.engine()->addImportPath(u"qrc:/qt/qml"_s);
-        view.setResizeMode(QQuickView::SizeRootObjectToView);
-        view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
-        view.setSource(QUrl(u"qrc:/qt/qml/Kestrowind/Dashboard/DashboardRootView.qml"_s));
-        view.resize(820, 700);
-    }
-
-    template <class Item>
-    QList<Item*> items() {
-        QList<Item*> found;
-        collect(view.rootObject(), found);
+    void ingest(const TelemetrySample& sample) { state.telemetry().ingest(sample); }
+    QList<FanGaugeArcs*> gauges(QQuickItem* below = nullptr) {
+        QList<FanGaugeArcs*> found;
+        for (QQuickItem* child : (below ? below : view.rootObject())->childItems()) {
+            if (auto* gauge = qobject_cast<FanGaugeArcs*>(child))
+                found.append(gauge);
+            found += gauges(child);
+        }
         return found;
     }
+    double height() const { return view.rootObject()->implicitHeight(); }
 
-    DashboardMachine machine;
-    DashboardModel model{machine.state, machine.fileDialogs};
-    QQuickView view;
-
-private:
-    template <class Item>
-    static void collect(QQuickItem* below, QList<Item*>& found) {
-        for (QQuickItem* child : below->childItems()) {
-            if (auto* item = qobject_cast<Item*>(child))
-                found.append(item);
-            collect(child, found);
-        }
-    }
-
-    QmlComplaints m_complaints;
+    TestState state;
+    DashboardModel model{*state.appState, state.fileDialogs};
+    RoomView view{u"Dashboard/DashboardRootView.qml"_s, model, {820, 700}};
 };
 
 TEST_F(DashboardViewTest, IsAsHighAsItsContentAndKeepsItsGauges) {
-    ASSERT_EQ(view.status(), QQuickView::Ready);
-    view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-    const double loading = view.rootObject()->implicitHeight();
+    view.showActive();
+    const double loading = height();
     EXPECT_GT(loading, 0);
 
-    machine.ingest({sampleAt(0, 50, 50, {2000, 3000})});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return items<FanGaugeArcs>().size() == 2; }, 3000));
-    const QList<FanGaugeArcs*> gauges = items<FanGaugeArcs>();
-    const double placeholder = view.rootObject()->implicitHeight();
+    ingest(sampleAt(0, 50, 50, {2000, 3000}));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return gauges().size() == 2; }, 3000));
+    const QList<FanGaugeArcs*> before = gauges();
+    const double placeholder = height();
     EXPECT_GT(placeholder, loading);
-    machine.helper().setState(HelperState::notInstalled);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return view.rootObject()->implicitHeight() > placeholder + 20; }, 3000));
+    state.helper->setState(HelperState::unreachable);
+    EXPECT_FALSE(model.helperMissing());
+    state.helper->setState(HelperState::notInstalled);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return height() > placeholder + 20; }, 3000));
 
-    machine.ingest({sampleAt(2, 50, 50, {6550, 3000})});
-    EXPECT_EQ(items<FanGaugeArcs>(), gauges);
-    EXPECT_EQ(gauges[0]->fraction(), 1);
+    ingest(sampleAt(2, 50, 50, {6000, 3000}));
+    EXPECT_EQ(gauges(), before);
+    EXPECT_EQ(before[0]->fraction(), 1);
 
-    machine.ingest({sampleAt(4, 0, 0, {})});
-    EXPECT_TRUE(items<FanGaugeArcs>().isEmpty());
-    EXPECT_EQ(view.rootObject()->implicitHeight(), loading);
+    ingest(sampleAt(4, 0, 0));
+    EXPECT_TRUE(gauges().isEmpty());
+    EXPECT_EQ(height(), loading);
 }
 
 TEST_F(DashboardViewTest, RestsWhileNobodySeesIt) {
     QSignalSpy history(&model, &DashboardModel::historyChanged);
-    machine.ingest(realisticSamples(5, 1));
+    ingest(sampleAt(0, 50, 50, {2000}));
+    ingest(sampleAt(2, 50, 50, {2000}));
     EXPECT_EQ(model.state(), DashboardModel::State::Content);
     EXPECT_EQ(history.size(), 0);
     EXPECT_EQ(model.fans()->rowCount(), 0);
@@ -92,7 +74,7 @@ TEST_F(DashboardViewTest, RestsWhileNobodySeesIt) {
     EXPECT_EQ(model.fans()->rowCount(), 1);
 
     view.rootObject()->setVisible(false);
-    machine.ingest({sampleAt(10, 50, 50, {4000})});
+    ingest(sampleAt(4, 50, 50, {4000}));
     EXPECT_EQ(history.size(), 1);
     view.rootObject()->setVisible(true);
     EXPECT_EQ(history.size(), 2);
@@ -100,38 +82,28 @@ TEST_F(DashboardViewTest, RestsWhileNobodySeesIt) {
 }
 
 TEST_F(DashboardViewTest, SavesTheHistoryOrSaysWhyNot) {
-    view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-    const auto button = [this]() -> QQuickItem* {
-        for (QQuickItem* item : items<QQuickItem>()) {
-            const auto* spoken = QAccessible::queryAccessibleInterface(item);
-            if (spoken && spoken->role() == QAccessible::Button && item->isVisible() &&
-                spoken->text(QAccessible::Name) == u"Save History…"_s)
-                return item;
-        }
-        return nullptr;
-    };
-    machine.ingest({sampleAt(0, 50, 40, {2000})});
-    EXPECT_EQ(button(), nullptr) << "nothing to save yet";
-    machine.ingest({sampleAt(2, 51, 40, {2100})});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return button() != nullptr; }));
-    button()->forceActiveFocus(Qt::TabFocusReason);
-    QTest::keyClick(&view, Qt::Key_Return);
-    EXPECT_EQ(machine.fileDialogs.asked, FakeFileDialogs::Purpose::save);
-    EXPECT_EQ(machine.fileDialogs.kind.suffix, u"csv"_s);
-    const QString path = machine.home.path(u"history.csv"_s);
-    machine.fileDialogs.answer(path);
-    QFile file(path);
+    view.showActive();
+    ingest(sampleAt(0, 50, 40, {2000}));
+    EXPECT_EQ(view.named(u"Save History…"_s), nullptr) << "nothing to save yet";
+    ingest(sampleAt(2, 51, 40, {2100}));
+    QQuickItem* const button = view.awaited(u"Save History…"_s, QAccessible::Button);
+    ASSERT_NE(button, nullptr);
+    button->forceActiveFocus(Qt::TabFocusReason);
+    view.press(Qt::Key_Return);
+    EXPECT_EQ(state.fileDialogs.asked, FakeFileDialogs::Purpose::save);
+    EXPECT_EQ(state.fileDialogs.kind.suffix, u"csv"_s);
+    QFile file(state.home.path(u"history.csv"_s));
+    state.fileDialogs.answer(file.fileName());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), historyTable(machine.state.telemetry().history()));
+    EXPECT_EQ(file.readAll(), historyTable(state.telemetry().history()));
     FailureNotice& failure = *model.historyExport()->failure();
     EXPECT_FALSE(failure.isShown());
 
     model.historyExport()->save();
-    machine.fileDialogs.answer(machine.home.path(u"no such folder/history.csv"_s));
+    state.fileDialogs.answer(state.home.path(u"no such folder/history.csv"_s));
     EXPECT_TRUE(failure.isShown());
     EXPECT_FALSE(failure.message().isEmpty());
-    QTest::keyClick(&view, Qt::Key_Escape);
+    view.press(Qt::Key_Escape);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !failure.isShown(); }));
 }
 

@@ -23,31 +23,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(FanBladesShapeTests, HasThreeEqualBladesAndAHubCentredAsLargeAsTheShorterSide) {
-    const QRectF rectangle(10, 20, 300, 200);
-    const QPointF center(160, 120);
-    const QPainterPath path = FanBladesShape::path(rectangle);
-
-    // 2 device units a unit of the drawing: the first blade's corners.
-    const QPointF corners[] = {{-7, -12}, {13, -44}, {19, -30}, {12, -4}};
-    for (int corner = 0; corner < 4; ++corner) {
-        const QPainterPath::Element element = path.elementAt(corner * 3);
-        EXPECT_NEAR(element.x, center.x() + 2 * corners[corner].x(), 1e-9);
-        EXPECT_NEAR(element.y, center.y() + 2 * corners[corner].y(), 1e-9);
-    }
-
+TEST(FanBladesShapeTests, IsAsLargeAsTheShorterSideAndWholeAroundItsHub) {
+    const QPainterPath path = FanBladesShape::path(QRectF(10, 20, 300, 200));
     EXPECT_TRUE(QRectF(60, 20, 200, 200).contains(path.boundingRect()));
+    EXPECT_GT(path.boundingRect().height(), 150);
     for (int angle = 0; angle < 360; angle += 7) {
-        for (const double distance : {5.0, 21.0, 40.0, 60.0, 85.0}) {
-            const auto at = [&](double degrees) {
-                QTransform turn;
-                turn.translate(center.x(), center.y());
-                turn.rotate(degrees);
-                return path.contains(turn.map(QPointF(distance, 0)));
-            };
-            EXPECT_EQ(at(angle), at(angle + 120)) << angle << " at " << distance;
-            EXPECT_TRUE(distance > 22 || at(angle)) << "a hole where blades and hub overlap";
-        }
+        QTransform turn;
+        turn.translate(160, 120);
+        turn.rotate(angle);
+        EXPECT_TRUE(path.contains(turn.map(QPointF(21, 0)))) << "a hole in a blade at " << angle;
     }
 }
 
@@ -88,8 +72,6 @@ TEST(SpinningFanBladesTests, TheBladesAreDrawnOnceForEachLook) {
     EXPECT_EQ(rendersAfter([&] { fan.setDiameter(30); }), 1);
     EXPECT_EQ(rendersAfter([&] { fan.setFill(SpinningFanBlades::Fill::Parked); }), 1);
     EXPECT_EQ(rendersAfter([&] { scene.appearance().setForcedScheme(ColorScheme::dark); }), 1);
-    EXPECT_EQ(*fan.renderedLook(),
-              (SpinningFanBlades::RenderedLook{30, SpinningFanBlades::Fill::Parked, 1, true}));
 }
 
 TEST(SpinningFanBladesTests, AsksForFramesOnlyWhileItTurnsAndIsSeen) {
@@ -154,15 +136,6 @@ TEST(FanGaugeTests, TheRingRunsClockwiseAroundAnOpeningAtTheBottom) {
     near(ring.pointAtPercent(1), 50 + reach, 50 + reach);
     near(FanGauge::ringPath(look, 0.5).currentPosition(), 50, 0);
     EXPECT_TRUE(FanGauge::ringPath(look, 0).isEmpty());
-
-    // A full circle: the ticks stand at a quarter, half and three quarters.
-    const FanGauge::Look circle{.diameter = 100, .lineWidth = 8, .gapDegrees = 0};
-    const QPainterPath ticks = FanGauge::tickPath(circle);
-    ASSERT_EQ(ticks.elementCount(), 6);
-    const QPointF ends[] = {{6.5, 50}, {-6.5, 50}, {50, 6.5}, {50, -6.5}, {93.5, 50}, {106.5, 50}};
-    for (int index = 0; index < 6; ++index)
-        near(ticks.elementAt(index), ends[index].x(), ends[index].y());
-    EXPECT_NEAR(FanGauge::tickWidth(circle), 0.942477796, 1e-8);
 }
 
 TEST(FanGaugeArcsTests, AChangeGoesOnFromWhatIsDisplayed) {

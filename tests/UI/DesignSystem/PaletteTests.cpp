@@ -48,38 +48,5 @@ TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
     }
 }
 
-struct ColorCase {
-    const char* name;
-    QColor color;
-    double hue;
-    double saturation;
-    double brightness;
-};
-
-TEST(PaletteTests, ColoursHaveTheirHueSaturationAndBrightness) {
-    constexpr auto dark = ColorScheme::dark;
-    constexpr auto light = ColorScheme::light;
-    const ColorCase cases[] = {
-        {"fan gradient, start", Palette::fanGradientStops()[0].second, 0.53, 0.8, 0.95},
-        {"fan gradient, end", Palette::fanGradientStops()[1].second, 0.6, 0.85, 0.9},
-        {"processor", Palette::cpuSeries(), 0.07, 0.85, 0.95},
-        {"graphics", Palette::gpuSeries(), 0.47, 0.75, 0.82},
-        {"below the ramp", Palette::temperatureColor(-20, dark), 0.53, 0.8, 0.95},
-        {"start of the ramp", Palette::temperatureColor(40, dark), 0.53, 0.8, 0.95},
-        {"middle", Palette::temperatureColor(67.5, dark), 0.27, 0.8, 0.95},
-        {"end", Palette::temperatureColor(95, dark), 0.01, 0.8, 0.95},
-        {"above", Palette::temperatureColor(130, dark), 0.01, 0.8, 0.95},
-        {"cool on white", Palette::temperatureColor(40, light), 0.53, 1, 0.5},
-        {"green on white", Palette::temperatureColor(67.5, light), 0.27, 1, 0.42},
-        {"hot on white", Palette::temperatureColor(95, light), 0.01, 1, 0.5},
-    };
-    for (const ColorCase& entry : cases) {
-        EXPECT_NEAR(entry.color.hsvHueF(), entry.hue, 1e-4) << entry.name;
-        EXPECT_NEAR(entry.color.hsvSaturationF(), entry.saturation, 1e-4) << entry.name;
-        EXPECT_NEAR(entry.color.valueF(), entry.brightness, 1e-4) << entry.name;
-        EXPECT_EQ(entry.color.alpha(), 255) << entry.name;
-    }
-}
-
 } // namespace
 } // namespace kestrowind

@@ -27,7 +27,6 @@ public:
         m_window.show();
     }
 
-    [[nodiscard]] QQmlEngine& engine() { return m_engine; }
     [[nodiscard]] QQuickWindow& window() { return m_window; }
     [[nodiscard]] QQuickItem& item() { return *m_item; }
     [[nodiscard]] SceneAppearance& appearance() { return SceneAppearance::of(m_engine); }

@@ -1,11 +1,12 @@
 #include "Platform/Linux/RememberedActivationPolicy.h"
 #include "Support/QtPrinters.h"
-#include "TestState.h"
 #include "UI/DesignSystem/SceneAppearance.h"
 #include "UI/MainWindow/MainWindowFrame.h"
 #include "UI/MainWindow/MainWindowScene.h"
 #include "UI/MainWindow/SectionHost.h"
+#include "UI/TestState.h"
 
+#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
@@ -20,13 +21,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using Policy = ActivationPolicy::Policy;
-
-TEST(MainSectionTest, IsFoundByNameInAnyLetterCase) {
-    for (const MainSection section : mainSections)
-        EXPECT_EQ(sectionNamed(rawValue(section).toUpper()), section);
-    EXPECT_EQ(sectionNamed(u"Kurven"_s), MainSection::dashboard);
-    EXPECT_EQ(sectionNamed(QString()), MainSection::dashboard);
-}
 
 TEST(MainWindowFrameTest, FitsTheContentBetweenTheLeastHeightAndTheScreen) {
     const QRectF screen(0, 25, 1440, 800);
@@ -72,31 +66,36 @@ TEST(MainWindowFrameTest, WidensNarrowWindows) {
 
 class MainWindowTest : public testing::Test {
 protected:
-    explicit MainWindowTest(const QStringList& arguments = {})
-        : state(arguments) {
-        state.defaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
+    MainWindowTest() { launch({}); }
+
+    /// A new application with these arguments, without its window as yet.
+    void launch(const QStringList& arguments) {
+        scene.reset();
+        state = std::make_unique<TestState>(arguments);
+        state->defaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
+        QFile highSection(state->home.path(u"High.qml"_s));
+        EXPECT_TRUE(highSection.open(QIODevice::WriteOnly));
+        highSection.write("import QtQuick\nItem { implicitHeight: 1200 }");
         scene =
-            std::make_unique<MainWindowScene>(*state.appState, *state.defaults, policy, nullptr);
+            std::make_unique<MainWindowScene>(*state->appState, *state->defaults, policy, nullptr);
         scene->setReleaseDelay(0ms);
         scene->setSectionViews({
-            {MainSection::dashboard, QUrl(u"qrc:/preview/PreviewSection.qml"_s), {}},
+            {MainSection::dashboard, QUrl::fromLocalFile(highSection.fileName()), {}},
             {MainSection::settings, QUrl(u"qrc:/preview/Missing.qml"_s), {}},
         });
     }
 
-    SectionHost& host() const { return *scene->window()->contentItem()->findChild<SectionHost*>(); }
+    QQuickItem& view() const { return *scene->window()->contentItem()->childItems().first(); }
+    MainSection section() const {
+        return view().property("model").value<MainWindowModel*>()->section();
+    }
+    SectionHost& host() const { return *view().findChild<SectionHost*>(); }
     bool hasContent() const { return !host().childItems().isEmpty(); }
-    int contentHeight() const { return qRound(host().viewportHeight()); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
         QTest::keyClick(scene->window(), key, modifiers);
     }
-    void closeAndRelease() const {
-        QSignalSpy released(scene.get(), &MainWindowScene::released);
-        scene->close();
-        ASSERT_TRUE(released.wait(1000));
-    }
 
-    TestState state;
+    std::unique_ptr<TestState> state;
     RememberedActivationPolicy policy;
     std::unique_ptr<MainWindowScene> scene;
 };
@@ -128,28 +127,30 @@ TEST_F(MainWindowTest, ComesBackAsItWas) {
     scene->window()->setFramePosition({40, 50});
     scene->window()->resize(900, scene->window()->height());
     const QRect geometry = scene->window()->geometry();
-    closeAndRelease();
+    QSignalSpy released(scene.get(), &MainWindowScene::released);
+    scene->close();
+    ASSERT_TRUE(released.wait(1000));
 
     scene->show();
     EXPECT_EQ(scene->window()->geometry(), geometry);
-    const auto* model = qvariant_cast<MainWindowModel*>(
-        scene->window()->contentItem()->childItems().first()->property("model"));
-    EXPECT_EQ(model->section(), MainSection::presets);
+    EXPECT_EQ(section(), MainSection::presets);
     EXPECT_EQ(policy.policy(), Policy::regular);
 }
 
 TEST_F(MainWindowTest, KeepsTheWindowThatIsWantedBackAtOnce) {
-    scene->setReleaseDelay(60s);
+    scene->setReleaseDelay(50ms);
     scene->show();
-    const QQuickWindow* window = scene->window();
+    const QPointer<QQuickWindow> window = scene->window();
     scene->close();
     scene->show();
+    QTest::qWait(120);
+    EXPECT_NE(window, nullptr);
     EXPECT_EQ(scene->window(), window);
     EXPECT_TRUE(hasContent());
 }
 
 TEST_F(MainWindowTest, MinimisingEmptiesTheWindowUntilItIsShown) {
-    state.defaults->setBoolean(u"hideDockIconWhenWindowClosed"_s, false);
+    state->defaults->setBoolean(u"hideDockIconWhenWindowClosed"_s, false);
     scene->show();
     QSignalSpy changed(&scene->visibility(), &MainWindowVisibility::isOnScreenChanged);
     scene->window()->showMinimized();
@@ -168,7 +169,7 @@ TEST_F(MainWindowTest, FollowsTheNaturalHeightOfTheSection) {
     QTest::qWait(400);
     // The dashboard asks for more than the screen has; the plain title for less than the least.
     scene->selectSection(MainSection::curves);
-    QTRY_COMPARE_WITH_TIMEOUT(contentHeight(), 420, 1500);
+    QTRY_COMPARE_WITH_TIMEOUT(qRound(host().viewportHeight()), 420, 1500);
     EXPECT_EQ(scene->window()->width(), 820);
 }
 
@@ -182,15 +183,6 @@ TEST_F(MainWindowTest, ShowsTheTitleOfASectionThatCannotBeMade) {
 TEST_F(MainWindowTest, TakesItsCommandsFromTheKeyboard) {
     scene->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(scene->window()));
-    const auto section = [this] {
-        return scene->window()
-            ->contentItem()
-            ->childItems()
-            .first()
-            ->property("model")
-            .value<MainWindowModel*>()
-            ->section();
-    };
     press(Qt::Key_3, Qt::ControlModifier);
     EXPECT_EQ(section(), MainSection::presets);
     press(Qt::Key_Tab);
@@ -199,10 +191,10 @@ TEST_F(MainWindowTest, TakesItsCommandsFromTheKeyboard) {
     press(Qt::Key_Tab);
     press(Qt::Key_Right);
     press(Qt::Key_Space);
-    EXPECT_EQ(state.presets().activePresetID(), FanPreset::coolID);
+    EXPECT_EQ(state->presets().activePresetID(), FanPreset::coolID);
     press(Qt::Key_Right);
     press(Qt::Key_Return);
-    EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID);
+    EXPECT_EQ(state->presets().activePresetID(), FanPreset::fullSpeedID);
 
     QSignalSpy quit(scene.get(), &MainWindowScene::quitRequested);
     press(Qt::Key_Q, Qt::ControlModifier);
@@ -230,41 +222,27 @@ TEST(MainWindowHeightControllerTest, ResizesOnceForSeveralReports) {
     EXPECT_EQ(resizing.size(), 1);
 }
 
-struct LaunchOption {
-    QStringList arguments;
-    bool isDark;
-    MainSection section;
-};
+TEST_F(MainWindowTest, OpensAsTheOptionsSay) {
+    struct Row {
+        QStringList arguments;
+        bool isDark;
+        MainSection section;
+    };
+    for (const auto& [arguments, isDark, opened] : {
+             Row{{u"-ForceColorScheme"_s, u"dark"_s, u"-InitialSection"_s, u"Kurven"_s},
+                 true,
+                 MainSection::dashboard},
+             Row{{u"-ForceColorScheme"_s, u"Dark"_s, u"-InitialSection"_s, u"cURVES"_s},
+                 false,
+                 MainSection::curves},
+         }) {
+        launch(arguments);
+        scene->show();
+        EXPECT_EQ(SceneAppearance::of(*qmlEngine(&view())).isDark(), isDark);
+        EXPECT_EQ(section(), opened);
+    }
 
-class LaunchedMainWindowTest : public MainWindowTest,
-                               public testing::WithParamInterface<LaunchOption> {
-protected:
-    LaunchedMainWindowTest()
-        : MainWindowTest(GetParam().arguments) {}
-};
-
-TEST_P(LaunchedMainWindowTest, OpensAsTheOptionsSay) {
-    scene->show();
-    auto* view = scene->window()->contentItem()->childItems().first();
-    EXPECT_EQ(SceneAppearance::of(*qmlEngine(view)).isDark(), GetParam().isDark);
-    EXPECT_EQ(view->property("model").value<MainWindowModel*>()->section(), GetParam().section);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Options, LaunchedMainWindowTest,
-    testing::Values(LaunchOption{{u"-ForceColorScheme"_s, u"dark"_s}, true, MainSection::dashboard},
-                    LaunchOption{
-                        {u"-ForceColorScheme"_s, u"Dark"_s, u"-InitialSection"_s, u"Curves"_s},
-                        false,
-                        MainSection::curves}));
-
-class TimedMainWindowTest : public MainWindowTest {
-protected:
-    TimedMainWindowTest()
-        : MainWindowTest({u"-CloseMainWindowAfterSeconds"_s, u"0.05"_s}) {}
-};
-
-TEST_F(TimedMainWindowTest, ClosesItself) {
+    launch({u"-CloseMainWindowAfterSeconds"_s, u"0.05"_s});
     QSignalSpy closed(scene.get(), &MainWindowScene::closed);
     scene->show();
     EXPECT_TRUE(closed.wait(2000));

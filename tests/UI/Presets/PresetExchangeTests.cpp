@@ -1,8 +1,8 @@
 #include "Core/LocalizedText.h"
 #include "Core/PresetFile.h"
 #include "Support/QtPrinters.h"
-#include "UI/MainWindow/TestState.h"
 #include "UI/Presets/PresetsModel.h"
+#include "UI/TestState.h"
 
 #include <QFile>
 #include <QSignalSpy>

@@ -1,14 +1,9 @@
 #include "SettingsMachine.h"
 
 #include "Core/LocalizedText.h"
-#include "Support/QmlComplaints.h"
 #include "Support/QtPrinters.h"
-#include "UI/DesignSystem/Spinner.h"
+#include "UI/RoomView.h"
 
-#include <QAccessible>
-#include <QQmlEngine>
-#include <QQuickView>
-#include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
 
@@ -22,70 +17,44 @@ using namespace Qt::StringLiterals;
 
 class SettingsViewTest : public testing::Test {
 protected:
-    SettingsViewTest() {
-        view.engine()->addImportPath(u"qrc:/qt/qml"_s);
-        view.setResizeMode(QQuickView::SizeRootObjectToView);
-        view.setInitialProperties({{u"model"_s, QVariant::fromValue(&model)}});
-        view.setSource(QUrl(u"qrc:/qt/qml/Kestrowind/Settings/SettingsRootView.qml"_s));
-        view.resize(820, 900);
+    QQuickItem* button(const char* key) { return view.named(localized(key), QAccessible::Button); }
+    QQuickItem* toggle(const char* key) {
+        return view.named(localized(key), QAccessible::CheckBox);
     }
-    void show() {
-        ASSERT_EQ(view.status(), QQuickView::Ready);
-        view.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-        view.requestActivate();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    bool says(const QString& text, QAccessible::Role role) {
+        return view.named(text, role) != nullptr;
     }
-
-    /// The visible item that a screen reader calls by this name; null when there is none.
-    QQuickItem* named(const QString& name, QAccessible::Role role) {
-        return named(view.rootObject(), name, role);
-    }
-    QQuickItem* button(const char* key) { return named(localized(key), QAccessible::Button); }
-    QQuickItem* toggle(const char* key) { return named(localized(key), QAccessible::CheckBox); }
     void click(QQuickItem* item, QPointF at) {
+        ASSERT_NE(item, nullptr);
         QTest::mouseClick(&view, Qt::LeftButton, Qt::NoModifier, item->mapToScene(at).toPoint());
+    }
+    void press(QQuickItem* item, Qt::Key key) {
+        ASSERT_NE(item, nullptr);
+        item->forceActiveFocus(Qt::TabFocusReason);
+        view.press(key);
     }
 
     SettingsMachine machine;
     SettingsModel model{machine.services()};
-    QQuickView view;
-
-    static QQuickItem* named(QQuickItem* below, const QString& name, QAccessible::Role role) {
-        for (QQuickItem* child : below->childItems()) {
-            if (!child->isVisible())
-                continue;
-            const auto* spoken = QAccessible::queryAccessibleInterface(child);
-            if (spoken && spoken->role() == role && spoken->text(QAccessible::Name) == name)
-                return child;
-            if (QQuickItem* found = named(child, name, role))
-                return found;
-        }
-        return nullptr;
-    }
-
-private:
-    QmlComplaints m_complaints;
+    RoomView view{u"Settings/SettingsRootView.qml"_s, model, {820, 900}};
 };
 
 TEST_F(SettingsViewTest, InstallsByAClickWithASpinnerInPlaceOfTheButtons) {
     machine.helper.setState(HelperState::notInstalled);
-    show();
+    view.showActive();
     auto* const install = button("settings.helper.installButton");
-    ASSERT_NE(install, nullptr);
     EXPECT_EQ(button("settings.helper.uninstallButton"), nullptr);
     click(install, {10, 10});
     EXPECT_EQ(machine.helper.openInstallations.size(), 1U);
     EXPECT_FALSE(install->isVisible());
-    EXPECT_NE(named(localized("settings.helper.workingSpinner"), QAccessible::Indicator), nullptr);
+    EXPECT_TRUE(says(localized("settings.helper.workingSpinner"), QAccessible::Indicator));
 
     const double before = view.rootObject()->implicitHeight();
     machine.helper.endInstallation(
         std::unexpected(InstallError{InstallError::Kind::adminScriptFailed, u"no"_s}));
     EXPECT_TRUE(install->isVisible());
-    EXPECT_NE(named(localized("settings.helper.error.adminScriptFailed").arg(u"no"_s),
-                    QAccessible::AlertMessage),
-              nullptr);
+    EXPECT_TRUE(says(localized("settings.helper.error.adminScriptFailed").arg(u"no"_s),
+                     QAccessible::AlertMessage));
     EXPECT_TRUE(QTest::qWaitFor([&] { return view.rootObject()->implicitHeight() > before; }));
     machine.helper.setState(HelperState::unreachable);
     EXPECT_NE(button("settings.helper.reinstallHelperButton"), nullptr);
@@ -95,7 +64,7 @@ TEST_F(SettingsViewTest, InstallsByAClickWithASpinnerInPlaceOfTheButtons) {
 
 TEST_F(SettingsViewTest, AsksForTheStatusOnlyWhileItIsOnScreen) {
     EXPECT_EQ(machine.helper.questions, 0);
-    show();
+    view.showActive();
     ASSERT_TRUE(QTest::qWaitFor([&] { return machine.helper.questions == 1; }));
     machine.helper.answerQuestions();
     view.hide();
@@ -108,7 +77,7 @@ TEST_F(SettingsViewTest, AsksForTheStatusOnlyWhileItIsOnScreen) {
 }
 
 TEST_F(SettingsViewTest, FlipsASettingByAClickAnywhereInItsRowAndByKey) {
-    show();
+    view.showActive();
     auto* const login = toggle("settings.general.launchAtLogin.title");
     ASSERT_NE(login, nullptr);
     const auto isOn = [login] { return login->property("checked").toBool(); };
@@ -121,66 +90,54 @@ TEST_F(SettingsViewTest, FlipsASettingByAClickAnywhereInItsRowAndByKey) {
     }
     ASSERT_TRUE(isOn());
     machine.loginItem.failure = u"Read-only file system"_s;
-    login->forceActiveFocus(Qt::TabFocusReason);
-    QTest::keyClick(&view, Qt::Key_Return);
+    press(login, Qt::Key_Return);
     EXPECT_TRUE(isOn()) << "put back";
-    EXPECT_NE(named(u"Read-only file system"_s, QAccessible::AlertMessage), nullptr);
-    auto* const dock = toggle("settings.general.hideDockIcon.title");
-    ASSERT_NE(dock, nullptr);
-    dock->forceActiveFocus(Qt::TabFocusReason);
-    QTest::keyClick(&view, Qt::Key_Space);
-    EXPECT_FALSE(machine.defaults->boolean(u"hideDockIconWhenWindowClosed"_s));
-    for (const auto& [key, kind] :
-         {std::pair("settings.notifications.overheating.title", AlertKind::overheating),
-          std::pair("settings.notifications.standingFan.title", AlertKind::fanStandsStill),
-          std::pair("settings.notifications.helperFailure.title", AlertKind::helperFailed)}) {
-        auto* const row = toggle(key);
-        ASSERT_NE(row, nullptr) << key;
-        row->forceActiveFocus(Qt::TabFocusReason);
-        QTest::keyClick(&view, Qt::Key_Space);
-        EXPECT_TRUE(machine.defaults->boolean(alertKey(kind))) << key;
+    EXPECT_TRUE(says(u"Read-only file system"_s, QAccessible::AlertMessage));
+
+    const QString hidesDockIcon = u"hideDockIconWhenWindowClosed"_s;
+    ASSERT_TRUE(machine.defaults->boolean(hidesDockIcon));
+    for (const auto& [row, key] :
+         {std::pair("settings.general.hideDockIcon.title", hidesDockIcon),
+          std::pair("settings.notifications.overheating.title", alertKey(AlertKind::overheating)),
+          std::pair("settings.notifications.standingFan.title",
+                    alertKey(AlertKind::fanStandsStill)),
+          std::pair("settings.notifications.helperFailure.title",
+                    alertKey(AlertKind::helperFailed))}) {
+        const bool before = machine.defaults->boolean(key);
+        press(toggle(row), Qt::Key_Space);
+        EXPECT_EQ(machine.defaults->boolean(key), !before) << row;
+        machine.defaults->setBoolean(key, before);
+        EXPECT_EQ(toggle(row)->property("checked").toBool(), before) << row << " elsewhere";
     }
 }
 
-TEST_F(SettingsViewTest, ChoosesTheTemperatureByKeyAndByClick) {
-    show();
-    auto* const picker =
-        named(localized("settings.fanBoost.temperatureSource.title"), QAccessible::ComboBox);
-    ASSERT_NE(picker, nullptr);
-    picker->forceActiveFocus(Qt::TabFocusReason);
-    QTest::keyClick(&view, Qt::Key_Down);
-    EXPECT_EQ(model.fanBoost()->temperatureSource(), 1);
-    EXPECT_EQ(picker->property("displayText").toString(),
-              localized("settings.fanBoost.temperatureSource.hottest"));
-    click(picker, {10, 10});
-    const QString average = localized("settings.fanBoost.temperatureSource.average");
-    QQuickItem* item = nullptr;
-    ASSERT_TRUE(QTest::qWaitFor([&] {
-        item = named(view.contentItem(), average, QAccessible::ListItem);
-        return item != nullptr;
-    }));
-    click(item, {20, 8});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return model.fanBoost()->temperatureSource() == 0; }));
+TEST_F(SettingsViewTest, ChoosesTheTemperatureByClick) {
+    view.showActive();
+    view.click(localized("settings.fanBoost.temperatureSource.title"));
+    QQuickItem* const hottest = view.awaited(
+        localized("settings.fanBoost.temperatureSource.hottest"), QAccessible::ListItem);
+    click(hottest, {20, 8});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return model.fanBoost()->temperatureSource() == 1; }));
 }
 
 TEST_F(SettingsViewTest, ShowsAVersionAndWarningsOnlyWhenThereAreSome) {
-    show();
-    const auto says = [&](const QString& text, QAccessible::Role role) {
-        return named(text, role) != nullptr;
-    };
+    view.showActive();
     const QString outdated = localized("settings.helper.outdatedNotice");
     const QString unlocking = localized("settings.helper.unlockingCaption");
     const QString version = localized("settings.about.helperVersionLabel") + u": 9.9"_s;
     EXPECT_FALSE(says(outdated, QAccessible::AlertMessage));
     EXPECT_FALSE(says(version, QAccessible::StaticText));
-    machine.helper.setLastStatus(statusWith(HelperControlPhase::unlocking, {}, "9.9"));
+    machine.helper.setLastStatus(statusWith(HelperControlPhase::unlocking, "stuck", "9.9"));
     EXPECT_TRUE(says(outdated, QAccessible::AlertMessage));
     EXPECT_TRUE(says(version, QAccessible::StaticText));
     EXPECT_TRUE(says(unlocking, QAccessible::StaticText));
+    EXPECT_FALSE(says(u"stuck"_s, QAccessible::AlertMessage)) << "it has not failed yet";
     machine.helper.setLastStatus(statusWith(HelperControlPhase::failed, "stuck"));
     EXPECT_TRUE(says(u"stuck"_s, QAccessible::AlertMessage));
     EXPECT_FALSE(says(unlocking, QAccessible::StaticText));
     EXPECT_FALSE(says(outdated, QAccessible::AlertMessage));
+    machine.helper.setLastStatus(statusWith(HelperControlPhase::failed));
+    EXPECT_FALSE(says({}, QAccessible::AlertMessage)) << "a failure without a reason";
 }
 
 } // namespace

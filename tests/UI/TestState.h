@@ -5,9 +5,31 @@
 #include "Support/FakeFileDialogs.h"
 #include "Support/TestDefaults.h"
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
 
 namespace kestrowind {
+
+/// A sample at a time in seconds, with one fan for each speed.
+inline TelemetrySample sampleAt(double seconds, double cpu, double gpu,
+                                const std::vector<double>& speeds = {}, double maxRPM = 6000) {
+    TelemetrySample sample{.timestamp = std::chrono::system_clock::time_point(
+                               std::chrono::milliseconds(std::llround(seconds * 1000))),
+                           .temperatures = {.cpuAverage = cpu,
+                                            .cpuMax = cpu,
+                                            .gpuAverage = gpu,
+                                            .gpuMax = gpu,
+                                            .hottest = std::max(cpu, gpu)},
+                           .fans = {}};
+    for (const double speed : speeds) {
+        sample.fans.push_back({.index = static_cast<int>(sample.fans.size()),
+                               .actualRPM = speed,
+                               .minRPM = 1200,
+                               .maxRPM = maxRPM});
+    }
+    return sample;
+}
 
 /// The application's state with a helper that applies whatever it is asked for.
 class TestState {
@@ -36,6 +58,8 @@ public:
     }
 
     [[nodiscard]] PresetStore& presets() const { return appState->presets(); }
+    [[nodiscard]] ControlEngine& engine() const { return appState->engine(); }
+    [[nodiscard]] TelemetryStore& telemetry() const { return appState->telemetry(); }
     void setPhase(HelperControlPhase phase) {
         HelperStatus status;
         status.phase = phase;
@@ -43,11 +67,8 @@ public:
     }
     /// Drives the fans by the quick boost; the engine pushes with the sample.
     void boost(double percent) {
-        appState->engine().setQuickBoostPercent(percent);
-        appState->telemetry().ingest(
-            {.timestamp = std::chrono::system_clock::now(),
-             .temperatures = {.cpuAverage = 50, .cpuMax = 55, .hottest = 55},
-             .fans = {{.index = 0, .actualRPM = 2000, .minRPM = 1200, .maxRPM = 6000}}});
+        engine().setQuickBoostPercent(percent);
+        telemetry().ingest(sampleAt(0, 50, 50, {2000}));
     }
 
     TestHome home;
