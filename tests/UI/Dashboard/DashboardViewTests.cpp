@@ -1,6 +1,7 @@
 #include "Core/HistoryTable.h"
 #include "Support/QtPrinters.h"
 #include "UI/Dashboard/DashboardModel.h"
+#include "UI/Dashboard/HistoryChart.h"
 #include "UI/DesignSystem/FanGaugeArcs.h"
 #include "UI/RoomView.h"
 #include "UI/TestState.h"
@@ -59,6 +60,25 @@ TEST_F(DashboardViewTest, IsAsHighAsItsContentAndKeepsItsGauges) {
     ingest(sampleAt(4, 0, 0));
     EXPECT_TRUE(gauges().isEmpty());
     EXPECT_EQ(height(), loading);
+}
+
+TEST_F(DashboardViewTest, AChartSpeaksUnderThePointer) {
+    view.showActive();
+    ingest(sampleAt(0, 50, 40, {2000}));
+    ingest(sampleAt(60, 60, 41, {2000}));
+    auto* const chart =
+        qobject_cast<HistoryChart*>(view.awaited(model.temperatures().spoken, QAccessible::Chart));
+    ASSERT_NE(chart, nullptr);
+    const auto pointAt = [&](double x) {
+        QTest::mouseMove(&view, chart->mapToScene({x, chart->height() / 2}).toPoint());
+    };
+    pointAt(chart->width() - 5);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chart->readout().isShown; }));
+    EXPECT_EQ(chart->readout().text, u"Now  ·  CPU 60 °C  ·  GPU 41 °C"_s);
+    ingest(sampleAt(62, 61, 42, {2000}));
+    EXPECT_EQ(chart->readout().text, u"Now  ·  CPU 61 °C  ·  GPU 42 °C"_s) << "it stays current";
+    pointAt(-30);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !chart->readout().isShown; }));
 }
 
 TEST_F(DashboardViewTest, RestsWhileNobodySeesIt) {

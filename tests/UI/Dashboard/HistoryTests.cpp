@@ -1,4 +1,5 @@
 #include "Core/LocalizedText.h"
+#include "UI/Dashboard/ChartReadout.h"
 #include "UI/Dashboard/FanSpeedHistory.h"
 #include "UI/Dashboard/HistoryChartAxis.h"
 #include "UI/Dashboard/HistorySamples.h"
@@ -162,6 +163,35 @@ TEST(FanSpeedHistory, DrawsTheFirstFanSolid) {
     for (const LineChart::Series& line : chart.series)
         lines.append(u"%1 %2 %3"_s.arg(line.name).arg(line.points.size()).arg(line.isDashed));
     EXPECT_EQ(lines, (QStringList{u"Left 1 0"_s, u"Right 2 0"_s, u"Fan 3 2 1"_s, u"Fan 4 1 0"_s}));
+}
+
+TEST(ChartReadout, TellsTheNearestMomentThatIsShown) {
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    const QList<TelemetrySample> samples = {sampleAt(0, 61, 55, {1000, 2000}),
+                                            sampleAt(185, 62.4, 55.6, {nan, 2345}),
+                                            sampleAt(200, 70, 60, {1500, 2500})};
+    const LineChartPainter::Look look{.size = {400, 190}};
+    const LineChart chart = TemperatureHistory::chart(samples);
+    const double moment = look.position({-0.25, 0}, chart).x();
+    const auto nearby = ChartReadout::nearest(chart, look, moment - 4);
+    EXPECT_EQ(nearby.text, u"15\u00a0s ago  ·  CPU 62 °C  ·  GPU 56 °C"_s);
+    EXPECT_EQ(nearby.x, moment);
+    ASSERT_EQ(nearby.dots.size(), 2);
+    EXPECT_EQ(nearby.dots[1].y, look.position({-0.25, 55.6}, chart).y());
+
+    const LineChart fans = FanSpeedHistory::chart(samples);
+    EXPECT_EQ(ChartReadout::nearest(fans, look, moment).text,
+              u"15\u00a0s ago  ·  Right 2,345 rpm"_s);
+    EXPECT_EQ(ChartReadout::nearest(fans, look, look.plot().right()).text,
+              u"Now  ·  Left 1,500 rpm  ·  Right 2,500 rpm"_s);
+    EXPECT_EQ(ChartReadout::nearest(fans, look, look.plot().left()).text,
+              u"3 min 20 s ago  ·  Left 1,000 rpm  ·  Right 2,000 rpm"_s);
+
+    EXPECT_FALSE(ChartReadout::nearest(fans, look, look.plot().left() - 1).isShown);
+    EXPECT_FALSE(ChartReadout::nearest(TemperatureHistory::chart({}), look, moment).isShown);
+    LineChart late = chart;
+    late.time = {.lower = -10, .upper = -5};
+    EXPECT_FALSE(ChartReadout::nearest(late, look, 200).isShown) << "no sample is in sight";
 }
 
 TEST(LineChartPainter, KeepsLinesInsideThePlotAndLabelsOutside) {
