@@ -173,70 +173,54 @@ protected:
     }
 };
 
-struct SMCFaultRow {
-    const char* name;
-    FaultySMC::Fault fault;
-};
-
-std::vector<SMCFaultRow> smcFaults() {
+TEST_F(FaultTest, EveryCallToTheSMCMayFailFromTheStartOrLater) {
+    using Kind = FaultySMC::Kind;
     struct Call {
         const char* name;
         std::uint8_t command;
-        std::optional<std::uint32_t> key;
+        std::optional<std::uint32_t> key = {};
     };
     const Call calls[] = {
         {"the number of keys", SMCCommand::readKey, smcFourCC("#KEY")},
-        {"a key's name", SMCCommand::getKeyFromIndex, {}},
-        {"a key's description", SMCCommand::getKeyInfo, {}},
+        {"a key's name", SMCCommand::getKeyFromIndex},
+        {"a key's description", SMCCommand::getKeyInfo},
         {"the number of fans", SMCCommand::readKey, smcFourCC("FNum")},
         {"a fan's speed", SMCCommand::readKey, smcFourCC("F1Ac")},
-        {"any value", SMCCommand::readKey, {}},
+        {"any value", SMCCommand::readKey},
     };
-    using Kind = FaultySMC::Kind;
-    std::vector<SMCFaultRow> rows;
-    for (const Call& call : calls) {
+    const auto check = [](const FaultySMC::Fault& fault, bool isFromTheStart) {
+        RunningState mac;
+        if (!isFromTheStart) {
+            mac.start();
+            ASSERT_TRUE(mac.regainsControl());
+        }
+        mac.kernel->setFault(fault);
+        if (isFromTheStart)
+            mac.start();
+        EXPECT_TRUE(mac.takesSamples(4)) << "samples go on";
+        mac.kernel->setFault({});
+        // What is wrong with a description stays: it is asked for once, as long as it is answered.
+        const bool isRemembered =
+            isFromTheStart && fault.isForGood && fault.command == SMCCommand::getKeyInfo &&
+            (fault.kind == Kind::answersZeros || fault.kind == Kind::answersNonsense);
+        EXPECT_TRUE(isRemembered ? mac.takesSamples(1) : mac.regainsControl());
+        EXPECT_FALSE(mac.helper.wasAskedNonsense);
+        mac.quit();
+        EXPECT_FALSE(mac.helper.isHolding);
+    };
+    for (const auto& [name, command, key] : calls) {
         for (const Kind kind :
              {Kind::kernelFails, Kind::refuses, Kind::answersZeros, Kind::answersNonsense}) {
-            for (const bool isForGood : {false, true})
-                rows.push_back({call.name, {call.command, kind, isForGood, call.key}});
-        }
-    }
-    return rows;
-}
-
-/// What is wrong with a description stays: it is asked for once, as long as it is answered.
-bool isRememberedFromTheStart(const FaultySMC::Fault& fault) {
-    return fault.command == SMCCommand::getKeyInfo && fault.isForGood &&
-           (fault.kind == FaultySMC::Kind::answersZeros ||
-            fault.kind == FaultySMC::Kind::answersNonsense);
-}
-
-TEST_F(FaultTest, EveryCallToTheSMCMayFailFromTheStartOrLater) {
-    for (const SMCFaultRow& row : smcFaults()) {
-        for (const bool isFromTheStart : {true, false}) {
-            SCOPED_TRACE(testing::Message()
-                         << row.name << ", kind " << static_cast<int>(row.fault.kind)
-                         << (row.fault.isForGood ? ", for good" : ", once")
-                         << (isFromTheStart ? ", from the start" : ", while it runs"));
-            expectNoStalls([&] {
-                RunningState mac;
-                if (!isFromTheStart) {
-                    mac.start();
-                    ASSERT_TRUE(mac.regainsControl());
+            for (const bool isForGood : {false, true}) {
+                for (const bool isFromTheStart : {true, false}) {
+                    SCOPED_TRACE(testing::Message()
+                                 << name << ", kind " << static_cast<int>(kind)
+                                 << (isForGood ? ", for good" : ", once")
+                                 << (isFromTheStart ? ", from the start" : ", while it runs"));
+                    const FaultySMC::Fault fault{command, kind, isForGood, key};
+                    expectNoStalls([&] { check(fault, isFromTheStart); });
                 }
-                mac.kernel->setFault(row.fault);
-                if (isFromTheStart)
-                    mac.start();
-                EXPECT_TRUE(mac.takesSamples(4)) << "samples go on";
-                mac.kernel->setFault({});
-                if (isFromTheStart && isRememberedFromTheStart(row.fault))
-                    EXPECT_TRUE(mac.takesSamples(1));
-                else
-                    EXPECT_TRUE(mac.regainsControl());
-                EXPECT_FALSE(mac.helper.wasAskedNonsense);
-                mac.quit();
-                EXPECT_FALSE(mac.helper.isHolding);
-            });
+            }
         }
     }
 }

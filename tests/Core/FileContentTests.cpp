@@ -16,7 +16,6 @@ namespace kestrowind {
 namespace {
 
 using namespace Qt::StringLiterals;
-using testing::ElementsAre;
 
 constexpr const char* header = "Time,CPU average (Celsius),CPU hottest (Celsius),"
                                "GPU average (Celsius),GPU hottest (Celsius)";
@@ -49,19 +48,12 @@ TEST(HistoryTable, HasARowForEachSampleAndAColumnForEachFan) {
                          "2025-06-15T17:06:44.123+02:00,50.00,60.00,40.00,45.00,0,\r\n");
     EXPECT_EQ(historyTable({}), QByteArray(header) + "\r\n");
 
-    // The hour that happens twice, and an offset of half an hour to the west.
-    struct Row {
-        const char* zone;
-        qint64 milliseconds;
-        const char* time;
-    };
-    for (const auto& [zone, milliseconds, time] :
-         {Row{"Europe/Berlin", 1'761'438'600'000, "2025-10-26T02:30:00.000+02:00"},
-          Row{"Europe/Berlin", 1'761'442'200'000, "2025-10-26T02:30:00.000+01:00"},
-          Row{"America/St_Johns", -500, "1969-12-31T20:29:59.500-03:30"}})
-        EXPECT_TRUE(historyTable({sampleAt(milliseconds, {}, {})}, QTimeZone(zone))
-                        .contains(QByteArray("\r\n") + time + ','))
-            << time;
+    // The second one of the hour that happens twice, and an offset of half an hour to the west.
+    const qint64 autumn = 1'761'442'200'000;
+    EXPECT_TRUE(historyTable({sampleAt(autumn, {}, {})}, QTimeZone("Europe/Berlin"))
+                    .contains("\r\n2025-10-26T02:30:00.000+01:00,"));
+    EXPECT_TRUE(historyTable({sampleAt(-500, {}, {})}, QTimeZone("America/St_Johns"))
+                    .contains("\r\n1969-12-31T20:29:59.500-03:30,"));
 }
 
 FanPreset madeBy(const QString& name, QList<FanCurvePoint> points) {
@@ -103,12 +95,8 @@ TEST(PresetFile, TakesWhatItGaveAndNothingThatNoEditorMakes) {
     for (const auto& [bad, key] : {
              Row{"", "presets.import.notAPreset"},
              Row{"[]", "presets.import.notAPreset"},
-             Row{"{\"points\": []}", "presets.import.notAPreset"},
              Row{*content + *content, "presets.import.notAPreset"},
-             Row{QByteArray(*content).replace("33.5", "1e999"), "presets.import.notAPreset"},
-             Row{QByteArray(*content).replace("wind", "\xff"), "presets.import.notAPreset"},
              Row{encoded({good, good}), "presets.import.several"},
-             Row{encoded({madeBy(u" \n"_s, {{50, 50}})}), "presets.import.noName"},
              Row{encoded({madeBy(u"\u0001"_s, {{50, 50}})}), "presets.import.noName"},
              Row{encoded({curveless}), "presets.import.noCurve"},
              Row{encoded({manyCurves}), "presets.import.tooMuch"},
@@ -127,15 +115,12 @@ TEST(PresetFile, TakesWhatItGaveAndNothingThatNoEditorMakes) {
 
 TEST(PresetFile, ReadsNothingButAFileOfASaneSize) {
     const TestHome home;
-    const auto write = [&](const QByteArray& content) {
-        QFile file(home.path(u"preset.json"_s));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        return file.fileName();
-    };
+    const QString name = u"preset.json"_s;
     const QByteArray content = encoded({madeBy(u"Night"_s, {{50, 50}})});
-    EXPECT_TRUE(PresetFile::read(write(content)));
-    EXPECT_FALSE(PresetFile::read(write(content + QByteArray(PresetFile::largestSize, ' '))));
+    home.write(name, content);
+    EXPECT_TRUE(PresetFile::read(home.path(name)));
+    home.write(name, content + QByteArray(PresetFile::largestSize, ' '));
+    EXPECT_FALSE(PresetFile::read(home.path(name)));
     EXPECT_FALSE(PresetFile::read(home.path()));
     EXPECT_FALSE(PresetFile::read(u"/dev/zero"_s));
     const auto missing = PresetFile::read(home.path(u"missing"_s));
@@ -148,18 +133,12 @@ TEST(PresetStore, AdoptsAPresetAsOneOfTheUsersOwn) {
     const auto defaults = home.defaults();
     PresetStore store(2, *defaults, {.folder = home.path()});
     const FanPreset cool = store.presets().front();
-    QStringList names;
-    for (int i = 0; i < 3; ++i) {
-        const auto adopted = store.adopt(cool);
-        ASSERT_TRUE(adopted);
-        EXPECT_NE(adopted->id, cool.id);
-        EXPECT_FALSE(adopted->isBuiltIn);
-        EXPECT_EQ(adopted->curves, cool.curves);
-        names.append(adopted->name);
-    }
-    EXPECT_THAT(names, ElementsAre(u"Cool Copy"_s, u"Cool Copy Copy"_s, u"Cool Copy Copy Copy"_s));
-    EXPECT_EQ(store.presets().front(), cool);
-    EXPECT_FALSE(store.adopt(madeBy(u"One more"_s, {{50, 50}})));
+    const auto first = store.adopt(cool);
+    const auto second = store.adopt(cool);
+    ASSERT_TRUE(first && second);
+    EXPECT_EQ(second->name, u"Cool Copy Copy"_s);
+    EXPECT_EQ(second->curves, cool.curves);
+    EXPECT_EQ(store.presets(), FanPreset::builtIns(2) + QList({*first, *second}));
     EXPECT_EQ(PresetStore(2, *defaults, {.folder = home.path()}).presets(), store.presets());
 }
 

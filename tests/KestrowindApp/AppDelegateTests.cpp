@@ -4,11 +4,9 @@
 #include "Core/PreviewHelperClient.h"
 #include "Platform/Platform.h"
 #include "Simulator/SimulatedSMC.h"
-#include "Support/FakeSystemInformation.h"
 #include "Support/TestDefaults.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <gmock/gmock.h>
 
 namespace kestrowind {
@@ -30,45 +28,6 @@ public:
     QCoro::Task<void> shutDownDaemon() override {
         m_notes.emplace_back("shut down");
         co_return;
-    }
-
-private:
-    std::vector<std::string>& m_notes;
-};
-
-/// A copy that notes what it is asked for, and ends when it is polite.
-class NotingCopy final : public RunningApplication {
-public:
-    NotingCopy(std::string name, bool isPolite, std::vector<std::string>& notes)
-        : m_name(std::move(name))
-        , m_isPolite(isPolite)
-        , m_notes(notes) {}
-
-    void terminate() override {
-        m_notes.push_back("terminate " + m_name);
-        m_isTerminated = m_isPolite;
-    }
-    void forceTerminate() override { m_notes.push_back("force " + m_name); }
-    [[nodiscard]] bool isTerminated() const override { return m_isTerminated; }
-
-private:
-    std::string m_name;
-    bool m_isPolite;
-    bool m_isTerminated = false;
-    std::vector<std::string>& m_notes;
-};
-
-class TwoCopies final : public RunningApplications {
-public:
-    explicit TwoCopies(std::vector<std::string>& notes)
-        : m_notes(notes) {}
-
-    std::vector<std::unique_ptr<RunningApplication>> olderCopies(const QString& bundle) override {
-        m_notes.push_back(bundle.toStdString());
-        std::vector<std::unique_ptr<RunningApplication>> copies;
-        copies.push_back(std::make_unique<NotingCopy>("polite", true, m_notes));
-        copies.push_back(std::make_unique<NotingCopy>("deaf", false, m_notes));
-        return copies;
     }
 
 private:
@@ -119,15 +78,6 @@ TEST_F(AppDelegateTest, TheEndWaitsUntilTheFansAreReleasedAndTheHelperIsDown) {
     ASSERT_TRUE(replies.wait());
     EXPECT_THAT(m_notes, ElementsAre("release", "shut down"));
     EXPECT_EQ(replies.count(), 1);
-}
-
-TEST_F(AppDelegateTest, OlderCopiesAreAskedAndTheDeafOnesMadeToEnd) {
-    m_platform.information = std::make_unique<FakeSystemInformation>();
-    m_platform.runningApplications = std::make_unique<TwoCopies>(m_notes);
-    m_delegate.applicationDidFinishLaunching();
-    EXPECT_THAT(m_notes, ElementsAre("app.kestrowind", "terminate polite", "terminate deaf"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return m_notes.size() == 4; }));
-    EXPECT_EQ(m_notes.back(), "force deaf");
 }
 
 } // namespace

@@ -26,7 +26,6 @@ bool waitFor(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 10'000);
 }
 
-template <class Helper>
 class HelperConnectionContract : public testing::Test {
 protected:
     std::unique_ptr<HelperConnection>
@@ -35,100 +34,89 @@ protected:
         connection->setInvalidationHandler([ends = m_ends] { ++ends->invalidations; });
         return connection;
     }
-    template <class... Values>
-    HelperConnection::Reply<Values...> counted() {
-        return [ends = m_ends](const Values&...) { ++ends->replies; };
+    [[nodiscard]] auto counted() const {
+        return [ends = m_ends](const auto&...) { ++ends->replies; };
     }
-    HelperConnection::ErrorHandler failed() {
+    /// Counts a reply, and keeps its value.
+    template <class Value>
+    [[nodiscard]] auto kept(std::shared_ptr<Value> value) const {
+        return [ends = m_ends, value = std::move(value)](Value reply) {
+            *value = std::move(reply);
+            ++ends->replies;
+        };
+    }
+    [[nodiscard]] HelperConnection::ErrorHandler failed() const {
         return [ends = m_ends](const QString& description) {
             EXPECT_FALSE(description.isEmpty());
             ++ends->errors;
         };
     }
+    [[nodiscard]] bool haveEnded(int calls) const {
+        return waitFor([&] { return m_ends->calls() == calls; });
+    }
 
-    Helper m_helper;
+    ThisSystem::Helper m_helper;
     std::shared_ptr<Ends> m_ends = std::make_shared<Ends>();
 };
 
-TYPED_TEST_SUITE(HelperConnectionContract, ThisSystem::Helpers);
-
-TYPED_TEST(HelperConnectionContract, FailsAndIsInvalidWithoutAService) {
-    { const auto unused = this->connect(u"app.kestrowind.no-such-service"_s); }
-    const auto connection = this->connect(u"app.kestrowind.no-such-service"_s);
-    EXPECT_EQ(this->m_ends->invalidations, 0) << "nothing happens before the first call";
-    connection->status(this->template counted<std::optional<QByteArray>>(), this->failed());
-    EXPECT_TRUE(
-        waitFor([&] { return this->m_ends->errors == 1 && this->m_ends->invalidations == 1; }));
-    EXPECT_EQ(this->m_ends->replies, 0);
+TEST_F(HelperConnectionContract, FailsAndIsInvalidWithoutAService) {
+    { const auto unused = connect(u"app.kestrowind.no-such-service"_s); }
+    const auto connection = connect(u"app.kestrowind.no-such-service"_s);
+    EXPECT_EQ(m_ends->invalidations, 0) << "nothing happens before the first call";
+    connection->status(counted(), failed());
+    EXPECT_TRUE(waitFor([&] { return m_ends->errors == 1 && m_ends->invalidations == 1; }));
+    EXPECT_EQ(m_ends->replies, 0);
 }
 
-TYPED_TEST(HelperConnectionContract, DeliversEachReplyInItsOwnType) {
-    if (!this->m_helper.isInstalled())
+TEST_F(HelperConnectionContract, DeliversEachReplyInItsOwnType) {
+    if (!m_helper.isInstalled())
         GTEST_SKIP() << "no helper is installed";
-    const auto connection = this->connect();
-    auto document = std::make_shared<std::optional<QByteArray>>();
-    connection->status(
-        [document, ends = this->m_ends](std::optional<QByteArray> reply) {
-            *document = std::move(reply);
-            ++ends->replies;
-        },
-        this->failed());
-    ASSERT_TRUE(waitFor([&] { return this->m_ends->calls() == 1; }));
-    ASSERT_EQ(this->m_ends->errors, 0);
+    const auto connection = connect();
+    const auto document = std::make_shared<std::optional<QByteArray>>();
+    connection->status(kept(document), failed());
+    ASSERT_TRUE(haveEnded(1));
     ASSERT_TRUE(*document);
     EXPECT_TRUE(decodeHelperStatus((*document)->toStdString()));
-    connection->releaseControl(this->template counted<>(), this->failed());
-    ASSERT_TRUE(waitFor([&] { return this->m_ends->calls() == 2; }));
+    connection->releaseControl(counted(), failed());
+    ASSERT_TRUE(haveEnded(2));
 
-    if (TypeParam::isExpendable) {
-        auto applied = std::make_shared<std::vector<double>>();
-        connection->setTargets(
-            {2500.5, 2600},
-            [applied, ends = this->m_ends](std::vector<double> reply) {
-                *applied = std::move(reply);
-                ++ends->replies;
-            },
-            this->failed());
-        ASSERT_TRUE(waitFor([&] { return this->m_ends->calls() == 3; }));
+    if (ThisSystem::Helper::isExpendable) {
+        const auto applied = std::make_shared<std::vector<double>>();
+        connection->setTargets({2500.5, 2600}, kept(applied), failed());
+        ASSERT_TRUE(haveEnded(3));
         EXPECT_EQ(applied->size(), 2U) << "one for each fan";
-        connection->uninstall(this->template counted<bool>(), this->failed());
-        ASSERT_TRUE(waitFor([&] { return this->m_ends->calls() == 4; }));
+        connection->uninstall(counted(), failed());
+        ASSERT_TRUE(haveEnded(4));
     }
-    EXPECT_EQ(this->m_ends->errors, 0);
-    EXPECT_EQ(this->m_ends->invalidations, 0);
+    EXPECT_EQ(m_ends->errors, 0);
+    EXPECT_EQ(m_ends->invalidations, 0);
 }
 
-TYPED_TEST(HelperConnectionContract, ReachesANewHelperAfterItsLastHasEnded) {
-    if (!this->m_helper.isInstalled() || !TypeParam::isExpendable)
+TEST_F(HelperConnectionContract, ReachesANewHelperAfterItsLastHasEnded) {
+    if (!m_helper.isInstalled() || !ThisSystem::Helper::isExpendable)
         GTEST_SKIP() << "no helper is installed that may be shut down";
-    const auto connection = this->connect();
-    connection->shutDown(this->template counted<>(), this->failed());
-    ASSERT_TRUE(waitFor([&] { return this->m_ends->calls() == 1; }));
-    EXPECT_EQ(this->m_ends->errors, 0);
+    const auto connection = connect();
+    connection->shutDown(counted(), failed());
+    ASSERT_TRUE(haveEnded(1));
+    EXPECT_EQ(m_ends->errors, 0);
     // The first call may still meet the end of the old one.
     for (int calls = 2; calls <= 3; ++calls) {
-        connection->status(this->template counted<std::optional<QByteArray>>(), this->failed());
-        ASSERT_TRUE(waitFor([&] { return this->m_ends->calls() == calls; }));
+        connection->status(counted(), failed());
+        ASSERT_TRUE(haveEnded(calls));
     }
-    EXPECT_GE(this->m_ends->replies, 2);
-    EXPECT_EQ(this->m_ends->invalidations, 0);
+    EXPECT_GE(m_ends->replies, 2);
+    EXPECT_EQ(m_ends->invalidations, 0);
 }
 
-TYPED_TEST(HelperConnectionContract, CallsNoHandlerOnceItIsGone) {
-    if (!this->m_helper.isInstalled())
+TEST_F(HelperConnectionContract, CallsNoHandlerOnceItIsGone) {
+    if (!m_helper.isInstalled())
         GTEST_SKIP() << "no helper is installed";
-    const auto earlier = std::make_shared<Ends>();
-    {
-        const auto connection =
-            this->m_helper.connection(QLatin1StringView(HelperConstants::machServiceName));
-        connection->setInvalidationHandler([earlier] { ++earlier->invalidations; });
-        connection->status([earlier](auto) { ++earlier->replies; },
-                           [earlier](auto) { ++earlier->errors; });
-    }
+    connect()->status(counted(), failed());
+    const auto earlier = std::exchange(m_ends, std::make_shared<Ends>());
     // A whole call later everything that was under way would have arrived.
-    const auto connection = this->connect();
-    connection->status(this->template counted<std::optional<QByteArray>>(), this->failed());
-    ASSERT_TRUE(waitFor([&] { return this->m_ends->replies == 1; }));
+    const auto connection = connect();
+    connection->status(counted(), failed());
+    ASSERT_TRUE(waitFor([&] { return m_ends->replies == 1; }));
     EXPECT_EQ(earlier->calls() + earlier->invalidations, 0);
 }
 

@@ -26,31 +26,18 @@ protected:
         EXPECT_EQ(line(*process), "up");
         return process;
     }
-    /// What a copy finds when it is asked.
-    QByteArray olderCopies(QProcess& process) {
-        process.write("\n");
-        return line(process);
-    }
-
     ThisSystem::Workspace m_workspace;
 };
 
-TEST_F(RunningApplicationsContract, OnlyOlderCopiesAreFound) {
-    const auto older = start(u"count"_s);
-    const auto newer = start(u"count"_s);
-    EXPECT_EQ(olderCopies(*older), "0") << "neither itself nor a younger one";
-    EXPECT_EQ(olderCopies(*newer), "1");
-    for (QProcess* process : {older.get(), newer.get()}) {
-        process->closeWriteChannel();
-        EXPECT_TRUE(process->waitForFinished(10'000));
-    }
-}
-
-TEST_F(RunningApplicationsContract, AnOlderCopyEndsWhenItIsAskedAndWhenItIsForced) {
+TEST_F(RunningApplicationsContract, OnlyOlderCopiesAreFoundAndEndWhenTheyAreAskedOrForced) {
     for (const QString& mode : {u"terminate"_s, u"force"_s}) {
-        const auto older = start(u"count"_s);
+        const auto older = start(mode);
         const auto newer = start(mode);
-        EXPECT_EQ(olderCopies(*newer), "1");
+        older->write("\n");
+        EXPECT_EQ(line(*older), "0") << "neither itself nor a younger one";
+        EXPECT_EQ(line(*older), "ended");
+        newer->write("\n");
+        EXPECT_EQ(line(*newer), "1");
         EXPECT_EQ(line(*newer), "ended") << mode.toStdString();
         EXPECT_TRUE(older->waitForFinished(10'000));
         newer->closeWriteChannel();

@@ -5,7 +5,6 @@
 namespace kestrowind {
 namespace {
 
-template <class Kernel>
 class SMCUserClientContract : public testing::Test {
 protected:
     void SetUp() override {
@@ -27,48 +26,46 @@ protected:
         return answer;
     }
 
-    Kernel m_kernel;
+    ThisSystem::Kernel m_kernel;
     std::shared_ptr<SMCUserClient> m_client = m_kernel.userClient();
     std::uint32_t m_service = 0;
 };
 
-TYPED_TEST_SUITE(SMCUserClientContract, ThisSystem::Kernels);
-
-TYPED_TEST(SMCUserClientContract, DescribesTheKeysThatThereAreAndNoOthers) {
-    EXPECT_EQ(this->m_client->matchingService("NoServiceOfThisName"), 0U);
-    const auto [code, connection] = this->m_client->open(this->m_service, 0);
-    this->m_client->releaseService(this->m_service);
+TEST_F(SMCUserClientContract, DescribesTheKeysThatThereAreAndNoOthers) {
+    EXPECT_EQ(m_client->matchingService("NoServiceOfThisName"), 0U);
+    const auto [code, connection] = m_client->open(m_service, 0);
+    m_client->releaseService(m_service);
     ASSERT_EQ(code, 0);
     EXPECT_NE(connection, 0U);
 
-    const SMCParamStruct keyCount = this->describe(connection, "#KEY");
+    const SMCParamStruct keyCount = describe(connection, "#KEY");
     EXPECT_EQ(keyCount.result, 0);
     EXPECT_EQ(keyCount.keyInfo.dataSize, 4U);
     EXPECT_EQ(smcFourCCString(keyCount.keyInfo.dataType), "ui32");
-    EXPECT_NE(this->describe(connection, "zzzz").result, 0) << "the kernel is content, the SMC not";
+    EXPECT_NE(describe(connection, "zzzz").result, 0) << "the kernel is content, the SMC not";
 
     SMCParamStruct value;
     EXPECT_EQ(
-        this->m_client->callStructMethod(
+        m_client->callStructMethod(
             connection, smcStructMethod,
             {.key = smcFourCC("#KEY"), .keyInfo = keyCount.keyInfo, .data8 = SMCCommand::readKey},
             value),
         0);
     EXPECT_EQ(value.result, 0);
-    this->m_client->close(connection);
+    m_client->close(connection);
 }
 
-TYPED_TEST(SMCUserClientContract, RefusesAServiceAndAConnectionThatAreNone) {
-    EXPECT_NE(this->m_client->open(0, 0).code, 0);
-    const auto [code, connection] = this->m_client->open(this->m_service, 0);
+TEST_F(SMCUserClientContract, RefusesAServiceAndAConnectionThatAreNone) {
+    EXPECT_NE(m_client->open(0, 0).code, 0);
+    const auto [code, connection] = m_client->open(m_service, 0);
     ASSERT_EQ(code, 0);
-    this->m_client->close(connection);
+    m_client->close(connection);
     SMCParamStruct answer;
-    EXPECT_NE(this->m_client->callStructMethod(
+    EXPECT_NE(m_client->callStructMethod(
                   connection, smcStructMethod,
                   {.key = smcFourCC("#KEY"), .data8 = SMCCommand::getKeyInfo}, answer),
               0);
-    this->m_client->releaseService(this->m_service);
+    m_client->releaseService(m_service);
 }
 
 } // namespace

@@ -7,17 +7,14 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-template <class Machine>
 class SystemInformationContract : public testing::Test {
 protected:
-    Machine m_machine;
+    ThisSystem::Machine m_machine;
     std::unique_ptr<SystemInformation> m_information = m_machine.information();
 };
 
-TYPED_TEST_SUITE(SystemInformationContract, ThisSystem::Machines);
-
-TYPED_TEST(SystemInformationContract, SaysWhatThereIsAndNothingOfTheRest) {
-    const SystemInformation& information = *this->m_information;
+TEST_F(SystemInformationContract, SaysWhatThereIsAndNothingOfTheRest) {
+    const SystemInformation& information = *m_information;
     for (const char* name : {"hw.model", "machdep.cpu.brand_string"}) {
         const auto text = information.sysctl(name);
         ASSERT_TRUE(text) << name;

@@ -10,19 +10,16 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-template <class Store>
 class UserDefaultsContract : public testing::Test {
 protected:
     /// The defaults as the next start of the application finds them.
     UserDefaults nextStart() { return UserDefaults({}, m_store.open()); }
 
-    Store m_store;
+    ThisSystem::Defaults m_store;
 };
 
-TYPED_TEST_SUITE(UserDefaultsContract, ThisSystem::DefaultsStores);
-
-TYPED_TEST(UserDefaultsContract, KeepsEachTypeOverAStart) {
-    UserDefaults defaults = this->nextStart();
+TEST_F(UserDefaultsContract, KeepsEachTypeOverAStart) {
+    UserDefaults defaults = nextStart();
     const QString text = u"Zürich, \"50 %\"/\\ 🌀"_s;
     defaults.setString(u"text"_s, text);
     defaults.setString(u"empty"_s, {});
@@ -31,7 +28,7 @@ TYPED_TEST(UserDefaultsContract, KeepsEachTypeOverAStart) {
     defaults.setBoolean(u"yes"_s, true);
     defaults.setBoolean(u"no"_s, false);
 
-    UserDefaults next = this->nextStart();
+    UserDefaults next = nextStart();
     next.registerDefault(u"no"_s, true);
     EXPECT_EQ(next.string(u"text"_s), text);
     EXPECT_EQ(next.string(u"empty"_s), QString());
@@ -42,16 +39,16 @@ TYPED_TEST(UserDefaultsContract, KeepsEachTypeOverAStart) {
     EXPECT_EQ(next.string(u"absent"_s), std::nullopt);
 }
 
-TYPED_TEST(UserDefaultsContract, TellsOfChangesOnceAndForgetsWhatIsRemoved) {
-    UserDefaults defaults = this->nextStart();
+TEST_F(UserDefaultsContract, TellsOfChangesOnceAndForgetsWhatIsRemoved) {
+    UserDefaults defaults = nextStart();
     QSignalSpy changes(&defaults, &UserDefaults::changed);
     defaults.setBoolean(u"switch"_s, true);
     defaults.setBoolean(u"switch"_s, true);
     EXPECT_EQ(changes.size(), 1);
-    EXPECT_TRUE(this->nextStart().boolean(u"switch"_s)) << "stored when the call returned";
+    EXPECT_TRUE(nextStart().boolean(u"switch"_s)) << "stored when the call returned";
     defaults.remove(u"switch"_s);
     EXPECT_EQ(changes.size(), 2);
-    EXPECT_FALSE(this->nextStart().boolean(u"switch"_s));
+    EXPECT_FALSE(nextStart().boolean(u"switch"_s));
 }
 
 } // namespace

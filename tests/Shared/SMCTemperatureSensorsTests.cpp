@@ -90,7 +90,7 @@ TEST_F(SMCTemperatureSensorsTest, AGroupOnceFoundIsNeverGivenUpAndStartsTheWaits
     EXPECT_FALSE(walksAfter(24h, sensors));
 }
 
-TEST_F(SMCTemperatureSensorsTest, AnUnreadableKeyCountIsNoWalkAtAll) {
+TEST_F(SMCTemperatureSensorsTest, AKeyCountThatIsUnreadableOrNonsenseIsNotWalkedToItsEnd) {
     mac.smc->setFloat("Tp0a", 50);
     mac.smc->setKey("#KEY", "ui32", {0, 0, 0, 2});
     mac.smc->setFault("#KEY", Fault::fails);
@@ -101,16 +101,11 @@ TEST_F(SMCTemperatureSensorsTest, AnUnreadableKeyCountIsNoWalkAtAll) {
     mac.smc->setFault("#KEY", Fault::timesOut);
     EXPECT_FALSE(walksAfter(60s, sensors));
     EXPECT_EQ(sensors.sensorCounts(), (Counts{1, 0}));
+    mac.smc->setKey("#KEY", "ui32", {0xFF, 0xFF, 0xFF, 0xFF});
     mac.smc->setFault("#KEY", std::nullopt);
     EXPECT_TRUE(walksAfter(0s, sensors));
+    EXPECT_EQ(mac.smc->counts().keyNames, static_cast<int>(smcMaximumKeyCount)) << "nonsense";
     expectWalkExactlyAfter(120s, sensors); // only the second walk was fruitless
-}
-
-TEST_F(SMCTemperatureSensorsTest, ANonsenseKeyCountIsNotWalkedToItsEnd) {
-    mac.smc->setFloat("Tp0a", 50);
-    mac.smc->setKey("#KEY", "ui32", {0xFF, 0xFF, 0xFF, 0xFF});
-    EXPECT_EQ(makeSensors().sensorCounts(), (Counts{1, 0}));
-    EXPECT_EQ(mac.smc->counts().keyNames, static_cast<int>(smcMaximumKeyCount));
 }
 
 TEST_F(SMCTemperatureSensorsTest, ASteadyTickCostsOneCallAValue) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Shared/HelperShared/HelperConstants.h"
+#include "Shared/SMCKit/SMCConnection.h"
 #include "Simulator/Link/HelperWire.h"
+#include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
 
 #include <QDBusConnection>
@@ -126,6 +128,24 @@ public:
 private:
     QString m_name;
     QDBusConnection m_connection;
+};
+
+/// A machine whose only fan is held by a caller.
+class HeldFan : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(mac.isUp());
+        const auto reply =
+            holder.call(QStringLiteral("SetTargets"), {QVariant::fromValue(QList<double>{2500})});
+        ASSERT_EQ(reply.type(), QDBusMessage::ReplyMessage) << reply.errorMessage().toStdString();
+        ASSERT_EQ(smc->readUInt8("F0md"), 1);
+    }
+
+    const BootedMac mac{{QStringLiteral("--installed"), QStringLiteral("--profile"),
+                         QStringLiteral("desktop-1fan")}};
+    HelperCaller holder{mac, QStringLiteral("holder")};
+    std::unique_ptr<SMCConnection> smc =
+        SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root()))).value();
 };
 
 } // namespace kestrowind

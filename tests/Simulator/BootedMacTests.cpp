@@ -1,16 +1,10 @@
 #include "Simulator/BootedMac.h"
 
-#include "Shared/SMCKit/SMCConnection.h"
-#include "Simulator/Link/SMCLink.h"
-
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
 
 #include <csignal>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
 
 namespace kestrowind {
 namespace {
@@ -18,18 +12,11 @@ namespace {
 using namespace Qt::StringLiterals;
 using testing::HasSubstr;
 
-QVariant targets(const QList<double>& speeds) {
-    return QVariant::fromValue(speeds);
-}
-
 TEST(BootedMac, RunsACommandInsideAndEndsLikeIt) {
     Outcome outcome = runSimulator(
         {u"--"_s, u"sh"_s, u"-c"_s, u"cat $KESTROWIND_SIMULATED_MAC/run/system.json"_s});
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(nlohmann::json::parse(outcome.output),
-              (nlohmann::json{{"hw.model", "MacBookPro18,3"},
-                              {"machdep.cpu.brand_string", "Apple M1 Pro"},
-                              {"osVersion", "Version 15.5 (Build 24F74)"}}));
+    EXPECT_THAT(outcome.output, HasSubstr("hw.model"));
     EXPECT_EQ(runSimulator({u"--"_s, u"sh"_s, u"-c"_s, u"exit 7"_s}).status, 7);
     EXPECT_EQ(runSimulator({u"--"_s, u"sh"_s, u"-c"_s, u"kill -9 $$"_s}).status, 128 + SIGKILL);
     outcome = runSimulator({u"--"_s, u"no-such-program"_s});
@@ -48,7 +35,6 @@ TEST(BootedMac, SaysWhyItCannotBoot) {
     for (const auto& [arguments, message] : {
              Case{{u"--bogus"_s}, "Unknown option 'bogus'"},
              Case{{u"--profile"_s, u"nothing"_s}, "profile nothing: neither a file nor one of"},
-             Case{{u"--load"_s, u"101%"_s}, "\"101%\" is no load"},
              Case{{u"--load"_s, u"nan%"_s}, "\"nan%\" is no load"},
              Case{{u"--root"_s, u"/proc/none"_s}, "cannot create /proc/none"},
              Case{{u"--root"_s, u"/tmp/"_s + QString(120, u'x')}, "too long for a socket"},
@@ -87,80 +73,7 @@ TEST(BootedMac, PassesSignalsOnAndShutsDownInGoodOrder) {
     EXPECT_FALSE(std::filesystem::exists(SimulatedMac::controlSocket(mac.root())));
 }
 
-TEST(BootedMac, OffersItsSMCToManyClientsAndIsNotHurtByBadOnes) {
-    const BootedMac mac({u"--profile"_s, u"large-2000-keys"_s});
-    ASSERT_TRUE(mac.isUp());
-    const auto path = SimulatedMac::smcSocket(mac.root());
-    const auto first = SMCConnection::open(std::make_shared<SMCLink>(path)).value();
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    path.string().copy(address.sun_path, sizeof address.sun_path - 1);
-    for (const std::size_t size : {1U, 123U, 125U, 4096U}) {
-        const int bad = ::socket(AF_UNIX, SOCK_SEQPACKET, 0);
-        ASSERT_EQ(::connect(bad, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
-        const std::string nonsense(size, 'x');
-        ::send(bad, nonsense.data(), size, MSG_NOSIGNAL);
-        char reply = 0;
-        EXPECT_EQ(::recv(bad, &reply, 1, 0), 0) << "hung up on after " << size << " bytes";
-        ::close(bad);
-    }
-    const auto second = SMCConnection::open(std::make_shared<SMCLink>(path)).value();
-    for (const auto* connection : {&first, &second})
-        EXPECT_EQ((*connection)->keyCount(), 2000U);
-}
-
-TEST(BootedMac, StartsTheHelperForWhoeverAsksAndAgainAfterItDied) {
-    const BootedMac mac({u"--installed"_s});
-    ASSERT_TRUE(mac.isUp());
-    ASSERT_TRUE(waitUntil([&mac] { return mac.status().at("helper").at("starts") == 1; }))
-        << "it runs from its bootstrap on";
-    {
-        HelperCaller caller(mac, u"first"_s);
-        EXPECT_EQ(caller.status().at("version"), HelperConstants::helperVersion);
-        EXPECT_EQ(mac.status().at("helper").at("starts"), 1);
-        ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
-        EXPECT_EQ(caller.call(u"Status"_s).type(), QDBusMessage::ErrorMessage);
-    }
-    HelperCaller caller(mac, u"second"_s);
-    EXPECT_EQ(caller.status().at("phase"), "idle");
-    const auto helper = mac.status().at("helper");
-    EXPECT_EQ(helper.at("starts"), 2);
-    EXPECT_EQ(helper.at("lastExit"), "killed by signal 9");
-
-    EXPECT_EQ(caller.call(u"ShutDown"_s).type(), QDBusMessage::ReplyMessage);
-    EXPECT_TRUE(waitUntil([&mac] { return mac.status().at("helper").at("pid").is_null(); }));
-    EXPECT_EQ(mac.status().at("helper").at("lastExit"), "exited with status 0");
-    HelperCaller third(mac, u"third"_s);
-    EXPECT_EQ(third.status().at("phase"), "idle") << "it ended well, and comes back when asked for";
-    EXPECT_EQ(mac.status().at("helper").at("starts"), 3);
-}
-
-TEST(BootedMac, StartsAKilledHelperAtOnceSoThatItHandsTheFansBack) {
-    const BootedMac mac({u"--installed"_s, u"--profile"_s, u"desktop-1fan"_s});
-    ASSERT_TRUE(mac.isUp());
-    const auto smc =
-        SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root()))).value();
-    {
-        HelperCaller holder(mac, u"lonely"_s);
-        const QDBusReply<QList<double>> applied = holder.call(u"SetTargets"_s, {targets({2500})});
-        ASSERT_TRUE(applied.isValid()) << applied.error().message().toStdString();
-        ASSERT_EQ(smc->readUInt8("F0md"), 1);
-        ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
-    }
-    EXPECT_TRUE(waitUntil([&smc] { return smc->readUInt8("F0md") == 0; }))
-        << "though nobody asks for the helper any more";
-}
-
-TEST(BootedMac, GivesTheFansBackAsSoonAsTheirHolderIsGone) {
-    const BootedMac mac({u"--installed"_s, u"--profile"_s, u"desktop-1fan"_s});
-    ASSERT_TRUE(mac.isUp());
-    const auto smc =
-        SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root()))).value();
-    HelperCaller holder(mac, u"holder"_s);
-    const QDBusReply<QList<double>> applied = holder.call(u"SetTargets"_s, {targets({2500})});
-    ASSERT_TRUE(applied.isValid()) << applied.error().message().toStdString();
-    EXPECT_EQ(applied.value(), QList<double>{2500});
-    EXPECT_EQ(smc->readUInt8("F0md"), 1);
+TEST_F(HeldFan, IsTheSystemsAgainAsSoonAsItsHolderIsGone) {
     {
         HelperCaller visitor(mac, u"visitor"_s);
         EXPECT_EQ(visitor.status().at("phase"), "controlling");
@@ -171,15 +84,29 @@ TEST(BootedMac, GivesTheFansBackAsSoonAsTheirHolderIsGone) {
     holder.hangUp();
     QElapsedTimer sinceHangUp;
     sinceHangUp.start();
-    EXPECT_TRUE(waitUntil([&smc] { return smc->readUInt8("F0md") == 0; }));
+    EXPECT_TRUE(waitUntil([this] { return smc->readUInt8("F0md") == 0; }));
     EXPECT_LT(sinceHangUp.elapsed(), 500) << "far before the heartbeat time is over";
-    RecordProperty("milliseconds", static_cast<int>(sinceHangUp.elapsed()));
 }
 
-TEST(BootedMac, RefusesCallsThatMakeNoSense) {
-    const BootedMac mac({u"--installed"_s});
-    ASSERT_TRUE(mac.isUp());
-    HelperCaller caller(mac, u"caller"_s);
+TEST_F(HeldFan, IsHandedBackByTheHelperThatFollowsAKilledOne) {
+    EXPECT_EQ(mac.status().at("helper").at("starts"), 1);
+    ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
+    EXPECT_EQ(holder.call(u"Status"_s).type(), QDBusMessage::ErrorMessage);
+    holder.hangUp();
+    EXPECT_TRUE(waitUntil([this] { return smc->readUInt8("F0md") == 0; }))
+        << "though nobody asks for the helper any more";
+    EXPECT_EQ(mac.status().at("helper").at("starts"), 2);
+    EXPECT_EQ(mac.status().at("helper").at("lastExit"), "killed by signal 9");
+
+    HelperCaller second(mac, u"second"_s);
+    EXPECT_EQ(second.call(u"ShutDown"_s).type(), QDBusMessage::ReplyMessage);
+    EXPECT_TRUE(waitUntil([this] { return mac.status().at("helper").at("pid").is_null(); }));
+    EXPECT_EQ(mac.status().at("helper").at("lastExit"), "exited with status 0");
+    HelperCaller third(mac, u"third"_s);
+    EXPECT_EQ(third.status().at("phase"), "idle") << "it ended well, and comes back when asked for";
+}
+
+TEST_F(HeldFan, IsNotMovedByCallsThatMakeNoSense) {
     struct Case {
         QString method;
         QVariantList arguments;
@@ -187,76 +114,32 @@ TEST(BootedMac, RefusesCallsThatMakeNoSense) {
     };
     const std::string invalid = "org.freedesktop.DBus.Error.InvalidArgs";
     for (const auto& [method, arguments, error] :
-         {Case{u"SetTargets"_s, {targets({2000})}, invalid},
-          Case{u"SetTargets"_s, {targets({2000, -5})}, invalid},
+         {Case{u"SetTargets"_s, {QVariant::fromValue(QList<double>{2000, 2000})}, invalid},
           Case{u"SetTargets"_s, {u"fast"_s}, invalid}, Case{u"SetTargets"_s, {}, invalid},
           Case{u"Status"_s, {true}, invalid},
           Case{u"Explode"_s, {}, "org.freedesktop.DBus.Error.UnknownMethod"}})
-        EXPECT_EQ(caller.call(method, arguments).errorName().toStdString(), error);
-    EXPECT_EQ(caller.status().at("phase"), "idle");
+        EXPECT_EQ(holder.call(method, arguments).errorName().toStdString(), error);
+    EXPECT_EQ(smc->readFloat("F0Tg"), 2500.0F);
 }
 
-TEST(BootedMac, HasAHelperThatMisbehavesOnCommand) {
+TEST(BootedMac, HasAHelperThatMisbehavesOnCommandAndIsUninstalled) {
     const BootedMac mac({u"--installed"_s});
     ASSERT_TRUE(mac.isUp());
-    HelperCaller caller(mac, u"victim"_s);
-    const auto behave = [&mac](const QStringList& words) {
-        ASSERT_EQ(mac.control(QStringList{u"helper"_s} + words).status, 0);
-    };
-    behave({u"version"_s, u"9.9"_s});
+    HelperCaller caller(mac, u"caller"_s);
+    ASSERT_EQ(mac.control({u"helper"_s, u"version"_s, u"9.9"_s}).status, 0);
     EXPECT_EQ(caller.status().at("version"), "9.9");
-    behave({u"fail"_s, u"stuck \"motor\""_s});
+    ASSERT_EQ(mac.control({u"helper"_s, u"fail"_s, u"stuck \"motor\""_s}).status, 0);
     EXPECT_EQ(caller.status().at("phase"), "failed");
     EXPECT_EQ(caller.status().at("lastError"), "stuck \"motor\"");
-    behave({u"garbage"_s});
-    EXPECT_TRUE(caller.status().is_discarded());
-    EXPECT_EQ(caller.call(u"SetTargets"_s, {targets({2000, 2000})}).signature(), u"s"_s);
-    behave({u"late"_s, u"300"_s});
-    QElapsedTimer sinceCall;
-    sinceCall.start();
-    EXPECT_EQ(caller.call(u"Status"_s).type(), QDBusMessage::ReplyMessage);
-    EXPECT_GE(sinceCall.elapsed(), 300);
-    behave({u"silent"_s});
-    EXPECT_EQ(caller.call(u"Status"_s, {}, 300).errorName(),
-              u"org.freedesktop.DBus.Error.NoReply"_s);
-    behave({u"normal"_s});
-    behave({u"stop"_s});
-    EXPECT_EQ(caller.call(u"Status"_s, {}, 300).type(), QDBusMessage::ErrorMessage);
-    behave({u"continue"_s});
-    EXPECT_EQ(caller.status().at("version"), HelperConstants::helperVersion);
-}
 
-TEST(BootedMac, UninstallsItsHelperAndTakesItOnAgain) {
-    const BootedMac mac({u"--installed"_s});
-    ASSERT_TRUE(mac.isUp());
-    const auto program = SimulatedMac::systemPath(mac.root(), HelperConstants::helperInstallPath);
-    const auto job = SimulatedMac::systemPath(mac.root(), HelperConstants::daemonPlistPath);
-    const auto kept = std::filesystem::path(mac.root()) / "kept.plist";
-    std::filesystem::copy_file(job, kept);
-    {
-        HelperCaller caller(mac, u"remover"_s);
-        const QDBusReply<bool> reply = caller.call(u"Uninstall"_s);
-        EXPECT_TRUE(reply.isValid() && reply.value());
-    }
-    EXPECT_FALSE(std::filesystem::exists(program));
-    EXPECT_FALSE(std::filesystem::exists(job));
+    const QDBusReply<bool> reply = caller.call(u"Uninstall"_s);
+    EXPECT_TRUE(reply.isValid() && reply.value());
+    for (const char* path : {HelperConstants::helperInstallPath, HelperConstants::daemonPlistPath})
+        EXPECT_FALSE(std::filesystem::exists(SimulatedMac::systemPath(mac.root(), path)));
+    caller.hangUp();
     EXPECT_TRUE(waitUntil([&mac] { return mac.status().at("helper").at("pid").is_null(); }));
-    {
-        HelperCaller caller(mac, u"latecomer"_s);
-        EXPECT_EQ(caller.call(u"Status"_s, {}, 3'000).type(), QDBusMessage::ErrorMessage);
-    }
-    EXPECT_THAT(mac.status().at("helper").at("lastExit").get<std::string>(),
-                HasSubstr("No such file"));
-
-    const auto label = QString::fromLatin1(HelperConstants::machServiceName);
-    EXPECT_EQ(mac.control({u"bootout"_s, label}).status, 0);
-    EXPECT_THAT(mac.control({u"bootout"_s, label}).errors,
-                HasSubstr("Boot-out failed: 3: No such process"));
-    const auto keptPath = QString::fromStdString(kept.string());
-    EXPECT_EQ(mac.control({u"bootstrap"_s, keptPath}).status, 0);
-    for (const QString& path : {keptPath, u"/no/such.plist"_s})
-        EXPECT_THAT(mac.control({u"bootstrap"_s, path}).errors,
-                    HasSubstr("Bootstrap failed: 5: Input/output error"));
+    HelperCaller latecomer(mac, u"latecomer"_s);
+    EXPECT_EQ(latecomer.call(u"Status"_s, {}, 3'000).type(), QDBusMessage::ErrorMessage);
 }
 
 TEST(Control, BreaksAndMendsTheMachineWhileItRuns) {
@@ -306,12 +189,9 @@ TEST(Control, SaysWhatIsWrongWithACommand) {
              Case{{}, "what is to be done?"},
              Case{{u"explode"_s}, "unknown command"},
              Case{{u"status"_s, u"now"_s}, "wrong number of arguments"},
-             Case{{u"load"_s, u"-1%"_s}, "is no load"},
              Case{{u"key"_s, u"Tp0"_s, u"fail"_s}, "is no key name"},
              Case{{u"key"_s, u"Zz99"_s, u"fail"_s}, "the machine has no key Zz99"},
              Case{{u"key"_s, u"Tp01"_s, u"value"_s, u"4"_s}, "not pairs of hexadecimal digits"},
-             Case{{u"key"_s, u"Tp01"_s, u"value"_s}, "cannot be done to a key"},
-             Case{{u"service"_s, u"all"_s}, "is none of both, second, none"},
              Case{{u"open-result"_s, u"0x1ffffffff"_s}, "is no 32-bit code"},
              Case{{u"helper"_s, u"late"_s, u"-5"_s}, "no behaviour of the helper"},
              Case{{u"helper"_s, u"kill"_s}, "the helper is not running"},

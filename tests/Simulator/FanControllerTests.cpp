@@ -72,15 +72,6 @@ TEST_F(FanControllerTest, UnlocksThenDrivesTheFans) {
     EXPECT_EQ(mac->read("F0Tg"), 2000) << "at once, now that the fans are held";
 }
 
-TEST_F(FanControllerTest, DrivesAtOnceWhereNothingIsLocked) {
-    MachineProfile profile = notebookProfile();
-    profile.unlockSeconds.reset();
-    boot(0.05, profile);
-    ASSERT_TRUE(controller->setTargets(Targets{3000, 3000}));
-    EXPECT_EQ(controller->phase(), Phase::controlling);
-    EXPECT_EQ(mac->read("F0Tg"), 3000);
-}
-
 TEST_F(FanControllerTest, LeavesAFanWithoutDemandToTheSystem) {
     hold({0, 3000}, 4s);
     EXPECT_EQ(controller->phase(), Phase::controlling);
@@ -131,18 +122,15 @@ TEST_F(FanControllerTest, HandsBackWhenItHearsNothingForTheHeartbeatTime) {
     }
 }
 
-TEST_F(FanControllerTest, HandsBackWhenToldTo) {
+TEST_F(FanControllerTest, HandsBackWhatAPredecessorHeldAndWhatItHoldsItself) {
+    mac->takeFans();
+    start();
+    EXPECT_TRUE(areFansWithTheSystem());
     hold({3000, 3000}, 4s);
     controller->releaseControl();
     EXPECT_TRUE(areFansWithTheSystem());
     EXPECT_EQ(controller->phase(), Phase::idle);
     EXPECT_THAT(controller->status().effectiveTargets, ElementsAre(0, 0));
-}
-
-TEST_F(FanControllerTest, HandsBackWhatAPredecessorHeldWhenItDied) {
-    mac->takeFans();
-    start();
-    EXPECT_TRUE(areFansWithTheSystem());
     hold({3000, 3000}, 4s);
     ASSERT_EQ(controller->phase(), Phase::controlling);
     controller.reset();
@@ -151,18 +139,8 @@ TEST_F(FanControllerTest, HandsBackWhatAPredecessorHeldWhenItDied) {
 
 TEST_F(FanControllerTest, RefusesTargetsThatMakeNoSenseAndKeepsTheLastOnes) {
     hold({3000, 3000}, 4s);
-    struct Case {
-        Targets targets;
-        const char* fault;
-    };
-    for (const auto& [targets, fault] :
-         {Case{{2000}, "1 targets for 2 fans"}, Case{{}, "0 targets for 2 fans"},
-          Case{{2000, NAN}, "fan 1 is not a finite number"}, Case{{-1, 2000}, "fan 0 is negative"},
-          Case{{2000, 1e9}, "fan 1 is implausibly high"}}) {
-        const auto refused = controller->setTargets(targets);
-        ASSERT_FALSE(refused);
-        EXPECT_THAT(refused.error(), HasSubstr(fault));
-    }
+    for (const Targets& targets : {Targets{2000}, Targets{2000, NAN}})
+        EXPECT_FALSE(controller->setTargets(targets));
     EXPECT_EQ(controller->phase(), Phase::controlling);
     EXPECT_EQ(mac->read("F0Tg"), 3000);
     pass(7s);

@@ -1,8 +1,5 @@
 #include "Simulator/BootedMac.h"
 
-#include "Shared/SMCKit/SMCConnection.h"
-#include "Simulator/Link/SMCLink.h"
-
 #include <QElapsedTimer>
 
 #include <cerrno>
@@ -19,11 +16,11 @@ namespace {
 using namespace Qt::StringLiterals;
 namespace fs = std::filesystem;
 
-/// A socket connected to the helper, with nothing of D-Bus about it.
+/// A socket connected to the helper, or the kernel, with nothing of their protocols about it.
 class RawPeer {
 public:
-    explicit RawPeer(const fs::path& path)
-        : m_descriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    explicit RawPeer(const fs::path& path, int type = SOCK_STREAM)
+        : m_descriptor(::socket(AF_UNIX, type | SOCK_CLOEXEC, 0)) {
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
         path.string().copy(address.sun_path, sizeof address.sun_path - 1);
@@ -58,18 +55,12 @@ private:
     bool m_isConnected = false;
 };
 
-/// A helper that drives a fan for an honest caller.
-class HostilePeerTest : public testing::Test {
+class HostilePeerTest : public HeldFan {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(mac.isUp());
-        ASSERT_EQ(honest.call(u"SetTargets"_s, {QVariant::fromValue(QList<double>{2500})}).type(),
-                  QDBusMessage::ReplyMessage);
-    }
     void expectUnharmed() {
         QElapsedTimer timer;
         timer.start();
-        EXPECT_EQ(honest.status().at("phase"), "controlling");
+        EXPECT_EQ(holder.status().at("phase"), "controlling");
         EXPECT_LT(timer.elapsed(), 2000);
         EXPECT_EQ(smc->readUInt8("F0md"), 1);
         HelperCaller newcomer(mac, u"newcomer"_s);
@@ -77,12 +68,8 @@ protected:
         EXPECT_EQ(mac.status()["helper"]["starts"], 1);
     }
 
-    const BootedMac mac{{u"--installed"_s, u"--profile"_s, u"desktop-1fan"_s}};
     const fs::path socket =
         SimulatedMac::serviceSocket(mac.root(), HelperConstants::machServiceName);
-    HelperCaller honest{mac, u"honest"_s};
-    std::unique_ptr<SMCConnection> smc =
-        SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root()))).value();
 };
 
 TEST_F(HostilePeerTest, WhoTalksRubbishIsHungUpOn) {
@@ -97,6 +84,17 @@ TEST_F(HostilePeerTest, WhoTalksRubbishIsHungUpOn) {
         while (answer.starts_with("REJECTED") || answer.starts_with("ERROR"))
             answer = peer.receive();
         EXPECT_EQ(answer, "");
+    }
+    expectUnharmed();
+}
+
+TEST_F(HostilePeerTest, WhoTalksRubbishToTheKernelIsHungUpOn) {
+    const auto kernel = SimulatedMac::smcSocket(mac.root());
+    for (const std::size_t size : {1U, 123U, 125U, 4096U}) {
+        const RawPeer peer(kernel, SOCK_SEQPACKET);
+        ASSERT_TRUE(peer.isConnected());
+        peer.send(std::string(size, 'x'));
+        EXPECT_EQ(peer.receive(), "") << size << " bytes";
     }
     expectUnharmed();
 }

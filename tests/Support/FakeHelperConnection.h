@@ -51,33 +51,30 @@ private:
         }
         void setTargets(const std::vector<double>& targets, Reply<std::vector<double>> reply,
                         ErrorHandler error) override {
-            m_helper.calls.push_back({.method = QStringLiteral("setTargets"),
-                                      .targets = targets,
-                                      .replyTargets = std::move(reply),
-                                      .error = std::move(error)});
+            Call& call = note("setTargets", std::move(error));
+            call.targets = targets;
+            call.replyTargets = std::move(reply);
         }
         void releaseControl(Reply<> reply, ErrorHandler error) override {
-            m_helper.calls.push_back({.method = QStringLiteral("releaseControl"),
-                                      .reply = std::move(reply),
-                                      .error = std::move(error)});
+            note("releaseControl", std::move(error)).reply = std::move(reply);
         }
         void status(Reply<std::optional<QByteArray>> reply, ErrorHandler error) override {
-            m_helper.calls.push_back({.method = QStringLiteral("status"),
-                                      .replyStatus = std::move(reply),
-                                      .error = std::move(error)});
+            note("status", std::move(error)).replyStatus = std::move(reply);
         }
         void uninstall(Reply<bool> reply, ErrorHandler error) override {
-            m_helper.calls.push_back({.method = QStringLiteral("uninstall"),
-                                      .replyBool = std::move(reply),
-                                      .error = std::move(error)});
+            note("uninstall", std::move(error)).replyBool = std::move(reply);
         }
         void shutDown(Reply<> reply, ErrorHandler error) override {
-            m_helper.calls.push_back({.method = QStringLiteral("shutDown"),
-                                      .reply = std::move(reply),
-                                      .error = std::move(error)});
+            note("shutDown", std::move(error)).reply = std::move(reply);
         }
 
     private:
+        Call& note(const char* method, ErrorHandler error) {
+            m_helper.calls.push_back(
+                {.method = QString::fromLatin1(method), .error = std::move(error)});
+            return m_helper.calls.back();
+        }
+
         FakeHelper& m_helper;
     };
 };

@@ -33,11 +33,6 @@ public:
     void setFault(std::optional<Fault> fault) {
         const std::lock_guard lock(m_mutex);
         m_fault = fault;
-        m_hits = 0;
-    }
-    [[nodiscard]] int hits() const {
-        const std::lock_guard lock(m_mutex);
-        return m_hits;
     }
 
     std::uint32_t matchingService(std::string_view name) override {
@@ -55,7 +50,6 @@ public:
         if (!m_fault || m_fault->command != input.data8 ||
             (m_fault->key && *m_fault->key != input.key))
             return code;
-        ++m_hits;
         const Kind kind = m_fault->kind;
         if (!m_fault->isForGood)
             m_fault.reset();
@@ -79,9 +73,8 @@ private:
     }
 
     std::shared_ptr<SimulatedSMC> m_smc;
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::optional<Fault> m_fault;
-    int m_hits = 0;
 };
 
 } // namespace kestrowind

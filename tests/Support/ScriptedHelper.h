@@ -113,9 +113,10 @@ private:
             const Answer how = m_helper.answers.value(method, Answer::good);
             const bool isHungUp =
                 std::exchange(m_generation, m_helper.m_generation) != m_helper.m_generation;
-            if (isHungUp || how == Answer::broken || how == Answer::invalidated) {
+            m_isInvalid = m_isInvalid || how == Answer::invalidated;
+            if (isHungUp || m_isInvalid || how == Answer::broken) {
                 later({}, [error] { error(QStringLiteral("the test cut the connection")); });
-                if (how == Answer::invalidated)
+                if (m_isInvalid)
                     later({}, m_invalidated);
                 return;
             }
@@ -159,6 +160,7 @@ private:
 
         ScriptedHelper& m_helper;
         int m_generation;
+        bool m_isInvalid = false;
         std::function<void()> m_invalidated;
         QObject m_context;
     };

@@ -9,16 +9,31 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using nlohmann::json;
 
-/// A machine that needs no unlocking, so that control is quick.
-const QStringList quickMac{u"--installed"_s, u"--load"_s, u"90%"_s, u"--profile"_s,
-                           u"desktop-1fan"_s};
-const QStringList fullSpeed{u"-ActivatePreset"_s, u"Full Speed"_s};
+/// The application drives the fans.
+class Faults : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(app.waitForPhase("controlling"));
+        ASSERT_TRUE(waitUntil([this] { return modes.areAllManual(); }));
+    }
+    void expectGoodEnd(RunningApp& last) {
+        last.send(SIGTERM);
+        EXPECT_EQ(last.waitForEnd(3s), 0);
+        EXPECT_TRUE(modes.areAllSystem());
+    }
+    bool isHelper(const char* state, std::optional<bool> isOverriding = {}) {
+        return app.waitFor([&](const json& reading) {
+            return reading["helperState"] == state &&
+                   (!isOverriding || reading["isOverriding"] == *isOverriding);
+        });
+    }
 
-TEST(Faults, AfterASleepItReadsAndControlsAgain) {
-    BootedMac mac(quickMac);
-    FanModes modes(mac);
-    RunningApp app(mac, fullSpeed);
-    ASSERT_TRUE(app.waitForPhase("controlling"));
+    BootedMac mac{quickMac};
+    FanModes modes{mac};
+    RunningApp app{mac, fullSpeed};
+};
+
+TEST_F(Faults, AfterASleepItReadsAndControlsAgain) {
     const auto helper = mac.status()["helper"]["pid"].get<pid_t>();
     const auto kernel = static_cast<pid_t>(mac.process().processId());
     for (const pid_t process : {helper, kernel})
@@ -41,51 +56,50 @@ TEST(Faults, AfterASleepItReadsAndControlsAgain) {
         5s));
     EXPECT_TRUE(waitUntil([&] { return modes.areAllManual(); }));
     EXPECT_LT(sinceWaking.elapsed(), 5000);
-    RecordProperty("milliseconds", static_cast<int>(sinceWaking.elapsed()));
-    app.send(SIGTERM);
-    EXPECT_EQ(app.waitForEnd(3s), 0);
-    EXPECT_TRUE(modes.areAllSystem());
+    expectGoodEnd(app);
 }
 
-TEST(Faults, ACopyThatStartsWhileAnotherQuitsTakesOver) {
-    const BootedMac mac(quickMac);
-    FanModes modes(mac);
-    RunningApp first(mac, fullSpeed);
-    ASSERT_TRUE(first.waitForPhase("controlling"));
+TEST_F(Faults, AFrozenApplicationLosesTheFansUntilItGoesOn) {
+    QElapsedTimer timer;
+    timer.start();
+    app.send(SIGSTOP);
+    ASSERT_TRUE(waitUntil([this] { return modes.areAllSystem(); }));
+    // Up to two seconds had passed since its last word.
+    EXPECT_GT(timer.elapsed(), 3500);
+    EXPECT_LT(timer.elapsed(), 6500);
+    app.send(SIGCONT);
+    EXPECT_TRUE(waitUntil([this] { return modes.areAllManual(); }));
+}
+
+TEST_F(Faults, ACopyThatStartsWhileAnotherQuitsTakesOver) {
     // Quitting takes two replies, so that the second copy finds the first one in the midst of it.
     ASSERT_EQ(mac.control({u"helper"_s, u"late"_s, u"600"_s}).status, 0);
-    first.send(SIGTERM);
-    ASSERT_TRUE(waitUntil([&] { return modes.areAllSystem(); }));
+    app.send(SIGTERM);
+    ASSERT_TRUE(waitUntil([this] { return modes.areAllSystem(); }));
     RunningApp second(mac, fullSpeed);
-    EXPECT_EQ(first.waitForEnd(4s), 0) << "it ends of its own accord";
+    EXPECT_EQ(app.waitForEnd(4s), 0) << "it ends of its own accord";
     ASSERT_EQ(mac.control({u"helper"_s, u"normal"_s}).status, 0);
     EXPECT_TRUE(second.waitForPhase("controlling"));
     EXPECT_TRUE(modes.areAllManual());
-    second.send(SIGTERM);
-    EXPECT_EQ(second.waitForEnd(3s), 0);
-    EXPECT_TRUE(modes.areAllSystem());
+    expectGoodEnd(second);
 }
 
-TEST(Faults, LivesThroughALaunchdThatRefuses) {
-    const BootedMac mac(quickMac);
-    FanModes modes(mac);
-    RunningApp app(mac, fullSpeed);
-    ASSERT_TRUE(app.waitForPhase("controlling"));
+TEST_F(Faults, ControlsAgainAfterTheHelperWasKilledOrRefusedByLaunchd) {
+    ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
+    ASSERT_TRUE(isHelper("unreachable"));
+    ASSERT_TRUE(isHelper("installed"));
+    EXPECT_TRUE(waitUntil([this] { return modes.areAllManual(); }));
+    EXPECT_EQ(mac.status()["helper"]["starts"], 2);
+
     ASSERT_EQ(
         mac.control({u"bootout"_s, QString::fromLatin1(HelperConstants::machServiceName)}).status,
         0);
     EXPECT_TRUE(modes.areAllSystem()) << "a helper that is ended hands the fans back";
-    EXPECT_TRUE(app.waitFor([](const json& reading) {
-        return reading["helperState"] == "unreachable" && reading["isOverriding"] == false;
-    }));
+    ASSERT_TRUE(isHelper("unreachable", false));
     const auto job = SimulatedMac::systemPath(mac.root(), HelperConstants::daemonPlistPath);
     ASSERT_EQ(mac.control({u"bootstrap"_s, QString::fromStdString(job.string())}).status, 0);
-    EXPECT_TRUE(app.waitFor([](const json& reading) {
-        return reading["helperState"] == "installed" && reading["isOverriding"] == true;
-    }));
-    app.send(SIGTERM);
-    EXPECT_EQ(app.waitForEnd(3s), 0);
-    EXPECT_TRUE(modes.areAllSystem());
+    EXPECT_TRUE(isHelper("installed", true));
+    expectGoodEnd(app);
 }
 
 } // namespace

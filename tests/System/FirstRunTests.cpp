@@ -1,4 +1,3 @@
-#include "System/RunningApp.h"
 #include "System/VirtualScreen.h"
 
 namespace kestrowind {
@@ -15,13 +14,14 @@ constexpr QPoint reinstallButton(621, 200);
 constexpr QPoint uninstallButton(720, 200);
 
 /// The application on a Mac that has never seen it.
-class FirstRunTest : public testing::Test {
+class FirstRunTest : public ShownApp {
 protected:
+    FirstRunTest()
+        : ShownApp({u"--load"_s, u"90%"_s, u"--profile"_s, u"desktop-1fan"_s}) {}
+
     void SetUp() override {
-        ASSERT_TRUE(screen.isUp());
-        ASSERT_TRUE(mac.isUp());
-        app = std::make_unique<RunningApp>(mac, QStringList(), screen.display());
-        ASSERT_TRUE(waitUntil([this] { return !(window = screen.visibleWindow()).isEmpty(); }));
+        ShownApp::SetUp();
+        open();
         ASSERT_TRUE(app->waitFor(helperIs("notInstalled")));
     }
     static std::function<bool(const nlohmann::json&)> helperIs(const char* state) {
@@ -44,12 +44,8 @@ protected:
                fs::exists(SimulatedMac::systemPath(mac.root(), HelperConstants::daemonPlistPath));
     }
 
-    const VirtualScreen screen;
-    const BootedMac mac{{u"--load"_s, u"90%"_s, u"--profile"_s, u"desktop-1fan"_s}};
     const fs::path program =
         SimulatedMac::systemPath(mac.root(), HelperConstants::helperInstallPath);
-    std::unique_ptr<RunningApp> app;
-    QString window;
 };
 
 TEST_F(FirstRunTest, InstallsDrivesTheFansReinstallsAndRemovesAllByClicking) {

@@ -26,8 +26,7 @@ TEST(RandomKills, LeaveNoFanBehindAndNothingThatCannotStart) {
         return std::uniform_int_distribution<>(0, count - 1)(random);
     };
 
-    const BootedMac mac(
-        {u"--installed"_s, u"--load"_s, u"90%"_s, u"--profile"_s, u"desktop-1fan"_s});
+    const BootedMac mac(quickMac);
     ASSERT_TRUE(mac.isUp());
     FanModes modes(mac);
     QTemporaryDir home;
@@ -35,7 +34,7 @@ TEST(RandomKills, LeaveNoFanBehindAndNothingThatCannotStart) {
     qint64 slowest = 0;
     for (int round = 0; round < rounds; ++round) {
         SCOPED_TRACE(testing::Message() << "round " << round << ", seed " << seed);
-        RunningApp app(mac, {u"-ActivatePreset"_s, u"Full Speed"_s}, {}, home.path());
+        RunningApp app(mac, fullSpeed, {}, home.path());
         // Half of the kills come at any moment of the start, half once the fans are held.
         if (anyOf(2) == 0) {
             ASSERT_TRUE(waitUntil([&] { return modes.areAllManual(); }, 15s)) << "it starts again";
@@ -68,8 +67,6 @@ TEST(RandomKills, LeaveNoFanBehindAndNothingThatCannotStart) {
         app.waitForEnd(8s);
         ASSERT_TRUE(waitUntil([&] { return modes.areAllSystem(); })) << "a fan was taken again";
     }
-    RecordProperty("rounds", rounds);
-    RecordProperty("slowestMilliseconds", static_cast<int>(slowest));
     std::printf("%d rounds, %d with the fans held, handed back after at most %lld ms\n", rounds,
                 driven, static_cast<long long>(slowest));
 }

@@ -12,11 +12,6 @@ using namespace std::chrono_literals;
 using nlohmann::json;
 using testing::HasSubstr;
 
-/// A machine that needs no unlocking, so that control is quick.
-const QStringList quickMac{u"--installed"_s, u"--load"_s, u"90%"_s, u"--profile"_s,
-                           u"desktop-1fan"_s};
-const QStringList fullSpeed{u"-ActivatePreset"_s, u"Full Speed"_s};
-
 TEST(MainLoop, UnlocksDrivesCoolsAndHandsBack) {
     const BootedMac mac({u"--installed"_s, u"--load"_s, u"90%"_s});
     RunningApp app(mac, fullSpeed);
@@ -45,21 +40,6 @@ TEST(MainLoop, UnlocksDrivesCoolsAndHandsBack) {
     EXPECT_EQ(mac.status()["helper"]["lastExit"], "exited with status 0");
 }
 
-TEST(MainLoop, ControlsAgainAfterTheHelperWasKilled) {
-    const BootedMac mac(quickMac);
-    RunningApp app(mac, fullSpeed);
-    ASSERT_TRUE(app.waitForPhase("controlling"));
-    ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
-    const auto state = [](const char* name) {
-        return [name](const json& reading) { return reading["helperState"] == name; };
-    };
-    ASSERT_TRUE(app.waitFor(state("unreachable")));
-    ASSERT_TRUE(app.waitFor(state("installed")));
-    FanModes modes(mac);
-    EXPECT_TRUE(waitUntil([&] { return modes.areAllManual(); }));
-    EXPECT_EQ(mac.status()["helper"]["starts"], 2);
-}
-
 TEST(MainLoop, GivesTheFansBackWhenTheApplicationDies) {
     const BootedMac mac(quickMac);
     FanModes modes(mac);
@@ -75,22 +55,6 @@ TEST(MainLoop, GivesTheFansBackWhenTheApplicationDies) {
         fastest = std::min(fastest, timer.elapsed());
     }
     EXPECT_LT(fastest, 100);
-}
-
-TEST(MainLoop, GivesTheFansBackWhenTheApplicationFreezes) {
-    const BootedMac mac(quickMac);
-    RunningApp app(mac, fullSpeed);
-    FanModes modes(mac);
-    ASSERT_TRUE(waitUntil([&] { return modes.areAllManual(); }));
-    QElapsedTimer timer;
-    timer.start();
-    app.send(SIGSTOP);
-    ASSERT_TRUE(waitUntil([&] { return modes.areAllSystem(); }));
-    // Up to two seconds had passed since its last word.
-    EXPECT_GT(timer.elapsed(), 3500);
-    EXPECT_LT(timer.elapsed(), 6500);
-    app.send(SIGCONT);
-    EXPECT_TRUE(waitUntil([&] { return modes.areAllManual(); })) << "and takes them again after";
 }
 
 TEST(MainLoop, EndsThoughTheHelperIsSilentOrTalksRubbish) {
@@ -149,6 +113,7 @@ TEST(SingleInstance, TheNewestCopyWins) {
     RunningApp third(mac, fullSpeed);
     EXPECT_EQ(second.waitForEnd(5s), -1);
     EXPECT_GT(timer.elapsed(), 1900);
+    EXPECT_LT(timer.elapsed(), 5000) << "it was not waited for in vain";
     EXPECT_TRUE(third.waitFor(any));
 
     // A copy in another Mac is none of its business, nor is one that only dumps.

@@ -2,9 +2,6 @@
 
 #include "Simulator/BootedMac.h"
 
-#include "Shared/SMCKit/SMCConnection.h"
-#include "Simulator/Link/SMCLink.h"
-
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -14,6 +11,12 @@
 #include <vector>
 
 namespace kestrowind {
+
+/// A machine that needs no unlocking, so that control is quick.
+inline const QStringList quickMac{QStringLiteral("--installed"), QStringLiteral("--load"),
+                                  QStringLiteral("90%"), QStringLiteral("--profile"),
+                                  QStringLiteral("desktop-1fan")};
+inline const QStringList fullSpeed{QStringLiteral("-ActivatePreset"), QStringLiteral("Full Speed")};
 
 /// The real application inside a booted Mac, printing its readings, with a home of its own unless
 /// it is to find what another run left behind.
@@ -46,9 +49,6 @@ public:
     }
     RunningApp(const RunningApp&) = delete;
     RunningApp& operator=(const RunningApp&) = delete;
-
-    /// Where the application keeps a file of its own: below data/Kestrowind or config/Kestrowind.
-    [[nodiscard]] QString file(const QString& name) const { return m_home.filePath(name); }
 
     void send(int signalNumber) const {
         ::kill(static_cast<pid_t>(m_process.processId()), signalNumber);

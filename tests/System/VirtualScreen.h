@@ -1,10 +1,9 @@
 #pragma once
 
-#include "Simulator/BootedMac.h"
+#include "System/RunningApp.h"
 
 #include <QFile>
 #include <QPoint>
-#include <QProcess>
 
 #include <unistd.h>
 
@@ -86,6 +85,30 @@ private:
     int m_number;
     QProcess m_server;
     bool m_isUp = false;
+};
+
+/// The application with its window on a screen of its own.
+class ShownApp : public testing::Test {
+protected:
+    explicit ShownApp(const QStringList& macOptions)
+        : mac(macOptions) {}
+
+    void SetUp() override {
+        ASSERT_TRUE(screen.isUp());
+        ASSERT_TRUE(mac.isUp());
+    }
+    /// Starts it, anew if need be, in the same home.
+    void open(const QStringList& arguments = {}) {
+        app = std::make_unique<RunningApp>(mac, arguments, screen.display(), home.path());
+        ASSERT_TRUE(waitUntil([this] { return !(window = screen.visibleWindow()).isEmpty(); }));
+        ASSERT_TRUE(app->waitFor([](const nlohmann::json&) { return true; }));
+    }
+
+    const VirtualScreen screen;
+    const BootedMac mac;
+    const QTemporaryDir home;
+    std::unique_ptr<RunningApp> app;
+    QString window;
 };
 
 } // namespace kestrowind

@@ -1,5 +1,8 @@
-#include "System/RunningApp.h"
+#include "Core/PresetCoding.h"
+#include "Core/PresetSlot.h"
 #include "System/VirtualScreen.h"
+
+#include <cmath>
 
 namespace kestrowind {
 namespace {
@@ -8,47 +11,112 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using nlohmann::json;
 
-TEST(Window, AClickOnAPillDrivesTheFans) {
-    const VirtualScreen screen;
-    ASSERT_TRUE(screen.isUp());
-    const BootedMac mac(
-        {u"--installed"_s, u"--load"_s, u"90%"_s, u"--profile"_s, u"desktop-1fan"_s});
-    RunningApp app(mac, {}, screen.display());
-    QString window;
-    ASSERT_TRUE(waitUntil([&] { return !(window = screen.visibleWindow()).isEmpty(); }));
-    ASSERT_TRUE(app.waitFor([](const json& reading) { return reading["preset"].is_null(); }));
+class Window : public ShownApp {
+protected:
+    Window()
+        : ShownApp(quickMac) {}
 
-    // The third of the three pills, right of the window's middle. A window that still moves into
-    // its place may make the first click miss.
-    const auto isFullSpeed = [](const json& reading) { return reading["preset"] == "Full Speed"; };
-    bool didActivate = false;
-    for (int attempt = 0; attempt < 3 && !didActivate; ++attempt) {
-        screen.click(window, 820 / 2 + 118, 69);
-        didActivate = app.waitFor(isFullSpeed, 4s);
+    /// Below data/Kestrowind or config/Kestrowind.
+    [[nodiscard]] QByteArray fileContent(const QString& name) const {
+        QFile file(home.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    ASSERT_TRUE(didActivate);
-    ASSERT_TRUE(app.waitFor([](const json& reading) {
-        return reading["phase"] == "controlling" &&
-               reading["fans"][0]["actualRPM"] > 0.95 * reading["fans"][0]["maxRPM"].get<double>();
-    }));
+    /// The user's own, as they are saved.
+    [[nodiscard]] QList<FanPreset> presets() const {
+        return decodePresets(fileContent(u"data/Kestrowind/presets.json"_s))
+            .value_or(QList<FanPreset>());
+    }
+    [[nodiscard]] QByteArray slotOrder() const {
+        for (const QByteArray& line :
+             fileContent(u"config/Kestrowind/Kestrowind.ini"_s).split('\n')) {
+            if (line.startsWith("presetSlotOrder="))
+                return line.mid(line.indexOf('=') + 1);
+        }
+        return {};
+    }
+    [[nodiscard]] bool dragUntil(QPoint from, QPoint to,
+                                 const std::function<bool()>& condition) const {
+        for (int attempt = 0; attempt < 3; ++attempt) {
+            screen.drag(window, from, to);
+            if (waitUntil(condition, 3s))
+                return true;
+        }
+        return false;
+    }
+    [[nodiscard]] bool activates(QPoint at, const char* preset) const {
+        return screen.clickUntil(window, at, [&] {
+            return app->waitFor([&](const json& reading) { return reading["preset"] == preset; },
+                                4s);
+        });
+    }
+};
+
+TEST_F(Window, DrivesTheFansByACurveThatWasDrawnInIt) {
+    const FanCurve cool = FanPreset::builtIns(1).first().curves.first();
+    open({u"-InitialSection"_s, u"curves"_s});
+    // Customize.
+    ASSERT_TRUE(screen.clickUntil(window, {741, 216}, [this] { return presets().size() == 1; }));
+    const auto copied = presets();
+    // The plot is 700 by 296 at (74, 221): from 64 degrees and 49 percent up to 90.
+    ASSERT_TRUE(dragUntil({416, 372}, {416, 251}, [&] { return presets() != copied; }));
+    FanCurve drawn = cool;
+    drawn.move(3, {64, 90});
+    ASSERT_EQ(presets().value(0).curves, QList<FanCurve>{drawn}) << "once for the one fan";
+
+    const auto followsTheDrawnCurve = [&](const json& reading) {
+        if (reading["preset"] != "Cool Copy" || reading["phase"] != "controlling")
+            return false;
+        const double temperature = reading["smoothedTemperature"];
+        const double percent = reading["requestedPercents"][0];
+        const json& fan = reading["fans"][0];
+        const json& targets = reading["effectiveTargets"];
+        return std::abs(percent - drawn.percent(temperature)) < 0.01 &&
+               percent > cool.percent(temperature) + 5 && !targets.empty() &&
+               std::abs(fan["actualRPM"].get<double>() - targets[0].get<double>()) <
+                   0.05 * fan["maxRPM"].get<double>();
+    };
+    ASSERT_TRUE(activates({615, 69}, "Cool Copy")) << "by the fourth pill";
+    EXPECT_TRUE(app->waitFor(followsTheDrawnCurve, 40s));
 
     // Closed, it lives on; the quit command gives the fans back.
     screen.tool({u"key"_s, u"--window"_s, window, u"ctrl+w"_s});
-    EXPECT_TRUE(waitUntil([&] { return screen.visibleWindow().isEmpty(); }));
-    EXPECT_TRUE(app.waitFor([](const json& reading) { return reading["isOverriding"] == true; }));
-    app.send(SIGTERM);
-    EXPECT_EQ(app.waitForEnd(3s), 0);
-    FanModes modes(mac);
-    EXPECT_TRUE(modes.areAllSystem());
+    EXPECT_TRUE(waitUntil([this] { return screen.visibleWindow().isEmpty(); }));
+    EXPECT_TRUE(app->waitFor([](const json& reading) { return reading["isOverriding"] == true; }));
+    app->send(SIGTERM);
+    EXPECT_EQ(app->waitForEnd(4s), 0);
+    EXPECT_TRUE(FanModes(mac).areAllSystem());
+    open();
+    EXPECT_TRUE(app->waitFor(followsTheDrawnCurve, 40s));
 }
 
-TEST(Window, StaysHiddenOnlyWhereThereIsATray) {
-    const VirtualScreen screen;
-    const BootedMac mac({u"--profile"_s, u"fanless"_s});
-    RunningApp app(mac, {u"-StartHidden"_s, u"YES"_s}, screen.display());
-    ASSERT_TRUE(app.waitFor([](const json&) { return true; }));
+/// The middle of a place in the grid of a window that is as wide as it opens.
+QPoint place(int index) {
+    constexpr int columns = 3;
+    return {24 + index % columns * (245 + 18) + 122, 180 + index / columns * (188 + 18) + 94};
+}
+
+TEST_F(Window, KeepsPresetsThatAreMadeNamedDraggedAndDeleted) {
+    open({u"-InitialSection"_s, u"presets"_s});
+    ASSERT_TRUE(screen.clickUntil(window, place(3), [this] { return presets().size() == 1; }));
+    screen.type(u"Quiet night"_s);
+    screen.key(u"Return"_s);
+    ASSERT_TRUE(waitUntil([this] { return presets().value(0).name == u"Quiet night"_s; }));
+    const QByteArray id = PresetSlot::preset(presets().value(0).id).id().toLatin1();
+    ASSERT_TRUE(slotOrder().endsWith(id)) << slotOrder().constData();
+    EXPECT_TRUE(dragUntil(place(3), place(0), [&] { return slotOrder().startsWith(id); }))
+        << "onto the first card, whose place it takes: " << slotOrder().constData();
+    ASSERT_TRUE(activates(place(0), "Quiet night"));
+    screen.key(u"Delete"_s);
+    screen.key(u"Return"_s);
+    EXPECT_TRUE(waitUntil([this] { return presets().empty(); }));
+    EXPECT_TRUE(app->waitFor([](const json& reading) { return reading["preset"].is_null(); }));
+}
+
+TEST_F(Window, StaysHiddenOnlyWhereThereIsATray) {
+    RunningApp hidden(mac, {u"-StartHidden"_s, u"YES"_s}, screen.display());
+    ASSERT_TRUE(hidden.waitFor([](const json&) { return true; }));
     EXPECT_TRUE(screen.visibleWindow().isEmpty()) << "a tray may still come";
-    EXPECT_TRUE(waitUntil([&] { return !screen.visibleWindow().isEmpty(); }));
+    EXPECT_TRUE(waitUntil([this] { return !screen.visibleWindow().isEmpty(); }));
 }
 
 } // namespace

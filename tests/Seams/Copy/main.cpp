@@ -1,7 +1,7 @@
 // A program that is run several times over, to find and to end its own older copies.
-// usage: kestrowind_seam_copy count|terminate|force
-// It says "up", and for each line that it reads how many older copies there are; then, unless it
-// only counts, it ends them and says "ended". It goes when its input does.
+// usage: kestrowind_seam_copy terminate|force
+// It says "up", and for each line that it reads how many older copies there are; then it ends them
+// and says "ended". It goes when its input does.
 
 #include "ThisSystem.h"
 
@@ -26,7 +26,7 @@ int main(int argc, char* argv[]) {
     using namespace kestrowind;
 
     QGuiApplication application(argc, argv);
-    const QString mode = QGuiApplication::arguments().value(1);
+    const bool isForcing = QGuiApplication::arguments().value(1) == QLatin1StringView("force");
     const auto applications = ThisSystem::Workspace::applications();
     std::vector<std::unique_ptr<RunningApplication>> copies;
 
@@ -40,10 +40,8 @@ int main(int argc, char* argv[]) {
     const auto act = [&] {
         copies = applications->olderCopies(QStringLiteral("app.kestrowind.seam-copy"));
         say(std::to_string(copies.size()).c_str());
-        if (mode == QLatin1StringView("count"))
-            return;
         for (const auto& copy : copies) {
-            if (mode == QLatin1StringView("force"))
+            if (isForcing)
                 copy->forceTerminate();
             else
                 copy->terminate();

@@ -6,7 +6,6 @@
 #include "Platform/Linux/LinuxSystemInformation.h"
 #include "Simulator/BootedMac.h"
 #include "Simulator/Link/SMCLink.h"
-#include "Simulator/SimulatedSMC.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -26,14 +25,6 @@ private:
     BootedMac m_mac{{}};
 };
 
-/// The simulated SMC alone.
-class KernelInProcess {
-public:
-    std::shared_ptr<SMCUserClient> userClient() { return std::make_shared<SimulatedSMC>(); }
-};
-
-using Kernels = testing::Types<Kernel, KernelInProcess>;
-
 class Helper {
 public:
     Helper() { qputenv(SimulatedMac::rootVariable, m_mac.root().c_str()); }
@@ -51,8 +42,6 @@ private:
     BootedMac m_mac{{QStringLiteral("--installed")}};
 };
 
-using Helpers = testing::Types<Helper>;
-
 class Defaults {
 public:
     std::unique_ptr<QSettings> open() {
@@ -63,8 +52,6 @@ public:
 private:
     QTemporaryDir m_folder;
 };
-
-using DefaultsStores = testing::Types<Defaults>;
 
 /// Copies find each other inside one simulated Mac, which no other test shares.
 class Workspace {
@@ -91,8 +78,6 @@ private:
     QTemporaryDir m_folder;
 };
 
-using Logins = testing::Types<Login>;
-
 class Machine {
 public:
     Machine() { qputenv(SimulatedMac::rootVariable, m_mac.root().c_str()); }
@@ -104,7 +89,5 @@ public:
 private:
     BootedMac m_mac{{QStringLiteral("--installed")}};
 };
-
-using Machines = testing::Types<Machine>;
 
 } // namespace kestrowind::ThisSystem

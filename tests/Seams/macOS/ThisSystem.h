@@ -7,7 +7,6 @@
 #include "Platform/macOS/WorkspaceApplications.h"
 #include "Platform/macOS/XPCHelperConnection.h"
 #include "Shared/HelperShared/HelperConstants.h"
-#include "Simulator/SimulatedSMC.h"
 
 #include <QFileInfo>
 
@@ -22,14 +21,6 @@ public:
     std::shared_ptr<SMCUserClient> userClient() { return std::make_shared<IOKitUserClient>(); }
 };
 
-/// The simulated SMC alone.
-class KernelInProcess {
-public:
-    std::shared_ptr<SMCUserClient> userClient() { return std::make_shared<SimulatedSMC>(); }
-};
-
-using Kernels = testing::Types<Kernel, KernelInProcess>;
-
 class Helper {
 public:
     static constexpr bool isExpendable = false;
@@ -43,8 +34,6 @@ public:
     }
 };
 
-using Helpers = testing::Types<Helper>;
-
 /// Preferences of a domain of the tests' own.
 class Defaults {
 public:
@@ -54,8 +43,6 @@ public:
         return openNativeDefaults(QStringLiteral("app.kestrowind.seam-tests"));
     }
 };
-
-using DefaultsStores = testing::Types<Defaults>;
 
 class Workspace {
 public:
@@ -69,15 +56,11 @@ public:
     std::unique_ptr<LoginItem> item() { return std::make_unique<AppServiceLoginItem>(); }
 };
 
-using Logins = testing::Types<Login>;
-
 class Machine {
 public:
     std::unique_ptr<SystemInformation> information() {
         return std::make_unique<BundleSystemInformation>();
     }
 };
-
-using Machines = testing::Types<Machine>;
 
 } // namespace kestrowind::ThisSystem
