@@ -26,6 +26,7 @@
 #include <atomic>
 #include <cmath>
 #include <cstdio>
+#include <malloc.h>
 #include <map>
 #include <numeric>
 
@@ -58,6 +59,7 @@ void countLiveObjects() {
 /// What must not grow, measured while no window exists.
 struct Footprint {
     double residentMegabytes = 0;
+    double heapMegabytes = 0; ///< in use, without what the allocator keeps
     long objects = 0;
     qsizetype descriptors = 0;
     qsizetype threads = 0;
@@ -66,7 +68,9 @@ struct Footprint {
         QFile memory(u"/proc/self/statm"_s);
         (void)memory.open(QIODevice::ReadOnly);
         const double pages = memory.readAll().split(' ').value(1).toDouble();
+        const struct mallinfo2 heap = ::mallinfo2();
         return {.residentMegabytes = pages * 4096 / 1e6,
+                .heapMegabytes = static_cast<double>(heap.uordblks + heap.hblkhd) / 1e6,
                 .objects = liveObjects,
                 .descriptors =
                     QDir(u"/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size(),
@@ -239,9 +243,10 @@ private:
         m_footprints.clear();
         if (hour == 1)
             m_first = now;
-        std::printf("hour %2d: %.1f MB, %ld objects, %lld descriptors, %lld threads, %d windows, "
+        std::printf("hour %2d: %.1f MB, %.2f MB of heap, %ld objects, %lld descriptors, %lld "
+                    "threads, %d windows, "
                     "longest queue %d\n",
-                    hour, now.residentMegabytes, now.objects,
+                    hour, now.residentMegabytes, now.heapMegabytes, now.objects,
                     static_cast<long long>(now.descriptors), static_cast<long long>(now.threads),
                     m_windowsShown, std::exchange(m_longestQueue, 0));
         std::fflush(stdout);

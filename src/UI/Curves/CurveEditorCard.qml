@@ -28,7 +28,7 @@ Item {
         model: root.chart
     }
 
-    HoverHandler { id: pointer }
+    PointerWatch { id: pointer; anchors.fill: parent }
 
     Tooltip {
         text: root.help

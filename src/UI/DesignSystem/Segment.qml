@@ -28,9 +28,9 @@ Item {
         text: root.title
         symbolName: root.symbolName
         font: Typography.weighted(Typography.body, Font.Medium)
-        color: root.isCurrent || hover.hovered ? AppColors.primaryText : AppColors.secondaryText
+        color: root.isCurrent || pointer.hovered ? AppColors.primaryText : AppColors.secondaryText
     }
 
-    HoverHandler { id: hover; enabled: root.enabled }
+    PointerWatch { id: pointer; anchors.fill: parent }
     TapHandler { onTapped: root.chosen() }
 }

@@ -20,7 +20,7 @@ FocusScope {
             contextMenuRequested(at)
     }
 
-    HoverHandler { id: pointer }
+    PointerWatch { id: pointer; anchors.fill: parent }
 
     TapHandler {
         acceptedButtons: Qt.RightButton
