@@ -73,7 +73,13 @@ void CurveGestureArea::hover(const QPointF& position) {
     m_chart->setHoverLocation(isOver ? std::optional(inPlot(position)) : std::nullopt);
 }
 
+void CurveGestureArea::setHovered(bool isHovered) {
+    if (assignIfChanged(m_isHovered, isHovered))
+        Q_EMIT hoveredChanged();
+}
+
 void CurveGestureArea::hoverEnterEvent(QHoverEvent* event) {
+    setHovered(true);
     hover(event->position());
     // What lies around the chart may want to know of it, too.
     event->ignore();
@@ -85,6 +91,7 @@ void CurveGestureArea::hoverMoveEvent(QHoverEvent* event) {
 }
 
 void CurveGestureArea::hoverLeaveEvent(QHoverEvent*) {
+    setHovered(false);
     if (m_chart)
         m_chart->setHoverLocation(std::nullopt);
 }

@@ -20,6 +20,7 @@ class CurveGestureArea : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY chartChanged
                    FINAL REQUIRED)
+    Q_PROPERTY(bool hovered READ isHovered NOTIFY hoveredChanged FINAL)
     QML_ELEMENT
 
 public:
@@ -28,8 +29,11 @@ public:
     [[nodiscard]] FanCurveChartModel* chart() const { return m_chart; }
     void setChart(FanCurveChartModel* chart);
 
+    [[nodiscard]] bool isHovered() const { return m_isHovered; }
+
 Q_SIGNALS:
     void chartChanged();
+    void hoveredChanged();
     /// The pointer works on this point; the keyboard should, too.
     void pointPressed(int index);
 
@@ -55,6 +59,7 @@ private:
 
     [[nodiscard]] QPointF inPlot(const QPointF& position) const;
     void hover(const QPointF& position);
+    void setHovered(bool isHovered);
     void abandon();
     void openMenuByHolding();
     void updateCursor();
@@ -64,6 +69,7 @@ private:
     /// The point of the click before; a double click is meant for a point only if both hit it.
     int m_clickedPoint = -1;
     QTimer m_hold;
+    bool m_isHovered = false;
 };
 
 } // namespace kestrowind

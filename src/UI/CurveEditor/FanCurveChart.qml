@@ -8,6 +8,7 @@ FocusScope {
 
     required property FanCurveChartModel model
     readonly property bool isMenuOpen: menu.visible
+    readonly property bool isPointedAt: gestures.hovered
 
     // For bubbles, in the plot: they may cover the margins, too.
     readonly property rect bubbleBounds: Qt.rect(-40, -14, width - 12, height)

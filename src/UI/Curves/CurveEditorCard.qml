@@ -28,11 +28,9 @@ Item {
         model: root.chart
     }
 
-    PointerWatch { id: pointer; anchors.fill: parent }
-
     Tooltip {
         text: root.help
-        shown: pointer.hovered && root.chart.isIdle && !editor.isMenuOpen
+        shown: editor.isPointedAt && root.chart.isIdle && !editor.isMenuOpen
         delay: 1500
     }
 }

@@ -5,7 +5,7 @@
 namespace kestrowind {
 
 void PointerWatch::take(QHoverEvent* event, bool isHovered) {
-    // Whoever is below sees it, too.
+    // What it lies in sees the pointer, too.
     event->ignore();
     if (assignIfChanged(m_isHovered, isHovered))
         Q_EMIT hoveredChanged();

@@ -4,9 +4,9 @@
 
 namespace kestrowind {
 
-/// Whether the pointer is over an item, which it fills; takes the pointer from nobody. In place of
-/// the toolkit's HoverHandler, which in Qt 6.4 remembers every frame that is drawn while the
-/// pointer rests, until it moves: the memory grows with each turn of a fan.
+/// An item that knows whether the pointer is over it, and not over a control in it. In place of the
+/// toolkit's HoverHandler, which in Qt 6.4 remembers every frame that is drawn while the pointer
+/// rests, until it moves: the memory grows with each turn of a fan.
 class PointerWatch : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(bool hovered READ isHovered NOTIFY hoveredChanged FINAL)

@@ -2,7 +2,7 @@ import QtQuick
 import Kestrowind.DesignSystem
 
 // One choice of a SegmentedPicker.
-Item {
+PointerWatch {
     id: root
 
     required property int index
@@ -28,9 +28,8 @@ Item {
         text: root.title
         symbolName: root.symbolName
         font: Typography.weighted(Typography.body, Font.Medium)
-        color: root.isCurrent || pointer.hovered ? AppColors.primaryText : AppColors.secondaryText
+        color: root.isCurrent || (root.hovered && root.enabled) ? AppColors.primaryText : AppColors.secondaryText
     }
 
-    PointerWatch { id: pointer; anchors.fill: parent }
     TapHandler { onTapped: root.chosen() }
 }

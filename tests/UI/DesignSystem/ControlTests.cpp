@@ -61,6 +61,17 @@ TEST(ControlTests, AButtonTellsWhyItIsDisabled) {
     EXPECT_TRUE(button->property("hovered").toBool());
 }
 
+TEST(ControlTests, ASegmentIsLitUnderThePointer) {
+    Shown scene("Segment { index: 0; title: 'Curves'; symbolName: 'fanblades'; isCurrent: false }");
+    const auto isLit = [&] { return scene.item().property("hovered").toBool(); };
+    QTest::mouseMove(&scene.window(), {20, 10});
+    EXPECT_TRUE(isLit());
+    QTest::mouseMove(&scene.window(), {30, 10});
+    EXPECT_TRUE(isLit());
+    QTest::mouseMove(&scene.window(), {250, 150});
+    EXPECT_FALSE(isLit());
+}
+
 TEST(ControlTests, ASliderMovesByItsStepWithTheKeysAndSnapsWhileDragged) {
     Shown scene("Slider { label: 'Boost'; from: 0; to: 100; stepSize: 5; width: 218; value: 40 }");
     const auto value = [&] { return scene.item().property("value").toDouble(); };

@@ -9,7 +9,7 @@ FocusScope {
 
     required property bool canCreate
     required property string limitHelp
-    readonly property bool isHovering: pointer.hovered
+    readonly property bool isHovering: button.hovered
     readonly property bool isLit: isHovering && canCreate
 
     signal clicked()
@@ -19,8 +19,6 @@ FocusScope {
         if (canCreate)
             contextMenuRequested(at)
     }
-
-    PointerWatch { id: pointer; anchors.fill: parent }
 
     TapHandler {
         acceptedButtons: Qt.RightButton
@@ -33,6 +31,7 @@ FocusScope {
         anchors.fill: parent
         focus: true
         enabled: root.canCreate
+        hoverEnabled: true
         focusPolicy: Qt.StrongFocus
         text: root.canCreate ? qsTrId("presets.card.newPreset") : qsTrId("presets.card.limitReached")
         onClicked: root.clicked()
