@@ -12,14 +12,14 @@
         <translation>%1 stands still</translation>
     </message>
     <message id="alert.helperFailed.body">
-        <translation>The helper cannot drive the fans.</translation>
+        <translation>The helper does not do what it is asked. Reinstall it in Kestrowind’s settings. If the fans stay slow while the Mac is hot, restart the Mac.</translation>
     </message>
     <message id="alert.helperFailed.bodyWithReason">
         <extracomment>%1: what the helper said</extracomment>
         <translation>The helper cannot drive the fans: %1</translation>
     </message>
     <message id="alert.helperFailed.title">
-        <translation>Fan control has failed</translation>
+        <translation>The fans cannot be controlled</translation>
     </message>
     <message id="alert.overheating.body">
         <extracomment>%1: whole degrees</extracomment>
@@ -591,6 +591,12 @@
     </message>
     <message id="settings.helper.sectionTitle">
         <translation>Privileged Helper</translation>
+    </message>
+    <message id="settings.helper.status.denied.description">
+        <translation>The helper is installed, but does not do what it is asked. Reinstall it. If the fans stay slow while the Mac is hot, restart the Mac.</translation>
+    </message>
+    <message id="settings.helper.status.denied.title">
+        <translation>The fans cannot be controlled</translation>
     </message>
     <message id="settings.helper.status.installed.description">
         <translation>Kestrowind can control the fans.</translation>

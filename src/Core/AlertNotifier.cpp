@@ -10,6 +10,7 @@
 
 #include <QPointer>
 
+#include <algorithm>
 #include <cmath>
 
 namespace kestrowind {
@@ -19,6 +20,8 @@ using namespace Qt::StringLiterals;
 
 /// The reason is the helper's word, not ours: a notification has room for a line or two of it.
 constexpr qsizetype longestReason = 200;
+
+const QString helperIdentifier = u"helper"_s;
 
 QString reasonText(const std::string& reason) {
     const QString text = oneLine(QString::fromStdString(reason)).trimmed();
@@ -48,7 +51,7 @@ Notification notificationOf(const Alert& alert) {
     switch (alert.kind) {
     case AlertKind::helperFailed: {
         const QString reason = reasonText(alert.reason);
-        return {.identifier = u"helper"_s,
+        return {.identifier = helperIdentifier,
                 .title = localized("alert.helperFailed.title"),
                 .body = reason.isEmpty()
                             ? localized("alert.helperFailed.body")
@@ -76,18 +79,53 @@ AlertNotifier::AlertNotifier(AppState& appState, const UserDefaults& userDefault
         if (notifier)
             notifier->take(sample);
     });
+    // Not only with the next sample.
+    connect(&appState.engine().watch(), &ControlWatch::isDeniedChanged, this, [this] {
+        if (const auto& latest = m_appState.telemetry().latest())
+            take(*latest);
+    });
+}
+
+AlertRules::Helper AlertNotifier::helperWork(const TelemetrySample& sample) const {
+    using Work = AlertRules::Helper::Work;
+    const HelperControlling& helper = m_appState.helper();
+    const ControlEngine& engine = m_appState.engine();
+    if (!helper.isInstalled())
+        return {Work::done}; // nothing is asked of it
+    const auto isWanted = [](double percent) { return percent > 0; };
+    const auto isHeld = [](const SMCFanReading& fan) { return fan.isManual(); };
+    // Unless a fan is left at its last speed, a helper without work may be silent.
+    const bool matters = std::ranges::any_of(engine.requestedPercents(), isWanted) ||
+                         std::ranges::any_of(sample.fans, isHeld);
+    if (engine.watch().isDenied())
+        return {matters ? Work::failing : Work::pending};
+    // The last word of a helper that is gone says nothing of now.
+    const auto status = helper.lastStatus();
+    if (helper.state() == HelperState::unreachable || !status)
+        return {Work::pending};
+    switch (status->phase) {
+    case HelperControlPhase::failed:
+        return {Work::failing, status->lastError.value_or("")};
+    case HelperControlPhase::unlocking:
+        return {Work::pending};
+    case HelperControlPhase::idle:
+    case HelperControlPhase::controlling:
+        break;
+    }
+    return {Work::done};
 }
 
 void AlertNotifier::take(const TelemetrySample& sample) {
-    const HelperControlling& helper = m_appState.helper();
-    // The last word of a helper that is gone says nothing of now.
-    const auto status =
-        helper.state() == HelperState::installed ? helper.lastStatus() : std::nullopt;
     const auto isWanted = [this](AlertKind kind) { return m_userDefaults.boolean(alertKey(kind)); };
     const AlertRules::Choice choice{.helperFailed = isWanted(AlertKind::helperFailed),
                                     .fanStandsStill = isWanted(AlertKind::fanStandsStill),
                                     .overheating = isWanted(AlertKind::overheating)};
-    for (const Alert& alert : m_rules.take(sample, status, choice)) {
+    for (const Alert& alert : m_rules.take(sample, helperWork(sample), choice)) {
+        if (alert.isOver) {
+            qCInfo(shellLog).noquote() << "alert is over:" << helperIdentifier;
+            m_notifications.withdraw(helperIdentifier);
+            continue;
+        }
         const Notification notification = notificationOf(alert);
         qCInfo(shellLog).noquote() << "alert:" << notification.identifier << notification.body;
         m_notifications.show(notification);

@@ -36,6 +36,7 @@ public:
 
 private:
     void take(const TelemetrySample& sample);
+    [[nodiscard]] AlertRules::Helper helperWork(const TelemetrySample& sample) const;
 
     AppState& m_appState;
     const UserDefaults& m_userDefaults;

@@ -2,16 +2,16 @@
 
 namespace kestrowind {
 
-std::vector<Alert> AlertRules::take(const TelemetrySample& sample,
-                                    const std::optional<HelperStatus>& status,
+std::vector<Alert> AlertRules::take(const TelemetrySample& sample, const Helper& helper,
                                     const Choice& choice) {
     const TimePoint now = sample.timestamp;
     std::vector<Alert> alerts;
 
-    const bool hasFailed = status && status->phase == HelperControlPhase::failed;
-    if (m_helper.take(choice.helperFailed && hasFailed, now, std::chrono::seconds::zero()))
-        alerts.push_back(
-            {.kind = AlertKind::helperFailed, .reason = status->lastError.value_or("")});
+    const bool isFailing = helper.work == Helper::Work::failing;
+    if (m_helper.take(choice.helperFailed && isFailing, now, std::chrono::seconds::zero()))
+        alerts.push_back({.kind = AlertKind::helperFailed, .reason = helper.reason});
+    if (helper.work == Helper::Work::done && m_helper.forget())
+        alerts.push_back({.kind = AlertKind::helperFailed, .isOver = true});
 
     for (const SMCFanReading& fan : sample.fans) {
         const bool isStill = fan.targetRPM > 0 && fan.actualRPM < stillBelow;

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "Core/TelemetrySample.h"
-#include "Shared/HelperShared/HelperStatus.h"
 
 #include <chrono>
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kestrowind {
@@ -20,7 +20,8 @@ enum class AlertKind {
 
 struct Alert {
     AlertKind kind = AlertKind::helperFailed;
-    std::string reason = {}; ///< helperFailed: the helper's last error, which may be empty
+    std::string reason = {}; ///< helperFailed: the helper's own word, empty when it said nothing
+    bool isOver = false;     ///< helperFailed: what was told of before holds no more
     int fanIndex = 0;        ///< fanStandsStill
     int fanCount = 0;        ///< fanStandsStill: how many fans the machine has
     double value = 0;        ///< fanStandsStill: its target, RPM; overheating: degrees Celsius
@@ -28,10 +29,11 @@ struct Alert {
     bool operator==(const Alert&) const = default;
 };
 
-/// Decides from the samples when to alert. The samples' own times are the only clock. A condition
-/// has to hold for `patience` without a gap in the samples (a failed helper counts at once), and is
-/// told again only after `silence`, however often it comes and goes: once an hour for the helper,
-/// for each fan, and for the heat.
+/// Decides from the samples when to alert. The samples' own times are the only clock. Heat and
+/// standing fans have to hold for `patience` without a gap in the samples, and are told again only
+/// after `silence`, however often they come and go: once an hour for each fan, and for the heat. A
+/// failing helper counts at once, is told again after `silence` while it lasts, and told to be over
+/// as soon as the helper does its work again.
 class AlertRules {
 public:
     using TimePoint = std::chrono::system_clock::time_point;
@@ -52,9 +54,19 @@ public:
         bool overheating = true;
     };
 
-    /// What is to be told now. `status` is the helper's, absent while there is none to ask.
-    [[nodiscard]] std::vector<Alert> take(const TelemetrySample& sample,
-                                          const std::optional<HelperStatus>& status,
+    /// How the helper does its work.
+    struct Helper {
+        enum class Work {
+            done,
+            pending, ///< it may come to either
+            failing,
+        };
+        Work work = Work::done;
+        std::string reason = {}; ///< failing: the helper's own word, empty when it said nothing
+    };
+
+    /// What is to be told now.
+    [[nodiscard]] std::vector<Alert> take(const TelemetrySample& sample, const Helper& helper,
                                           const Choice& choice);
 
 private:
@@ -63,6 +75,8 @@ private:
     public:
         /// Whether to tell of it now, when it has to hold for `wait`.
         [[nodiscard]] bool take(bool isHolding, TimePoint now, std::chrono::seconds wait);
+        /// Whether it was told of; it is news again from now on.
+        [[nodiscard]] bool forget() { return std::exchange(m_told, std::nullopt).has_value(); }
 
     private:
         std::optional<TimePoint> m_since; ///< absent while it does not hold

@@ -25,11 +25,13 @@ QString listText(const QList<double>& numbers) {
 } // namespace
 
 ControlEngine::ControlEngine(TelemetryStore& telemetry, PresetStore& presets,
-                             HelperControlling& helper, Clock now)
+                             HelperControlling& helper, Clock now,
+                             std::chrono::milliseconds controlPatience)
     : m_telemetry(telemetry)
     , m_presets(presets)
     , m_helper(helper)
-    , m_now(std::move(now)) {
+    , m_now(std::move(now))
+    , m_watch(controlPatience) {
     m_pushTimer.setSingleShot(true);
     m_pushTimer.setTimerType(Qt::PreciseTimer);
     m_pushTimer.setInterval(pushDelay);
@@ -75,6 +77,7 @@ void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
             << "not pushing: fans=" << fans.size() << " helperInstalled=" << m_helper.isInstalled();
         setRequestedPercents({});
         setIsOverriding(false);
+        m_watch.clear();
         return;
     }
     const auto preset = m_presets.activePreset();
@@ -96,6 +99,8 @@ void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
 QCoro::Task<void> ControlEngine::push(std::optional<HelperControlling::Targets> targets) {
     // While a call is awaited the engine, and the helper with it, may go.
     const QPointer<ControlEngine> engine(this);
+    const bool isRequested = targets.has_value();
+    m_watch.expect();
     if (targets) {
         auto applied = co_await m_helper.setTargets(std::move(*targets));
         if (!engine)
@@ -107,13 +112,16 @@ QCoro::Task<void> ControlEngine::push(std::optional<HelperControlling::Targets> 
             co_return;
         setApplied(std::nullopt);
     }
-    co_await m_helper.fetchStatus();
+    const auto status = co_await m_helper.fetchStatus();
+    if (engine && !isRequested && status)
+        m_watch.clear();
 }
 
 QCoro::Task<void> ControlEngine::shutDown() {
     const QPointer<ControlEngine> engine(this);
     m_pushTimer.stop();
     m_isShutDown = true;
+    m_watch.clear();
     co_await m_helper.releaseControl();
     if (engine)
         setApplied(std::nullopt);
@@ -125,6 +133,9 @@ void ControlEngine::setRequestedPercents(const QList<double>& percents) {
 }
 
 void ControlEngine::setApplied(std::optional<HelperControlling::Targets> applied) {
+    const auto isDriven = [](double target) { return target > 0; };
+    if (applied && std::ranges::any_of(*applied, isDriven))
+        m_watch.clear();
     setEffectiveTargets(applied.value_or(HelperControlling::Targets()));
     setIsOverriding(applied && !applied->empty());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/ControlWatch.h"
 #include "Core/HelperControlling.h"
 #include "Shared/SMCKit/SMCFanReading.h"
 
@@ -34,7 +35,8 @@ public:
 
     /// Registers itself for samples. The three must outlive the engine.
     ControlEngine(TelemetryStore& telemetry, PresetStore& presets, HelperControlling& helper,
-                  Clock now = &std::chrono::system_clock::now);
+                  Clock now = &std::chrono::system_clock::now,
+                  std::chrono::milliseconds controlPatience = ControlWatch::defaultPatience);
     ~ControlEngine() override;
 
     /// A floor for every fan's demand in percent; 0 is no boost.
@@ -50,6 +52,10 @@ public:
     [[nodiscard]] bool isOverriding() const { return m_isOverriding; }
     /// The temperature at which the curves are evaluated, degrees Celsius.
     [[nodiscard]] double smoothedTemperature() const { return m_smoothedTemperature; }
+
+    /// Whether the helper does what it is asked: applies targets, or answers at all while nothing
+    /// is requested.
+    [[nodiscard]] const ControlWatch& watch() const { return m_watch; }
 
     /// Asks for a push after pushDelay; asking again starts the delay anew.
     void pushSoon();
@@ -84,6 +90,7 @@ private:
     double m_smoothedTemperature = 0;
     std::optional<std::chrono::system_clock::time_point> m_lastTickDate;
     QTimer m_pushTimer;
+    ControlWatch m_watch;
     bool m_isShutDown = false;
 };
 

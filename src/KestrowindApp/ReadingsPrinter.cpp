@@ -84,6 +84,7 @@ std::string ReadingsPrinter::json(const AppState& appState, const TelemetrySampl
          std::vector<double>(engine.requestedPercents().begin(), engine.requestedPercents().end())},
         {"effectiveTargets", engine.effectiveTargets()},
         {"isOverriding", engine.isOverriding()},
+        {"isDenied", engine.watch().isDenied()},
         {"helperState", kestrowind::text(appState.helper().state()).toStdString()},
         {"phase", orNull(phaseText(appState))},
     };
@@ -104,6 +105,8 @@ std::string ReadingsPrinter::text(const AppState& appState, const TelemetrySampl
             kestrowind::text(appState.helper().state());
     if (const auto phase = phaseText(appState))
         line += u", "_s + QString::fromStdString(*phase);
+    if (appState.engine().watch().isDenied())
+        line += u", not doing what it is asked"_s;
     return line.toStdString();
 }
 

@@ -27,6 +27,8 @@ public:
 
     /// Returns at once. `notShown` follows, at once or later, when nobody shows it.
     virtual void show(const Notification& notification) = 0;
+    /// Takes back what was shown under the identifier, if anything still is.
+    virtual void withdraw(const QString& identifier) = 0;
 
 Q_SIGNALS:
     /// Nothing shows notifications here, or the user has turned them off for us.

@@ -6,6 +6,7 @@
 #include "Support/QtPrinters.h"
 #include "Support/TestDefaults.h"
 
+#include <QTest>
 #include <gmock/gmock.h>
 
 #include <limits>
@@ -27,16 +28,18 @@ AlertRules::TimePoint at(double seconds) {
                                  std::chrono::hours(24 * 365));
 }
 
-/// One sample: when, how hot, what the first fan does, and whether the helper has failed.
+using Work = AlertRules::Helper::Work;
+
+/// One sample: when, how hot, what the first fan does, and how the helper does.
 struct Moment {
     double seconds;
     double hottest = none;
     double target = none;
     double actual = none;
-    bool hasFailed = false;
+    Work helper = Work::done;
 };
 
-/// The seconds of the samples that alert.
+/// The seconds of the samples that alert; below zero when one is over.
 std::vector<double> alertTimes(const std::vector<Moment>& moments,
                                const AlertRules::Choice& choice = {}) {
     AlertRules rules;
@@ -46,11 +49,8 @@ std::vector<double> alertTimes(const std::vector<Moment>& moments,
             .timestamp = at(moment.seconds),
             .temperatures = {.cpuMax = moment.hottest, .hottest = moment.hottest},
             .fans = {{.index = 0, .actualRPM = moment.actual, .targetRPM = moment.target}}};
-        HelperStatus status;
-        if (moment.hasFailed)
-            status.phase = HelperControlPhase::failed;
-        for (std::size_t alerts = rules.take(sample, status, choice).size(); alerts > 0; --alerts)
-            times.push_back(moment.seconds);
+        for (const Alert& alert : rules.take(sample, {moment.helper}, choice))
+            times.push_back(alert.isOver ? -moment.seconds : moment.seconds);
     }
     return times;
 }
@@ -132,7 +132,7 @@ TEST(AlertRules, TellsOfAFanThatShouldTurn) {
             sample.fans.push_back({.index = 0, .actualRPM = 0, .targetRPM = 1500});
         sample.fans.push_back(
             {.index = 1, .actualRPM = seconds < 20 ? 900.0 : 0, .targetRPM = 900});
-        for (const Alert& alert : rules.take(sample, std::nullopt, {})) {
+        for (const Alert& alert : rules.take(sample, {}, {})) {
             told.emplace_back(seconds, alert.fanIndex);
             EXPECT_EQ(alert.fanCount, 2);
             EXPECT_EQ(alert.value, alert.fanIndex == 0 ? 1500 : 900);
@@ -141,9 +141,20 @@ TEST(AlertRules, TellsOfAFanThatShouldTurn) {
     EXPECT_THAT(told, ElementsAre(std::pair(10.0, 0), std::pair(30.0, 1)));
 }
 
-TEST(AlertRules, TellsOfAFailedHelperAtOnceAndOnlyOfWhatIsWanted) {
+TEST(AlertRules, TellsOfAFailingHelperAtOnceUntilItWorksAgain) {
+    const auto like = [](double first, double last, Work helper) {
+        return every2s(first, last, {.seconds = 0, .helper = helper});
+    };
+    EXPECT_THAT(alertTimes(like(0, 20, Work::failing) + like(22, 30, Work::pending) +
+                           like(32, 40, Work::failing) + like(42, 50, Work::done) +
+                           like(52, 60, Work::failing) + like(62, 70, Work::done)),
+                ElementsAre(0, -42, 52, -62));
+    EXPECT_THAT(alertTimes(like(0, 3700, Work::failing)), ElementsAre(0, 3600));
+}
+
+TEST(AlertRules, TellsOnlyOfWhatIsWanted) {
     const std::vector<Moment> all =
-        every2s(0, 20, {.seconds = 0, .hottest = hot, .target = 900, .hasFailed = true});
+        every2s(0, 20, {.seconds = 0, .hottest = hot, .target = 900, .helper = Work::failing});
     EXPECT_THAT(alertTimes(all), ElementsAre(0, 10, 10));
     EXPECT_THAT(alertTimes(all, {.helperFailed = false}), ElementsAre(10, 10));
     EXPECT_THAT(alertTimes(all, {.fanStandsStill = false}), ElementsAre(0, 10));
@@ -157,22 +168,30 @@ public:
         shown.append(notification.identifier + u'|' + notification.title + u'|' +
                      notification.body);
     }
+    void withdraw(const QString& identifier) override { shown.append(u"no "_s + identifier); }
 };
 
 TEST(AlertNotifier, PostsWhatTheUserWantsToHear) {
     const TestHome home;
     const auto defaults = home.defaults();
     registerAlertDefaults(*defaults);
+    auto telemetry = std::make_unique<TelemetryStore>(*defaults, SMCUserClientFactory());
+    auto presets =
+        std::make_unique<PresetStore>(2, *defaults, PresetStore::Storage{.folder = home.path()});
     auto* helper = new PreviewHelperClient;
-    AppState state(std::make_unique<TelemetryStore>(*defaults, SMCUserClientFactory()),
-                   std::unique_ptr<HelperControlling>(helper), nullptr, nullptr);
+    auto engine = std::make_unique<ControlEngine>(*telemetry, *presets, *helper,
+                                                  &std::chrono::system_clock::now,
+                                                  std::chrono::milliseconds(50));
+    AppState state(std::move(telemetry), std::unique_ptr<HelperControlling>(helper),
+                   std::move(presets), std::move(engine));
     NotedNotifications notifications;
     double seconds = 0;
+    std::uint8_t mode = 0;
     const auto sample = [&](double hottest = cold, double target = 0) {
-        state.telemetry().ingest(
-            {.timestamp = at(seconds),
-             .temperatures = {.cpuMax = hottest, .hottest = hottest},
-             .fans = {{.index = 0, .actualRPM = 3000}, {.index = 1, .targetRPM = target}}});
+        state.telemetry().ingest({.timestamp = at(seconds),
+                                  .temperatures = {.cpuMax = hottest, .hottest = hottest},
+                                  .fans = {{.index = 0, .actualRPM = 3000, .modeRaw = mode},
+                                           {.index = 1, .targetRPM = target}}});
         seconds += 2;
     };
     const auto fail = [&](std::optional<std::string> reason) {
@@ -191,7 +210,7 @@ TEST(AlertNotifier, PostsWhatTheUserWantsToHear) {
         sample();
         ASSERT_EQ(notifications.shown.size(), 1);
         EXPECT_TRUE(notifications.shown.front().startsWith(
-            u"helper|Fan control has failed|The helper cannot drive the fans: a reason xxx"_s));
+            u"helper|The fans cannot be controlled|The helper cannot drive the fans: a reason xxx"_s));
         EXPECT_LT(notifications.shown.front().size(), 300);
         notifications.shown.clear();
 
@@ -208,6 +227,34 @@ TEST(AlertNotifier, PostsWhatTheUserWantsToHear) {
             u"fan-1|Right fan stands still|It should be turning at 1500 rpm."_s));
         EXPECT_TRUE(notifications.shown.back().startsWith(u"heat|The Mac is very hot|"_s));
         EXPECT_TRUE(notifications.shown.back().contains(u"105"_s));
+        notifications.shown.clear();
+
+        // The helper, which never answers, matters once it is to do something or has left a fan.
+        const ControlWatch& watch = state.engine().watch();
+        helper->setLastStatus(HelperStatus());
+        sample();
+        EXPECT_EQ(notifications.shown, QStringList{u"no helper"_s});
+        const auto isDenied = [&] {
+            sample();
+            return watch.isDenied();
+        };
+        ASSERT_TRUE(QTest::qWaitFor(isDenied));
+        sample();
+        EXPECT_EQ(notifications.shown.size(), 1);
+        mode = 1;
+        sample();
+        ASSERT_EQ(notifications.shown.size(), 2);
+        EXPECT_TRUE(notifications.shown.back().startsWith(u"helper|The fans cannot be"_s));
+        EXPECT_TRUE(notifications.shown.back().contains(u"restart the Mac"_s));
+        helper->setState(HelperState::notInstalled);
+        sample();
+        EXPECT_EQ(notifications.shown.back(), u"no helper"_s);
+        helper->setState(HelperState::installed);
+        mode = 0;
+        state.engine().setQuickBoostPercent(50);
+        ASSERT_TRUE(QTest::qWaitFor(isDenied));
+        sample();
+        EXPECT_EQ(notifications.shown.size(), 4);
         notifications.shown.clear();
     }
     seconds += 7200;

@@ -35,6 +35,7 @@ using Method = ScriptedHelper::Method;
 // In the relation that they have in the application: 2 seconds and 3.
 constexpr auto interval = 6ms;
 constexpr auto callTimeout = 9ms;
+constexpr auto controlPatience = 30ms;
 constexpr int limit = 4000; ///< milliseconds to wait for what must come
 
 /// How long the event loop of this thread was kept from going round, at the longest.
@@ -104,8 +105,8 @@ public:
                                       .callTimeout = callTimeout});
         auto presets = std::make_unique<PresetStore>(2, *defaults,
                                                      PresetStore::Storage{.folder = home.path()});
-        auto engine = std::make_unique<ControlEngine>(*telemetry, *presets, *client,
-                                                      [this] { return clock(); });
+        auto engine = std::make_unique<ControlEngine>(
+            *telemetry, *presets, *client, [this] { return clock(); }, controlPatience);
         state = std::make_unique<AppState>(std::move(telemetry), std::move(client),
                                            std::move(presets), std::move(engine));
         // A demand of its own, since without a temperature no curve asks for anything.
@@ -296,6 +297,8 @@ TEST_F(FaultTest, NoSpeedThatAFanReportsReachesTheHelperUnchecked) {
 }
 
 TEST_F(FaultTest, AHelperMayFailAtEachStepOfAPushAndOfQuitting) {
+    const QSet appliesNothing{Answer::silent,      Answer::late,  Answer::broken,
+                              Answer::invalidated, Answer::empty, Answer::nonsense};
     for (const Answer answer :
          {Answer::silent, Answer::late, Answer::broken, Answer::invalidated, Answer::empty,
           Answer::tooShort, Answer::tooLong, Answer::nonsense, Answer::otherVersion}) {
@@ -309,10 +312,15 @@ TEST_F(FaultTest, AHelperMayFailAtEachStepOfAPushAndOfQuitting) {
                 ASSERT_TRUE(mac.regainsControl());
                 mac.helper.answers = {{method, answer}};
                 EXPECT_TRUE(mac.takesSamples(6));
+                const ControlWatch& watch = mac.state->engine().watch();
+                if (method == Method::setTargets && appliesNothing.contains(answer)) {
+                    EXPECT_TRUE(QTest::qWaitFor([&] { return watch.isDenied(); }, limit));
+                }
                 EXPECT_EQ(mac.state->helper().isHelperOutdated(),
                           method == Method::status && answer == Answer::otherVersion);
                 mac.helper.answers.clear();
                 EXPECT_TRUE(mac.regainsControl());
+                EXPECT_TRUE(QTest::qWaitFor([&] { return !watch.isDenied(); }, limit));
 
                 mac.helper.answers = {{method, answer}};
                 mac.quit();

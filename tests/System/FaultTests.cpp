@@ -1,3 +1,4 @@
+#include "Core/ControlWatch.h"
 #include "System/RunningApp.h"
 
 #include <QElapsedTimer>
@@ -84,12 +85,28 @@ TEST_F(Faults, ACopyThatStartsWhileAnotherQuitsTakesOver) {
     expectGoodEnd(second);
 }
 
+TEST_F(Faults, SaysWhenAFrozenHelperLeavesTheFansToNobody) {
+    const auto helper = mac.status()["helper"]["pid"].get<pid_t>();
+    ::kill(helper, SIGSTOP);
+    const auto isDenied = [](const json& reading) { return reading["isDenied"] == true; };
+    // The next push, the patience, and the next reading.
+    EXPECT_TRUE(app.waitFor(isDenied, 2s + ControlWatch::defaultPatience + 2s + 1s));
+    EXPECT_TRUE(modes.areAllManual()) << "nobody can hand them back";
+    ::kill(helper, SIGCONT);
+    EXPECT_TRUE(app.waitFor([&](const json& reading) { return !isDenied(reading); }));
+    expectGoodEnd(app);
+    EXPECT_FALSE(isDenied(app.readings().front()));
+}
+
 TEST_F(Faults, ControlsAgainAfterTheHelperWasKilledOrRefusedByLaunchd) {
     ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
     ASSERT_TRUE(isHelper("unreachable"));
     ASSERT_TRUE(isHelper("installed"));
     EXPECT_TRUE(waitUntil([this] { return modes.areAllManual(); }));
     EXPECT_EQ(mac.status()["helper"]["starts"], 2);
+    EXPECT_TRUE(std::ranges::none_of(app.readings(), [](const json& reading) {
+        return reading["isDenied"] == true;
+    })) << "a helper that comes back is no matter";
 
     ASSERT_EQ(
         mac.control({u"bootout"_s, QString::fromLatin1(HelperConstants::machServiceName)}).status,

@@ -54,6 +54,18 @@ void BusNotifications::show(const Notification& notification) {
     });
 }
 
+void BusNotifications::withdraw(const QString& identifier) {
+    // One that is still on its way has no number yet, and is left to its reader.
+    const auto shown = m_ids.constFind(identifier);
+    if (shown == m_ids.constEnd())
+        return;
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(busService, busPath, busInterface, u"CloseNotification"_s);
+    call << *shown;
+    m_ids.erase(shown);
+    m_bus.asyncCall(call);
+}
+
 void BusNotifications::takeReply(QDBusPendingCallWatcher& watcher,
                                  const Notification& notification) {
     const QDBusPendingReply<uint> reply(watcher);

@@ -18,6 +18,7 @@ public:
     explicit BusNotifications(QDBusConnection bus, QObject* parent = nullptr);
 
     void show(const Notification& notification) override;
+    void withdraw(const QString& identifier) override;
 
 private Q_SLOTS:
     void noteAction(uint id, const QString& action);

@@ -12,6 +12,7 @@ public:
     ~UserNotifications() override;
 
     void show(const Notification& notification) override;
+    void withdraw(const QString& identifier) override;
 
 private:
     struct Link;

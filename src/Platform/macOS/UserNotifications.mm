@@ -113,4 +113,12 @@ void UserNotifications::show(const Notification& notification) {
                           }];
 }
 
+void UserNotifications::withdraw(const QString& identifier) {
+    if (!m_link)
+        return;
+    NSArray<NSString*>* const identifiers = @[ identifier.toNSString() ];
+    [m_link->center removePendingNotificationRequestsWithIdentifiers:identifiers];
+    [m_link->center removeDeliveredNotificationsWithIdentifiers:identifiers];
+}
+
 } // namespace kestrowind

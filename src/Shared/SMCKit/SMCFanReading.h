@@ -17,6 +17,10 @@ struct SMCFanReading {
     double maxRPM = 0;
     std::optional<std::uint8_t> modeRaw = {}; ///< absent without a readable mode key
 
+    /// Somebody drives it, and it stays as it is when nobody does any more: the mode that a helper
+    /// puts it into.
+    [[nodiscard]] bool isManual() const { return modeRaw == 1; }
+
     bool operator==(const SMCFanReading&) const = default;
 };
 

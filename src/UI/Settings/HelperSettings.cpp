@@ -1,16 +1,19 @@
 #include "UI/Settings/HelperSettings.h"
 
 #include "Core/AssignIfChanged.h"
+#include "Core/ControlWatch.h"
 
 #include <QPointer>
 
 namespace kestrowind {
 
-HelperSettings::HelperSettings(HelperControlling& helper, HelperOperation& operation,
-                               std::chrono::milliseconds interval)
+HelperSettings::HelperSettings(HelperControlling& helper, const ControlWatch& watch,
+                               HelperOperation& operation, std::chrono::milliseconds interval)
     : m_helper(helper)
+    , m_watch(watch)
     , m_operation(operation) {
     connect(&helper, &HelperControlling::stateChanged, this, &HelperSettings::statusChanged);
+    connect(&watch, &ControlWatch::isDeniedChanged, this, &HelperSettings::statusChanged);
     connect(&helper, &HelperControlling::lastStatusChanged, this,
             &HelperSettings::lastStatusChanged);
     connect(&operation, &HelperOperation::isWorkingChanged, this,
@@ -28,7 +31,7 @@ HelperSettings::~HelperSettings() {
 }
 
 HelperStatusFacts HelperSettings::status() const {
-    return HelperStatusFacts::of(m_helper.state());
+    return HelperStatusFacts::of(m_helper.state(), m_watch.isDenied());
 }
 
 bool HelperSettings::hasFailure() const {

@@ -11,6 +11,8 @@
 
 namespace kestrowind {
 
+class ControlWatch;
+
 /// What the helper section shows. While somebody can see it, it keeps the helper's status fresh.
 class HelperSettings final : public QObject {
     Q_OBJECT
@@ -28,8 +30,8 @@ public:
     /// From the end of a question for the status to the next one.
     static constexpr std::chrono::milliseconds defaultInterval{2000};
 
-    /// Both references must outlive this.
-    HelperSettings(HelperControlling& helper, HelperOperation& operation,
+    /// The references must outlive this.
+    HelperSettings(HelperControlling& helper, const ControlWatch& watch, HelperOperation& operation,
                    std::chrono::milliseconds interval = defaultInterval);
     ~HelperSettings() override;
 
@@ -59,6 +61,7 @@ private:
     QCoro::Task<void> askForStatus();
 
     HelperControlling& m_helper;
+    const ControlWatch& m_watch;
     HelperOperation& m_operation;
     QTimer m_nextQuestion;
     bool m_isSeen = false;

@@ -7,7 +7,7 @@ namespace kestrowind {
 using namespace Qt::StringLiterals;
 using HelperTone::Tone;
 
-HelperStatusFacts HelperStatusFacts::of(HelperState state) {
+HelperStatusFacts HelperStatusFacts::of(HelperState state, bool isDenied) {
     switch (state) {
     case HelperState::notInstalled:
         return {.symbolName = u"shield.slash.fill"_s,
@@ -17,10 +17,13 @@ HelperStatusFacts HelperStatusFacts::of(HelperState state) {
                 .installTitle = localized("settings.helper.installButton"),
                 .wantsInstall = true};
     case HelperState::installed:
-        return {.symbolName = u"checkmark.seal.fill"_s,
-                .tone = Tone::Good,
-                .title = localized("settings.helper.status.installed.title"),
-                .description = localized("settings.helper.status.installed.description"),
+        return {.symbolName =
+                    isDenied ? u"exclamationmark.triangle.fill"_s : u"checkmark.seal.fill"_s,
+                .tone = isDenied ? Tone::Warning : Tone::Good,
+                .title = isDenied ? localized("settings.helper.status.denied.title")
+                                  : localized("settings.helper.status.installed.title"),
+                .description = isDenied ? localized("settings.helper.status.denied.description")
+                                        : localized("settings.helper.status.installed.description"),
                 .installTitle = localized("settings.helper.reinstallButton"),
                 .uninstallTitle = localized("settings.helper.uninstallButton")};
     case HelperState::unreachable:

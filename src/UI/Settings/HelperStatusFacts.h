@@ -32,7 +32,8 @@ public:
 
     bool operator==(const HelperStatusFacts&) const = default;
 
-    [[nodiscard]] static HelperStatusFacts of(HelperState state);
+    /// `isDenied`: the helper does nothing of what it is asked, whatever its state says.
+    [[nodiscard]] static HelperStatusFacts of(HelperState state, bool isDenied);
 };
 
 } // namespace kestrowind

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/ControlWatch.h"
 #include "Core/PreviewHelperClient.h"
 #include "Platform/LoginItem.h"
 #include "Shared/HelperShared/HelperConstants.h"
@@ -95,6 +96,7 @@ struct SettingsMachine {
 
     [[nodiscard]] SettingsServices services() {
         return {.helper = helper,
+                .controlWatch = watch,
                 .helperOperation = operation,
                 .userDefaults = *defaults,
                 .loginItem = loginItem,
@@ -104,6 +106,7 @@ struct SettingsMachine {
     TestHome home;
     std::unique_ptr<UserDefaults> defaults = home.defaults();
     WaitingHelper helper;
+    ControlWatch watch{std::chrono::milliseconds(20)};
     HelperOperation operation{helper};
     FakeLoginItem loginItem;
     FakeSystemInformation information;

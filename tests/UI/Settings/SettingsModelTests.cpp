@@ -16,7 +16,8 @@ using namespace std::chrono_literals;
 
 TEST(HelperSettings, RunsOneOperationAtATimeAndShowsItsFailureUntilTheNext) {
     SettingsMachine machine;
-    auto settings = std::make_unique<HelperSettings>(machine.helper, machine.operation);
+    auto settings =
+        std::make_unique<HelperSettings>(machine.helper, machine.watch, machine.operation);
     settings->install();
     EXPECT_TRUE(settings->isWorking());
     settings->install();
@@ -36,22 +37,22 @@ TEST(HelperSettings, RunsOneOperationAtATimeAndShowsItsFailureUntilTheNext) {
 
     // The screen is left and entered again while the password dialog is open.
     settings->install();
-    settings = std::make_unique<HelperSettings>(machine.helper, machine.operation);
+    settings = std::make_unique<HelperSettings>(machine.helper, machine.watch, machine.operation);
     EXPECT_TRUE(settings->isWorking());
     settings.reset();
     machine.helper.endInstallation(
         std::unexpected(InstallError{InstallError::Kind::launchFailed, u"no runner"_s}));
-    settings = std::make_unique<HelperSettings>(machine.helper, machine.operation);
+    settings = std::make_unique<HelperSettings>(machine.helper, machine.watch, machine.operation);
     EXPECT_EQ(settings->errorMessage(), u"no runner"_s);
     settings = nullptr;
-    settings = std::make_unique<HelperSettings>(machine.helper, machine.operation);
+    settings = std::make_unique<HelperSettings>(machine.helper, machine.watch, machine.operation);
     EXPECT_EQ(settings->errorMessage(), QString()) << "it was seen";
 }
 
 TEST(HelperSettings, AsksForTheStatusAgainAndAgainWhileItIsSeen) {
     SettingsMachine machine;
     WaitingHelper& helper = machine.helper;
-    HelperSettings settings(helper, machine.operation, 20ms);
+    HelperSettings settings(helper, machine.watch, machine.operation, 20ms);
     const auto nothingFollows = [&] {
         const int before = helper.questions;
         return !QTest::qWaitFor([&] { return helper.questions > before; }, 100);
@@ -83,6 +84,22 @@ TEST(HelperSettings, AsksForTheStatusAgainAndAgainWhileItIsSeen) {
     helper.openQuestions.push_back(ofThisVisit);
     helper.answerQuestions();
     ASSERT_TRUE(QTest::qWaitFor([&] { return helper.questions == 6; }));
+}
+
+TEST(HelperSettings, DoesNotPraiseAHelperThatDoesNothing) {
+    SettingsMachine machine;
+    machine.helper.setState(HelperState::installed);
+    HelperSettings settings(machine.helper, machine.watch, machine.operation);
+    QSignalSpy changes(&settings, &HelperSettings::statusChanged);
+    EXPECT_EQ(settings.status().tone, HelperTone::Tone::Good);
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        machine.watch.expect();
+        return settings.status().tone == HelperTone::Tone::Warning;
+    }));
+    EXPECT_EQ(settings.status().title, localized("settings.helper.status.denied.title"));
+    machine.watch.clear();
+    EXPECT_EQ(settings.status().tone, HelperTone::Tone::Good);
+    EXPECT_EQ(changes.size(), 2);
 }
 
 TEST(FanBoostSettings, OffersTwoSourcesAndShowsTheOneThatCounts) {

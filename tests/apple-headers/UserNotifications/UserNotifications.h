@@ -66,4 +66,6 @@ extern "C" NSString* const UNNotificationDefaultActionIdentifier;
                       completionHandler:(void (^)(BOOL granted, NSError* error))completionHandler;
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(void (^)(NSError* error))completionHandler;
+- (void)removePendingNotificationRequestsWithIdentifiers:(NSArray<NSString*>*)identifiers;
+- (void)removeDeliveredNotificationsWithIdentifiers:(NSArray<NSString*>*)identifiers;
 @end
