@@ -17,21 +17,32 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(filesLog, "app.kestrowind.files", QtInfoMsg)
 
-QString systemReason() {
-    return QString::fromLocal8Bit(std::strerror(errno));
+QString systemReason(int code = errno) {
+    return QString::fromLocal8Bit(std::strerror(code));
 }
 
-std::expected<void, QString> syncFolder(const QString& folder) {
+/// Until what was written is on the medium.
+bool syncFile(int descriptor) {
+#ifdef F_FULLFSYNC
+    // fsync leaves it in the drive's own cache here. Some file systems know no other.
+    if (::fcntl(descriptor, F_FULLFSYNC) == 0)
+        return true;
+    if (errno != ENOTSUP && errno != EINVAL && errno != ENOTTY)
+        return false;
+#endif
+    return ::fsync(descriptor) == 0;
+}
+
+/// What was renamed is in its place already. Some folders cannot be synced, by their rights or
+/// their file system.
+void syncFolderOf(const QString& path) {
+    const QString folder = QFileInfo(path).absolutePath();
     const int descriptor =
         ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0)
-        return std::unexpected(systemReason());
-    const bool synced = ::fsync(descriptor) == 0;
-    const QString reason = synced ? QString() : systemReason();
-    ::close(descriptor);
-    if (!synced)
-        return std::unexpected(reason);
-    return {};
+    if (descriptor < 0 || !syncFile(descriptor))
+        qCDebug(filesLog).noquote() << "folder of" << path << "not synced:" << systemReason();
+    if (descriptor >= 0)
+        ::close(descriptor);
 }
 
 } // namespace
@@ -41,11 +52,14 @@ std::expected<void, QString> DurableFile::write(const QString& path, const QByte
     // Unbuffered, because a failure to flush the buffer on commit goes unnoticed by QSaveFile, and
     // a full disk would then replace the file by the part of it that still fitted.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) ||
-        file.write(content) != content.size() || !file.commit())
+        file.write(content) != content.size())
         return std::unexpected(file.errorString());
-    // The file is there. Some folders cannot be synced, by their rights or their file system.
-    if (const auto synced = syncFolder(QFileInfo(path).absolutePath()); !synced)
-        qCDebug(filesLog).noquote() << "folder of" << path << "not synced:" << synced.error();
+    // So does a failure to sync, and a power cut would then leave neither the old nor the new.
+    if (!syncFile(file.handle()))
+        return std::unexpected(systemReason());
+    if (!file.commit())
+        return std::unexpected(file.errorString());
+    syncFolderOf(path);
     return {};
 }
 
@@ -57,8 +71,7 @@ std::expected<QString, QString> DurableFile::setAside(const QString& path, const
         target = wanted + u'-' + QString::number(number);
     if (::rename(QFile::encodeName(path).constData(), QFile::encodeName(target).constData()) != 0)
         return std::unexpected(systemReason());
-    if (const auto synced = syncFolder(folder); !synced)
-        return std::unexpected(synced.error());
+    syncFolderOf(target);
     return target;
 }
 

@@ -8,8 +8,8 @@
 namespace kestrowind::DurableFile {
 
 /// Replaces a file's content so that a crash or a power cut leaves the old or the new content,
-/// whole: a temporary file beside it is written and synced, takes its place, and the folder is
-/// synced. The error is the system's reason, for the log.
+/// whole: a temporary file beside it is written, synced to the medium, takes its place, and the
+/// folder is synced. When the content cannot be synced the old one stays. The error is the system's reason, for the log.
 [[nodiscard]] std::expected<void, QString> write(const QString& path, const QByteArray& content);
 
 /// Moves whatever is at `path` to `newName` beside it, or to the first free "newName-2",

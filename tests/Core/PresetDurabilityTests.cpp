@@ -153,14 +153,19 @@ TEST_F(PresetDurabilityTest, HasTheOldOrTheNewPresetsWhicheverCallFails) {
                 int calls = 0;
                 bool isEntry = false;
                 bool isFailing = false;
+                bool isMediumBad = false;
+                bool isSynced = false;
                 const auto ended =
                     traced([&] { deed(store); },
                            [&](pid_t child) {
                                isEntry = !isEntry;
                                user_regs_struct registers{};
                                ::ptrace(PTRACE_GETREGS, child, nullptr, &registers);
-                               if (isEntry && fileCalls.contains(registers.orig_rax) &&
-                                   ++calls == fatalCall) {
+                               const auto call = registers.orig_rax;
+                               const bool isSync = call == SYS_fsync || call == SYS_fdatasync;
+                               if (isEntry && fileCalls.contains(call) &&
+                                   (++calls == fatalCall || (isSync && isMediumBad))) {
+                                   isMediumBad = isSync;
                                    isFailing = true;
                                    registers.orig_rax = ~0ULL; // no such call
                                    ::ptrace(PTRACE_SETREGS, child, nullptr, &registers);
@@ -168,6 +173,8 @@ TEST_F(PresetDurabilityTest, HasTheOldOrTheNewPresetsWhicheverCallFails) {
                                    isFailing = false;
                                    registers.rax = static_cast<unsigned long long>(-error);
                                    ::ptrace(PTRACE_SETREGS, child, nullptr, &registers);
+                               } else if (!isEntry && isSync) {
+                                   isSynced = true;
                                }
                                return true;
                            });
@@ -175,6 +182,7 @@ TEST_F(PresetDurabilityTest, HasTheOldOrTheNewPresetsWhicheverCallFails) {
                     GTEST_SKIP() << "tracing is not allowed here";
                 ASSERT_TRUE(*ended) << "crashed when call " << fatalCall << " failed";
                 ASSERT_NO_FATAL_FAILURE(expectWhole(old, seen)) << "call " << fatalCall;
+                ASSERT_TRUE(isSynced || content() == before) << "a power cut would leave neither";
                 if (calls < fatalCall)
                     break;
             }
