@@ -476,6 +476,9 @@
     <message id="presets.import.noName">
         <translation>The preset has no name.</translation>
     </message>
+    <message id="presets.import.noPoint">
+        <translation>One of its curves has no points.</translation>
+    </message>
     <message id="presets.import.notAPreset">
         <translation>It is not a preset that Kestrowind has exported.</translation>
     </message>

@@ -17,6 +17,9 @@ struct FanPreset {
     QList<FanCurve> curves;
     bool isBuiltIn = false;
 
+    /// Of a name that is typed; copies of copies get longer.
+    static constexpr int longestName = 200;
+
     static const QUuid coolID;
     static const QUuid fullSpeedID;
 

@@ -5,6 +5,8 @@
 #include <nlohmann/json.hpp>
 
 #include <cmath>
+#include <cstdint>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -14,20 +16,52 @@ namespace {
 using namespace Qt::StringLiterals;
 using Json = nlohmann::json;
 
-/// A key given twice would silently lose one of its values.
-Json parseWithoutDuplicateKeys(const QByteArray& content) {
-    std::vector<std::set<std::string>> keys;
-    const auto check = [&keys](int /*depth*/, Json::parse_event_t event, Json& parsed) {
-        if (event == Json::parse_event_t::object_start)
-            keys.emplace_back();
-        else if (event == Json::parse_event_t::object_end)
-            keys.pop_back();
-        else if (event == Json::parse_event_t::key &&
-                 !keys.back().insert(parsed.get<std::string>()).second)
-            throw Json::other_error::create(501, "duplicate key " + parsed.dump(), &parsed);
+/// Ends at the first key that an object has twice, or that is no JSON.
+class UniqueKeys final : public nlohmann::json_sax<Json> {
+public:
+    [[nodiscard]] const std::optional<std::string>& duplicate() const { return m_duplicate; }
+
+    bool start_object(std::size_t /*elements*/) override {
+        m_keys.emplace_back();
         return true;
-    };
-    return Json::parse(content.begin(), content.end(), check);
+    }
+    bool key(std::string& key) override {
+        if (!m_keys.back().insert(key).second)
+            m_duplicate = key;
+        return !m_duplicate;
+    }
+    bool end_object() override {
+        m_keys.pop_back();
+        return true;
+    }
+    bool null() override { return true; }
+    bool boolean(bool /*value*/) override { return true; }
+    bool number_integer(std::int64_t /*value*/) override { return true; }
+    bool number_unsigned(std::uint64_t /*value*/) override { return true; }
+    bool number_float(double /*value*/, const std::string& /*text*/) override { return true; }
+    bool string(std::string& /*value*/) override { return true; }
+    bool binary(Json::binary_t& /*value*/) override { return true; }
+    bool start_array(std::size_t /*elements*/) override { return true; }
+    bool end_array() override { return true; }
+    bool parse_error(std::size_t /*position*/, const std::string& /*token*/,
+                     const Json::exception& /*error*/) override {
+        return false;
+    }
+
+private:
+    std::vector<std::set<std::string>> m_keys; ///< of the open objects
+    std::optional<std::string> m_duplicate;
+};
+
+/// A key given twice would silently lose one of its values, and a null byte all that follows it.
+Json parseAll(const QByteArray& content) {
+    if (content.contains('\0'))
+        throw Json::other_error::create(501, "null byte", nullptr);
+    UniqueKeys keys;
+    Json::sax_parse(content, &keys);
+    if (keys.duplicate())
+        throw Json::other_error::create(501, "duplicate key " + *keys.duplicate(), nullptr);
+    return Json::parse(content);
 }
 
 QString string(const Json& object, const char* key) {
@@ -96,7 +130,7 @@ std::expected<QByteArray, QString> encodePresets(const QList<FanPreset>& presets
 
 std::expected<QList<FanPreset>, QString> decodePresets(const QByteArray& content) {
     try {
-        const Json document = parseWithoutDuplicateKeys(content);
+        const Json document = parseAll(content);
         QList<FanPreset> presets;
         for (const Json& object : array(document))
             presets.append(decodePreset(object));

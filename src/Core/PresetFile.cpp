@@ -4,9 +4,7 @@
 #include "Core/Logging.h"
 #include "Core/OneLine.h"
 #include "Core/PresetCoding.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "Platform/DurableFile.h"
 
 #include <algorithm>
 
@@ -26,6 +24,8 @@ bool isInRange(const FanCurvePoint& point) {
 /// The key of what is wrong with a curve; absent when nothing is.
 std::optional<const char*> faultOf(const FanCurve& curve) {
     const QList<FanCurvePoint>& points = curve.points();
+    if (points.isEmpty())
+        return "presets.import.noPoint";
     if (points.size() > PresetFile::mostPoints)
         return "presets.import.tooMuch";
     if (!std::ranges::all_of(points, isInRange))
@@ -60,7 +60,8 @@ std::expected<FanPreset, QString> PresetFile::decode(const QByteArray& content) 
         return error("presets.import.noName");
     if (preset.curves.isEmpty())
         return error("presets.import.noCurve");
-    if (preset.curves.size() > mostCurves)
+    if (preset.curves.size() > mostCurves || preset.name.size() > longestText ||
+        preset.symbolName.size() > longestText)
         return error("presets.import.tooMuch");
     for (const FanCurve& curve : preset.curves) {
         if (const auto fault = faultOf(curve))
@@ -70,18 +71,10 @@ std::expected<FanPreset, QString> PresetFile::decode(const QByteArray& content) 
 }
 
 std::expected<FanPreset, QString> PresetFile::read(const QString& path) {
-    QFile file(path);
-    // Opening anything but a file could wait, or read, without end.
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        return error("presets.import.notAPreset");
-    if (!file.open(QIODevice::ReadOnly))
-        return std::unexpected(file.errorString());
-    const QByteArray content = file.read(largestSize + 1);
-    if (file.error() != QFile::NoError)
-        return std::unexpected(file.errorString());
-    if (content.size() > largestSize)
-        return error("presets.import.notAPreset");
-    return decode(content);
+    const auto content = DurableFile::read(path, largestPresetsFile);
+    if (!content)
+        return std::unexpected(content.error());
+    return decode(*content);
 }
 
 } // namespace kestrowind

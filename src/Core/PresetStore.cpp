@@ -9,8 +9,8 @@
 #include "Platform/UserDefaults.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 
@@ -41,25 +41,17 @@ QList<FanPreset> PresetStore::loadUserPresets() {
     const QFileInfo info(m_filePath);
     if (!info.exists() && !info.isSymLink())
         return {};
-    QFile file(m_filePath);
-    // Opening anything but a file could wait, or read, without end.
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
-        qCDebug(presetsLog) << "cannot read" << m_filePath << file.errorString();
+    const auto unreadable = [this](const QString& reason) {
+        qCDebug(presetsLog).noquote() << "cannot read" << m_filePath << reason;
         m_hasUnreadableFile = true;
-        return {};
-    }
-    const QByteArray content = file.readAll();
-    if (file.error() != QFile::NoError) {
-        qCDebug(presetsLog) << "cannot read" << m_filePath << file.errorString();
-        m_hasUnreadableFile = true;
-        return {};
-    }
-    auto presets = decodePresets(content);
-    if (!presets) {
-        qCDebug(presetsLog) << "cannot decode" << m_filePath << presets.error();
-        m_hasUnreadableFile = true;
-        return {};
-    }
+        return QList<FanPreset>();
+    };
+    const auto content = DurableFile::read(m_filePath, largestPresetsFile);
+    if (!content)
+        return unreadable(content.error());
+    auto presets = decodePresets(*content);
+    if (!presets)
+        return unreadable(presets.error());
     presets->removeIf([](const FanPreset& preset) { return preset.isBuiltIn; });
     return *presets;
 }
@@ -212,27 +204,27 @@ void PresetStore::persistSlotOrder() {
 }
 
 void PresetStore::save() {
+    const auto notSaved = [](const char* what, const QString& reason) {
+        qCWarning(presetsLog).noquote() << "presets not saved:" << what << reason;
+    };
     const auto content = encodePresets(userPresets());
-    if (!content) {
-        qCDebug(presetsLog) << "not saved:" << content.error();
-        return;
-    }
+    if (!content)
+        return notSaved("", content.error());
+    // The next start would take it for none of ours, and all presets with it.
+    if (content->size() > largestPresetsFile)
+        return notSaved("too large:", QString::number(content->size()));
     const QFileInfo file(m_filePath);
-    if (!QDir().mkpath(file.absolutePath())) {
-        qCDebug(presetsLog) << "not saved: cannot make" << file.absolutePath();
-        return;
-    }
+    if (!QDir().mkpath(file.absolutePath()))
+        return notSaved("cannot make", file.absolutePath());
     if (m_hasUnreadableFile) {
         const auto kept = DurableFile::setAside(m_filePath, file.fileName() + u".unreadable"_s);
-        if (!kept) {
-            qCDebug(presetsLog) << "not saved: cannot set the old file aside:" << kept.error();
-            return;
-        }
+        if (!kept)
+            return notSaved("cannot set the old file aside:", kept.error());
         qCInfo(presetsLog) << "kept the unreadable presets as" << *kept;
         m_hasUnreadableFile = false;
     }
     if (const auto written = DurableFile::write(m_filePath, *content); !written)
-        qCDebug(presetsLog) << "not saved:" << written.error();
+        notSaved("", written.error());
 }
 
 QList<PresetSlot> PresetStore::reconciledSlotOrder(const QList<FanPreset>& presets,
@@ -241,9 +233,11 @@ QList<PresetSlot> PresetStore::reconciledSlotOrder(const QList<FanPreset>& prese
     for (const FanPreset& preset : presets)
         canonical.append(PresetSlot::preset(preset.id));
 
+    const QSet<PresetSlot> existing(canonical.begin(), canonical.end());
     QList<PresetSlot> order = savedOrder;
-    order.removeIf([&](const PresetSlot& slot) { return !canonical.contains(slot); });
-    canonical.removeIf([&](const PresetSlot& slot) { return order.contains(slot); });
+    order.removeIf([&](const PresetSlot& slot) { return !existing.contains(slot); });
+    const QSet<PresetSlot> kept(order.begin(), order.end());
+    canonical.removeIf([&](const PresetSlot& slot) { return kept.contains(slot); });
     return order + canonical;
 }
 

@@ -18,9 +18,10 @@ class UserDefaults;
 /// main thread; every change is on disk when the call returns.
 ///
 /// User presets are kept in "presets.json", the active one and the order in the user defaults.
-/// Failures to read or write are silent to the user and logged at debug level. A file that cannot
-/// be decoded gives no user presets and is left alone; before the first save would replace it, it
-/// is moved aside to "presets.json.unreadable", so that no curve is ever lost.
+/// Failures to read or write are silent to the user and logged, a change that is not kept as a
+/// warning. A file that cannot be decoded, or is larger than largestPresetsFile, gives no user
+/// presets and is left alone; before the first save would replace it, it is moved aside to
+/// "presets.json.unreadable", so that no curve is ever lost.
 class PresetStore final : public QObject {
     Q_OBJECT
 

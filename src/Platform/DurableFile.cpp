@@ -47,6 +47,22 @@ void syncFolderOf(const QString& path) {
 
 } // namespace
 
+std::expected<QByteArray, QString> DurableFile::read(const QString& path, qsizetype largest) {
+    // Before it is opened: a pipe waits there for somebody to write.
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile())
+        return std::unexpected(systemReason(EOPNOTSUPP));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::unexpected(file.errorString());
+    QByteArray content = file.read(largest + 1);
+    if (file.error() != QFile::NoError)
+        return std::unexpected(file.errorString());
+    if (content.size() > largest)
+        return std::unexpected(systemReason(EFBIG));
+    return content;
+}
+
 std::expected<void, QString> DurableFile::write(const QString& path, const QByteArray& content) {
     QSaveFile file(path);
     // Unbuffered, because a failure to flush the buffer on commit goes unnoticed by QSaveFile, and

@@ -101,6 +101,9 @@ TEST(PresetFile, TakesWhatItGaveAndNothingThatNoEditorMakes) {
              Row{encoded({curveless}), "presets.import.noCurve"},
              Row{encoded({manyCurves}), "presets.import.tooMuch"},
              Row{encoded({madeBy(u"x"_s, manyPoints)}), "presets.import.tooMuch"},
+             Row{encoded({madeBy(QString(100'000, u'x'), {{50, 50}})}), "presets.import.tooMuch"},
+             Row{encoded({madeBy(u"x"_s, {})}), "presets.import.noPoint"},
+             Row{*content + '\0', "presets.import.notAPreset"},
              Row{encoded({madeBy(u"x"_s, {{19.9, 0}})}), "presets.import.pointOutOfRange"},
              Row{encoded({madeBy(u"x"_s, {{110.1, 0}})}), "presets.import.pointOutOfRange"},
              Row{encoded({madeBy(u"x"_s, {{50, -1}})}), "presets.import.pointOutOfRange"},
@@ -119,7 +122,7 @@ TEST(PresetFile, ReadsNothingButAFileOfASaneSize) {
     const QByteArray content = encoded({madeBy(u"Night"_s, {{50, 50}})});
     home.write(name, content);
     EXPECT_TRUE(PresetFile::read(home.path(name)));
-    home.write(name, content + QByteArray(PresetFile::largestSize, ' '));
+    home.write(name, content + QByteArray(largestPresetsFile, ' '));
     EXPECT_FALSE(PresetFile::read(home.path(name)));
     EXPECT_FALSE(PresetFile::read(home.path()));
     EXPECT_FALSE(PresetFile::read(u"/dev/zero"_s));

@@ -5,6 +5,7 @@
 #include "Support/TestDefaults.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <gmock/gmock.h>
@@ -116,7 +117,8 @@ TEST_F(PresetStoreTest, IgnoresNonsenseInTheDefaultsAndBuiltInsInTheFile) {
 }
 
 TEST_F(PresetStoreTest, SetsAsideWhateverItCannotRead) {
-    for (const QByteArray& bad : {QByteArray("bad"), QByteArray("worse")}) {
+    for (const QByteArray& bad : {QByteArray("bad"), QByteArray("worse"), QByteArray("[]\0[", 4),
+                                  QByteArray("[]").leftJustified(largestPresetsFile + 1)}) {
         home.write(file, bad);
         ASSERT_TRUE(makeStore()->addPreset(u"New"_s));
         EXPECT_EQ(makeStore()->presets().size(), 3);
@@ -128,12 +130,32 @@ TEST_F(PresetStoreTest, SetsAsideWhateverItCannotRead) {
     QDir().mkpath(home.path(file));
     ASSERT_TRUE(makeStore()->addPreset(u"New"_s));
     EXPECT_EQ(makeStore()->presets().size(), 3);
-    EXPECT_TRUE(QDir(home.path(file) + u".unreadable-3"_s).exists());
+    EXPECT_TRUE(QDir(home.path(file) + u".unreadable-5"_s).exists());
 
     QFile::remove(home.path(file));
     ASSERT_EQ(::mkfifo(QFile::encodeName(home.path(file)).constData(), 0600), 0);
     ASSERT_TRUE(makeStore()->addPreset(u"New"_s)) << "it waits for nobody to fill a pipe";
     EXPECT_EQ(makeStore()->presets().size(), 3);
+}
+
+TEST_F(PresetStoreTest, StartsAtOnceWhateverAmountItFinds) {
+    QByteArray presets;
+    QStringList order;
+    for (int number = 0; number < 5'000; ++number) {
+        const QString id = uuidText(QUuid::createUuid());
+        order += QStringList(20, id);
+        presets += R"(,{"curves":[],"id":")" + id.toLatin1() +
+                   R"(","isBuiltIn":false,"name":"","symbolName":""})";
+    }
+    defaults->setStringArray(u"presetSlotOrder"_s, order);
+    for (const QByteArray& content : {presets.replace(0, 1, "[") + ']',
+                                      QByteArray(",{}").repeated(300'000).replace(0, 1, "[")}) {
+        home.write(file, content);
+        QElapsedTimer start;
+        start.start();
+        makeStore();
+        EXPECT_LT(start.elapsed(), 1000) << content.left(100).toStdString();
+    }
 }
 
 TEST_F(PresetStoreTest, KeepsTheOldFileWhenTheNewOneCannotBeWritten) {
@@ -151,6 +173,8 @@ TEST_F(PresetStoreTest, KeepsTheOldFileWhenTheNewOneCannotBeWritten) {
     EXPECT_EQ(store->presets().size(), 4) << "kept in memory";
     EXPECT_EQ(home.content(file), good);
     EXPECT_EQ(QDir(home.path(u"app"_s)).entryList(QDir::Files).size(), 1) << "leftovers";
+    makeStore()->addPreset(QString(largestPresetsFile, u'x'));
+    EXPECT_EQ(home.content(file), good) << "which the next start could read";
 }
 
 } // namespace

@@ -7,6 +7,7 @@ DialogPanel {
 
     required property string text
     required property string fieldLabel
+    required property int longestText
 
     signal edited(string text)
 
@@ -22,6 +23,7 @@ DialogPanel {
         width: parent.width
         label: root.fieldLabel
         placeholderText: root.fieldLabel
+        maximumLength: root.longestText
         focus: true
         onTextEdited: root.edited(text)
     }

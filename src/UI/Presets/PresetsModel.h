@@ -33,6 +33,7 @@ class PresetsModel final : public QObject {
     Q_PROPERTY(bool isRenaming READ isRenaming NOTIFY renamingChanged FINAL)
     Q_PROPERTY(QString renameDraftName READ renameDraftName WRITE setRenameDraftName NOTIFY
                    renameDraftNameChanged FINAL)
+    Q_PROPERTY(int longestName READ longestName CONSTANT FINAL)
     Q_PROPERTY(bool isDeleting READ isDeleting NOTIFY deletingChanged FINAL)
     Q_PROPERTY(QString deletionTitle READ deletionTitle NOTIFY deletionTitleChanged FINAL)
     QML_ELEMENT
@@ -73,6 +74,7 @@ public:
     [[nodiscard]] bool isRenaming() const { return m_presetBeingRenamed.has_value(); }
     [[nodiscard]] const QString& renameDraftName() const { return m_renameDraftName; }
     void setRenameDraftName(const QString& name);
+    [[nodiscard]] static int longestName() { return FanPreset::longestName; }
     /// Takes the draft, without white space and line breaks at its ends, as the name unless nothing
     /// is left of it, and closes the dialog.
     Q_INVOKABLE void commitRename();

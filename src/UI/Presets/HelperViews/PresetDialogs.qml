@@ -15,6 +15,7 @@ Item {
         confirmText: qsTrId("presets.rename.confirm")
         cancelText: qsTrId("presets.dialog.cancel")
         text: root.model.renameDraftName
+        longestText: root.model.longestName
         onEdited: text => root.model.renameDraftName = text
         onConfirmed: root.model.commitRename()
         onDismissed: root.model.cancelRename()
