@@ -49,7 +49,11 @@ TEST(HelperStatus, OneMemberThatIsMissingOrWrongFailsTheWhole) {
     }
     for (const std::string_view document : {"", "[]", "{"})
         EXPECT_EQ(decodeHelperStatus(document), std::nullopt) << document;
-    EXPECT_EQ(decodeHelperStatus(documentWith("phase", R"("idle")") + "}"), std::nullopt);
+    const std::string whole = documentWith("phase", R"("idle")");
+    EXPECT_EQ(decodeHelperStatus(whole + "}"), std::nullopt);
+    EXPECT_EQ(decodeHelperStatus(whole + '\0' + "}"), std::nullopt);
+    EXPECT_TRUE(decodeHelperStatus(whole + std::string(largestHelperStatus - whole.size(), ' ')));
+    EXPECT_FALSE(decodeHelperStatus(whole + std::string(largestHelperStatus, ' ')));
 }
 
 TEST(HelperStatus, ComesBackFromItsDocumentUnchanged) {

@@ -47,6 +47,9 @@ std::string encodeHelperStatus(const HelperStatus& status) {
 }
 
 std::optional<HelperStatus> decodeHelperStatus(std::string_view document) {
+    // The parser would take a null byte for the end.
+    if (document.size() > largestHelperStatus || document.contains('\0'))
+        return std::nullopt;
     try {
         const Json json = Json::parse(document);
         const auto phase = helperControlPhase(json.at("phase").get_ref<const std::string&>());

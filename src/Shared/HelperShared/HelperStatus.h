@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,8 +36,11 @@ struct HelperStatus {
 /// The status document: a UTF-8 JSON object with the field names as keys.
 [[nodiscard]] std::string encodeHelperStatus(const HelperStatus& status);
 
-/// Absent for anything but a complete document: a missing key, a wrong type, a number that is not
-/// finite and an unknown phase all fail the whole; unknown keys are ignored.
+/// A hundred fans and a long error fit in it many times; more is not even parsed.
+inline constexpr std::size_t largestHelperStatus = 32 * 1024; ///< bytes
+
+/// Absent for anything but a complete document of no more than that: a missing key, a wrong type, a
+/// number that is not finite and an unknown phase all fail the whole; unknown keys are ignored.
 [[nodiscard]] std::optional<HelperStatus> decodeHelperStatus(std::string_view document);
 
 } // namespace kestrowind
