@@ -22,6 +22,11 @@ using namespace Qt::StringLiterals;
 const QString activePresetKey = u"activePresetID"_s;
 const QString slotOrderKey = u"presetSlotOrder"_s;
 
+// Of what somebody else wrote. Every preset and every slot is a pill, a card and a line of a menu:
+// thousands of them would hold up the readings, and with them the fans, for minutes.
+constexpr qsizetype mostReadPresets = 100;
+constexpr qsizetype mostReadSlots = 2 * mostReadPresets;
+
 } // namespace
 
 PresetStore::PresetStore(int fanCount, UserDefaults& userDefaults, const Storage& storage)
@@ -52,6 +57,8 @@ QList<FanPreset> PresetStore::loadUserPresets() {
     auto presets = decodePresets(*content);
     if (!presets)
         return unreadable(presets.error());
+    if (presets->size() > mostReadPresets)
+        return unreadable(u"%1 presets"_s.arg(presets->size()));
     presets->removeIf([](const FanPreset& preset) { return preset.isBuiltIn; });
     return *presets;
 }
@@ -60,7 +67,10 @@ QList<PresetSlot> PresetStore::savedSlotOrder() const {
     QList<PresetSlot> order;
     if (!m_persistsSlotOrder)
         return order;
-    for (const QString& id : m_userDefaults.stringArray(slotOrderKey).value_or(QStringList())) {
+    QStringList ids = m_userDefaults.stringArray(slotOrderKey).value_or(QStringList());
+    if (ids.size() > mostReadSlots)
+        ids.resize(mostReadSlots);
+    for (const QString& id : std::as_const(ids)) {
         if (const auto slot = PresetSlot::fromId(id))
             order.append(*slot);
     }

@@ -19,7 +19,7 @@ class UserDefaults;
 ///
 /// User presets are kept in "presets.json", the active one and the order in the user defaults.
 /// Failures to read or write are silent to the user and logged, a change that is not kept as a
-/// warning. A file that cannot be decoded, or is larger than largestPresetsFile, gives no user
+/// warning. A file that cannot be decoded, or has more than a hundred presets, gives no user
 /// presets and is left alone; before the first save would replace it, it is moved aside to
 /// "presets.json.unreadable", so that no curve is ever lost.
 class PresetStore final : public QObject {

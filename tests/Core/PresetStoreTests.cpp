@@ -139,22 +139,24 @@ TEST_F(PresetStoreTest, SetsAsideWhateverItCannotRead) {
 }
 
 TEST_F(PresetStoreTest, StartsAtOnceWhateverAmountItFinds) {
-    QByteArray presets;
-    QStringList order;
-    for (int number = 0; number < 5'000; ++number) {
-        const QString id = uuidText(QUuid::createUuid());
-        order += QStringList(20, id);
-        presets += R"(,{"curves":[],"id":")" + id.toLatin1() +
-                   R"(","isBuiltIn":false,"name":"","symbolName":""})";
-    }
-    defaults->setStringArray(u"presetSlotOrder"_s, order);
-    for (const QByteArray& content : {presets.replace(0, 1, "[") + ']',
-                                      QByteArray(",{}").repeated(300'000).replace(0, 1, "[")}) {
+    const auto presets = [](int count) {
+        return *encodePresets(QList<FanPreset>(count, {.id = QUuid::createUuid()}));
+    };
+    struct Row {
+        QByteArray content;
+        qsizetype taken;
+    };
+    defaults->setStringArray(u"presetSlotOrder"_s, QStringList(100'000, u"automatic"_s));
+    for (const auto& [content, taken] :
+         {Row{presets(100), 100}, Row{presets(101), 0},
+          Row{QByteArray(",{}").repeated(300'000).replace(0, 1, "["), 0}}) {
         home.write(file, content);
         QElapsedTimer start;
         start.start();
-        makeStore();
-        EXPECT_LT(start.elapsed(), 1000) << content.left(100).toStdString();
+        const auto store = makeStore();
+        EXPECT_LT(start.elapsed(), 1000);
+        EXPECT_EQ(store->presets().size(), 2 + taken);
+        EXPECT_LT(store->slotOrder().size(), 400);
     }
 }
 
