@@ -9,12 +9,15 @@ namespace kestrowind {
 
 /// Asks the user which file to write or read. Belongs to the main thread.
 ///
-/// A dialog belongs to the window that has the keyboard. It goes when its owner goes, and nothing
-/// is called when it is cancelled. While one is open, asking again does nothing.
+/// A dialog begins where the last one worked, as long as that folder can be listed at once, so that
+/// none hangs with a drive that is gone. It belongs to the window that has the keyboard. It goes
+/// when its owner goes, and nothing is called when it is cancelled. While one is open, asking again
+/// does nothing.
 class FileDialogs {
 public:
-    /// The file that the user chose, with its full path.
-    using Chosen = std::function<void(const QString& path)>;
+    /// Takes the file that the user chose, with its full path. False when nothing came of it: the
+    /// next dialog then does not begin there.
+    using Chosen = std::function<bool(const QString& path)>;
 
     struct Kind {
         QString name;   ///< for people: "CSV table"

@@ -27,11 +27,10 @@ public:
         ask(Purpose::open, owner, newKind, std::move(chosen));
     }
 
-    /// Does nothing once the owner is gone.
-    void answer(const QString& path) {
+    /// Whether it worked; nothing happens once the owner is gone.
+    bool answer(const QString& path) {
         asked = Purpose::none;
-        if (m_owner)
-            std::exchange(m_chosen, {})(path);
+        return m_owner && std::exchange(m_chosen, {})(path);
     }
 
 private:

@@ -22,13 +22,14 @@ void HistoryExport::save() {
         *this, localized("dashboard.history.save.title"),
         {.name = localized("dashboard.history.save.fileKind"), .suffix = u"csv"_s},
         localized("dashboard.history.save.fileName").arg(now),
-        [this](const QString& path) { write(path); });
+        [this](const QString& path) { return write(path); });
 }
 
-void HistoryExport::write(const QString& path) {
+bool HistoryExport::write(const QString& path) {
     const auto written = DurableFile::write(path, historyTable(m_telemetry.history()));
     if (!written)
         m_failure.show(localized("dashboard.history.save.failed"), written.error());
+    return written.has_value();
 }
 
 } // namespace kestrowind

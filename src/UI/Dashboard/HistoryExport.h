@@ -28,7 +28,8 @@ public:
     [[nodiscard]] FailureNotice* failure() { return &m_failure; }
 
 private:
-    void write(const QString& path);
+    /// False when it failed, which was told.
+    bool write(const QString& path);
 
     const TelemetryStore& m_telemetry;
     FileDialogs& m_fileDialogs;

@@ -24,7 +24,7 @@ private:
     void open(QObject& owner, Chosen chosen);
 
     QPointer<QFileDialog> m_dialog;
-    QString m_folder; ///< of the last file that was chosen; empty before
+    QString m_folder; ///< of the last file that was written or read; empty before
 };
 
 } // namespace kestrowind

@@ -36,29 +36,32 @@ void PresetExchange::exportPreset(const QString& slotID) {
     m_fileDialogs.askForSave(*this, localized("presets.export.title"), presetFiles(), preset->name,
                              [this, before = *preset](const QString& path) {
                                  // It may have gone meanwhile: then as it was.
-                                 write(path, m_presets.preset(before.id).value_or(before));
+                                 return write(path, m_presets.preset(before.id).value_or(before));
                              });
 }
 
 void PresetExchange::importPreset() {
     m_fileDialogs.askForOpen(*this, localized("presets.import.title"), presetFiles(),
-                             [this](const QString& path) { read(path); });
+                             [this](const QString& path) { return read(path); });
 }
 
-void PresetExchange::write(const QString& path, const FanPreset& preset) {
+bool PresetExchange::write(const QString& path, const FanPreset& preset) {
     const auto fail = [&](const QString& reason) {
         m_failure.show(titleOf("presets.export.failed", path), reason);
+        return false;
     };
     const auto content = PresetFile::encode(preset);
     if (!content)
         return fail(content.error());
     if (const auto written = DurableFile::write(path, *content); !written)
-        fail(written.error());
+        return fail(written.error());
+    return true;
 }
 
-void PresetExchange::read(const QString& path) {
+bool PresetExchange::read(const QString& path) {
     const auto fail = [&](const QString& reason) {
         m_failure.show(titleOf("presets.import.failed", path), reason);
+        return false;
     };
     const auto preset = PresetFile::read(path);
     if (!preset)
@@ -67,6 +70,7 @@ void PresetExchange::read(const QString& path) {
     if (!added)
         return fail(localized("presets.limitReachedHelp").arg(PresetStore::maximumUserPresets));
     Q_EMIT imported(*added);
+    return true;
 }
 
 } // namespace kestrowind

@@ -36,8 +36,9 @@ Q_SIGNALS:
     void imported(const kestrowind::FanPreset& preset);
 
 private:
-    void write(const QString& path, const FanPreset& preset);
-    void read(const QString& path);
+    /// False when it failed, which was told.
+    bool write(const QString& path, const FanPreset& preset);
+    bool read(const QString& path);
 
     PresetStore& m_presets;
     FileDialogs& m_fileDialogs;

@@ -113,14 +113,14 @@ TEST_F(DashboardViewTest, SavesTheHistoryOrSaysWhyNot) {
     EXPECT_EQ(state.fileDialogs.asked, FakeFileDialogs::Purpose::save);
     EXPECT_EQ(state.fileDialogs.kind.suffix, u"csv"_s);
     QFile file(state.home.path(u"history.csv"_s));
-    state.fileDialogs.answer(file.fileName());
+    EXPECT_TRUE(state.fileDialogs.answer(file.fileName()));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), historyTable(state.telemetry().history()));
     FailureNotice& failure = *model.historyExport()->failure();
     EXPECT_FALSE(failure.isShown());
 
     model.historyExport()->save();
-    state.fileDialogs.answer(state.home.path(u"no such folder/history.csv"_s));
+    EXPECT_FALSE(state.fileDialogs.answer(state.home.path(u"no such folder/history.csv"_s)));
     EXPECT_TRUE(failure.isShown());
     EXPECT_FALSE(failure.message().isEmpty());
     view.press(Qt::Key_Escape);

@@ -49,7 +49,10 @@ protected:
     /// Until there is a dialog: the one before is deleted by the event loop.
     void ask(bool forSave) {
         const FileDialogs::Kind kind{u"Table"_s, u"csv"_s};
-        const auto take = [this](const QString& path) { chosen.append(path); };
+        const auto take = [this](const QString& path) {
+            chosen.append(path);
+            return !path.contains(u"bad"_s);
+        };
         ASSERT_TRUE(QTest::qWaitFor([&] {
             if (forSave)
                 dialogs.askForSave(*owner, u"Save"_s, kind, u"a/b"_s, take);
@@ -89,10 +92,20 @@ TEST_F(WidgetFileDialogsTest, TellsWhatWasChosenAndNothingWhenCancelled) {
     EXPECT_EQ(chosen.back(), there.fileName());
     ASSERT_TRUE(isClosed());
 
+    const QTemporaryDir other;
     ask(true);
+    choose(other.filePath(u"bad"_s));
+    ASSERT_TRUE(isClosed());
+
+    ask(true);
+    EXPECT_EQ(dialog()->directory().absolutePath(), folder.path()) << "nothing came of the other";
     dialog()->reject();
     ASSERT_TRUE(isClosed());
-    EXPECT_EQ(chosen.size(), 2);
+    EXPECT_EQ(chosen.size(), 3);
+
+    folder.remove();
+    ask(true);
+    EXPECT_TRUE(dialog()->directory().exists());
 }
 
 TEST_F(WidgetFileDialogsTest, GoesWithItsOwner) {

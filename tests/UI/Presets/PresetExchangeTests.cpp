@@ -25,7 +25,8 @@ protected:
     /// Answers the dialog, and what the failure then says; nothing when there is none.
     QString failureAfter(const QString& path) {
         exchange.failure()->dismiss();
-        state.fileDialogs.answer(path);
+        const bool worked = state.fileDialogs.answer(path);
+        EXPECT_NE(worked, exchange.failure()->isShown());
         return exchange.failure()->isShown() ? exchange.failure()->message() : QString();
     }
 
