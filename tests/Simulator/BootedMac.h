@@ -9,6 +9,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusReply>
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -55,7 +56,7 @@ inline Outcome runSimulator(const QStringList& arguments) {
     return runProgram(QStringLiteral(KESTROWIND_SIMULATOR), arguments);
 }
 
-/// A simulated Mac as a process, in a folder of its own.
+/// A simulated Mac as a process, in a folder of its own, whose name is as awkward as one can be.
 class BootedMac {
 public:
     explicit BootedMac(const QStringList& options) {
@@ -84,7 +85,7 @@ public:
     }
 
 private:
-    QTemporaryDir m_folder;
+    QTemporaryDir m_folder{QDir::tempPath() + QStringLiteral("/ä b'%41#,;=XXXXXX")};
     QProcess m_process;
     bool m_isUp = false;
 };
@@ -95,10 +96,8 @@ public:
     HelperCaller(const BootedMac& mac, const QString& name)
         : m_name(name)
         , m_connection(QDBusConnection::connectToPeer(
-              QStringLiteral("unix:path=") +
-                  QString::fromStdString(
-                      SimulatedMac::serviceSocket(mac.root(), HelperConstants::machServiceName)
-                          .string()),
+              QString::fromStdString(HelperWire::busAddress(
+                  SimulatedMac::serviceSocket(mac.root(), HelperConstants::machServiceName))),
               name)) {}
     ~HelperCaller() { hangUp(); }
     HelperCaller(const HelperCaller&) = delete;

@@ -116,7 +116,7 @@ TEST_F(HostilePeerTest, WhoHangsTakesNobodysPlace) {
 TEST_F(HostilePeerTest, WhoFloodsIsHungUpOn) {
     {
         auto peer = QDBusConnection::connectToPeer(
-            u"unix:path="_s + QString::fromStdString(socket.string()), u"flood"_s);
+            QString::fromStdString(HelperWire::busAddress(socket)), u"flood"_s);
         auto message = QDBusMessage::createMethodCall(
             QString(), QLatin1StringView(HelperWire::objectPath),
             QLatin1StringView(HelperWire::interfaceName), u"ReleaseControl"_s);

@@ -6,7 +6,6 @@
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
-#include <QFile>
 
 #include <chrono>
 
@@ -51,9 +50,9 @@ bool HelperBus::connectToService() {
         return false;
     static int connections = 0;
     const QString name = u"kestrowind-helper-%1"_s.arg(++connections);
-    const auto socket = SimulatedMac::serviceSocket(*root, m_machServiceName.toStdString());
-    const auto peer =
-        QDBusConnection::connectToPeer(u"unix:path="_s + QFile::decodeName(socket.c_str()), name);
+    const auto address =
+        HelperWire::busAddress(SimulatedMac::serviceSocket(*root, m_machServiceName.toStdString()));
+    const auto peer = QDBusConnection::connectToPeer(QString::fromStdString(address), name);
     m_peerName = name;
     if (peer.isConnected())
         return true;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <filesystem>
+#include <string>
+
 /// The helper protocol as it travels inside a simulated Mac: D-Bus, peer to peer, over the socket
 /// that launchd holds for the Mach service.
 ///
@@ -16,5 +19,8 @@ namespace kestrowind::HelperWire {
 
 inline constexpr char objectPath[] = "/";
 inline constexpr char interfaceName[] = "app.kestrowind.Helper";
+
+/// The D-Bus address of a service's socket: what the path may not hold in one is escaped.
+[[nodiscard]] std::string busAddress(const std::filesystem::path& socket);
 
 } // namespace kestrowind::HelperWire
