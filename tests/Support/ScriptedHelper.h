@@ -49,8 +49,8 @@ public:
     int connectionsMade = 0;
     qsizetype mostWaiting = 0; ///< sets of targets that somebody waited for at the same time
 
-    /// The process is killed and started again: it hands the fans back first, and everybody who was
-    /// connected is hung up on at the next call.
+    /// The process is killed and started again: it hands the fans back first, and calls that wait
+    /// fail.
     void restart() {
         isHolding = false;
         ++m_generation;
@@ -64,8 +64,7 @@ private:
     class Connection final : public HelperConnection {
     public:
         explicit Connection(ScriptedHelper& helper)
-            : m_helper(helper)
-            , m_generation(helper.m_generation) {
+            : m_helper(helper) {
             ++helper.connectionsMade;
         }
 
@@ -111,16 +110,18 @@ private:
         template <class Act>
         void answer(Method method, ErrorHandler error, Act act) {
             const Answer how = m_helper.answers.value(method, Answer::good);
-            const bool isHungUp =
-                std::exchange(m_generation, m_helper.m_generation) != m_helper.m_generation;
+            const auto fail = [error] { error(QStringLiteral("the test cut the connection")); };
             m_isInvalid = m_isInvalid || how == Answer::invalidated;
-            if (isHungUp || m_isInvalid || how == Answer::broken) {
-                later({}, [error] { error(QStringLiteral("the test cut the connection")); });
+            if (m_isInvalid || how == Answer::broken) {
+                later({}, fail);
                 if (m_isInvalid)
                     later({}, m_invalidated);
                 return;
             }
-            std::function<void()> reply = act(how);
+            std::function<void()> reply = [this, reply = std::function<void()>(act(how)), fail,
+                                           generation = m_helper.m_generation] {
+                generation == m_helper.m_generation ? reply() : fail();
+            };
             if (how == Answer::late)
                 later(2 * m_helper.m_patience, std::move(reply));
             else if (how != Answer::silent)
@@ -159,7 +160,6 @@ private:
         }
 
         ScriptedHelper& m_helper;
-        int m_generation;
         bool m_isInvalid = false;
         std::function<void()> m_invalidated;
         QObject m_context;

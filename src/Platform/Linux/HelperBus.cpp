@@ -79,11 +79,8 @@ void HelperBus::invalidate() {
 
 void HelperBus::call(const QString& method, const QVariantList& arguments,
                      const QString& replySignature, Deliver deliver, ErrorHandler error) {
-    if (isInterrupted()) {
+    if (isInterrupted())
         disconnectFromService();
-        fail(error, u"the connection to %1 was interrupted"_s.arg(m_machServiceName));
-        return;
-    }
     if (!connectToService()) {
         fail(error, u"no connection to the service named %1"_s.arg(m_machServiceName));
         QMetaObject::invokeMethod(this, &HelperBus::invalidate, Qt::QueuedConnection);
@@ -98,12 +95,9 @@ void HelperBus::call(const QString& method, const QVariantList& arguments,
         peer.asyncCall(message, static_cast<int>(callLifetime.count())), this);
     connect(
         watcher, &QDBusPendingCallWatcher::finished, this,
-        [this, watcher, peerName = m_peerName, replySignature, deliver, error] {
+        [watcher, peerName = m_peerName, replySignature, deliver, error] {
             watcher->deleteLater();
             const QDBusMessage reply = watcher->reply();
-            // A call that waited has met the helper's end: the next one may connect again.
-            if (watcher->isError() && peerName == m_peerName && isInterrupted())
-                disconnectFromService();
             if (!watcher->isError() && reply.signature() == replySignature)
                 deliver(reply);
             else if (!watcher->isError())

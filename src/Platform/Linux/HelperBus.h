@@ -11,9 +11,9 @@ namespace kestrowind {
 /// The helper connection inside a simulated Mac: D-Bus, peer to peer, over the socket that launchd
 /// holds for the service. Handlers are called on the thread that made the object.
 ///
-/// A helper that dies interrupts the connection: waiting calls, or else the next one, get their
-/// error handler; the call after that connects again, upon which launchd starts a new helper. Only
-/// a service that does not exist invalidates it.
+/// A helper that dies interrupts the connection: calls that wait get their error handler, and the
+/// next call connects again, upon which launchd starts a new helper. Only a service that does not
+/// exist invalidates it.
 class HelperBus final : public QObject, public HelperConnection {
     Q_OBJECT
 

@@ -30,12 +30,22 @@ public:
     Helper() { qputenv(SimulatedMac::rootVariable, m_mac.root().c_str()); }
     ~Helper() { qunsetenv(SimulatedMac::rootVariable); }
 
-    /// Whether a test may drive the fans, and shut down and uninstall the helper.
+    /// Whether a test may drive the fans, and freeze, kill and uninstall the helper.
     static constexpr bool isExpendable = true;
 
     [[nodiscard]] bool isInstalled() const { return m_mac.isUp(); }
     std::unique_ptr<HelperConnection> connection(const QString& machServiceName) {
         return std::make_unique<HelperBus>(machServiceName);
+    }
+    void freeze() const { m_mac.control({QStringLiteral("helper"), QStringLiteral("stop")}); }
+    /// Returns when launchd has a new one.
+    void kill() const {
+        const auto pid = m_mac.status()["helper"]["pid"];
+        m_mac.control({QStringLiteral("helper"), QStringLiteral("kill")});
+        waitUntil([&] {
+            const auto now = m_mac.status()["helper"]["pid"];
+            return !now.is_null() && now != pid;
+        });
     }
 
 private:

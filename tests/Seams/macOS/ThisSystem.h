@@ -32,6 +32,8 @@ public:
     std::unique_ptr<HelperConnection> connection(const QString& machServiceName) {
         return std::make_unique<XPCHelperConnection>(machServiceName);
     }
+    static void freeze() {}
+    static void kill() {}
 };
 
 /// Preferences of a domain of the tests' own.
