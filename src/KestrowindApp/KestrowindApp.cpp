@@ -33,8 +33,12 @@ int KestrowindApp::run() {
     m_platform.application->setDelegate(m_delegate);
     // Only from here on is there a loop that hears of them; a dump simply ends.
     m_terminationSignals.emplace();
-    connect(&*m_terminationSignals, &TerminationSignals::terminationRequested, this,
-            &KestrowindApp::terminate);
+    m_terminationNotifier = std::make_unique<QSocketNotifier>(m_terminationSignals->descriptor(),
+                                                              QSocketNotifier::Read);
+    connect(m_terminationNotifier.get(), &QSocketNotifier::activated, this, [this] {
+        if (m_terminationSignals->take())
+            terminate();
+    });
     m_scenes = std::make_unique<Scenes>(m_appState, m_platform);
     connect(m_scenes.get(), &Scenes::quitRequested, this, &KestrowindApp::terminate);
     m_scenes->present();

@@ -6,9 +6,10 @@
 #include "KestrowindApp/ReadingsPrinter.h"
 #include "KestrowindApp/Scenes.h"
 #include "Platform/Platform.h"
-#include "Platform/TerminationSignals.h"
+#include "Shared/Process/TerminationSignals.h"
 
 #include <QObject>
+#include <QSocketNotifier>
 
 #include <memory>
 #include <optional>
@@ -40,6 +41,7 @@ private:
     AppState m_appState;
     AppDelegate m_delegate;
     std::optional<TerminationSignals> m_terminationSignals;
+    std::unique_ptr<QSocketNotifier> m_terminationNotifier;
     std::unique_ptr<ReadingsPrinter> m_readingsPrinter;
     std::unique_ptr<Scenes> m_scenes; ///< made when the application runs
 };

@@ -1,10 +1,11 @@
+#include "Shared/Process/TerminationSignals.h"
 #include "Simulator/Helper/ActivatedServer.h"
 #include "Simulator/Helper/HelperService.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
-#include "Simulator/Services/TerminationSignals.h"
 
 #include <QCoreApplication>
+#include <QSocketNotifier>
 #include <QTextStream>
 
 int main(int argc, char** argv) {
@@ -29,8 +30,7 @@ int main(int argc, char** argv) {
     }
     QObject::connect(&service, &kestrowind::HelperService::finished, &application,
                      &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(&signalsToEnd, &kestrowind::TerminationSignals::received, &application,
-                     &QCoreApplication::quit);
-    signalsToEnd.watch();
+    const QSocketNotifier ending(signalsToEnd.descriptor(), QSocketNotifier::Read);
+    QObject::connect(&ending, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
     return QCoreApplication::exec();
 }

@@ -36,21 +36,23 @@ std::filesystem::path sibling(const char* name) {
 
 } // namespace
 
-SimulatorSession::SimulatorSession(TerminationSignals& signalsToEnd)
-    : m_signals(signalsToEnd) {
+SimulatorSession::SimulatorSession() {
     m_patience.setSingleShot(true);
     QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] {
         if (m_command)
             m_command->sendSignal(SIGKILL);
     });
-    QObject::connect(&m_signals, &TerminationSignals::received, &m_patience,
-                     [this](int number, bool sentToGroup) { passOn(number, sentToGroup); });
 }
 
 std::expected<void, SimulatorSession::Failure> SimulatorSession::start(SimulatorOptions options) {
     if (auto booted = boot(options); !booted)
         return std::unexpected(Failure{bootFailed, std::move(booted.error())});
-    m_signals.watch();
+    m_signalNotifier =
+        std::make_unique<QSocketNotifier>(m_signals.descriptor(), QSocketNotifier::Read);
+    QObject::connect(m_signalNotifier.get(), &QSocketNotifier::activated, &m_patience, [this] {
+        while (const auto signal = m_signals.take())
+            passOn(*signal);
+    });
     if (options.command.empty())
         return {};
     if (auto running = runCommand(options.command); !running)
@@ -111,13 +113,14 @@ SimulatorSession::runCommand(const std::vector<std::string>& command) {
     return {};
 }
 
-void SimulatorSession::passOn(int signalNumber, bool sentToGroup) {
+void SimulatorSession::passOn(TerminationSignals::Signal signal) {
     if (!m_command || !m_command->isRunning()) {
         shutDown(0);
         return;
     }
-    if (!sentToGroup)
-        m_command->sendSignal(signalNumber);
+    // What the kernel sent came from the terminal, and to the command as well.
+    if (signal.code != SI_KERNEL)
+        m_command->sendSignal(signal.number);
     if (!m_patience.isActive())
         m_patience.start(commandPatience);
 }

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "Shared/Process/TerminationSignals.h"
 #include "Simulator/Program/SimulatorOptions.h"
 #include "Simulator/Services/ChildProcess.h"
 #include "Simulator/Services/ControlService.h"
 #include "Simulator/Services/Machine.h"
-#include "Simulator/Services/TerminationSignals.h"
 
+#include <QSocketNotifier>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -25,7 +26,7 @@ public:
         std::string message;
     };
 
-    explicit SimulatorSession(TerminationSignals& signalsToEnd);
+    SimulatorSession();
 
     /// Boots the machine and starts the command. With a value the event loop is to be entered; it
     /// ends with the exit status.
@@ -37,10 +38,11 @@ private:
     [[nodiscard]] std::expected<void, std::string> boot(SimulatorOptions& options);
     [[nodiscard]] std::expected<void, std::string>
     runCommand(const std::vector<std::string>& command);
-    void passOn(int signalNumber, bool sentToGroup);
+    void passOn(TerminationSignals::Signal signal);
     void shutDown(int status);
 
-    TerminationSignals& m_signals;
+    TerminationSignals m_signals;
+    std::unique_ptr<QSocketNotifier> m_signalNotifier;
     std::unique_ptr<QTemporaryDir> m_temporaryRoot;
     std::unique_ptr<Machine> m_machine;
     std::optional<MachineControl> m_control;

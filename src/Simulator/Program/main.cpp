@@ -23,7 +23,6 @@ bool asksForHelp(const QStringList& arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
-    kestrowind::TerminationSignals signalsToEnd;
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (asksForHelp(arguments)) {
@@ -36,7 +35,7 @@ int main(int argc, char** argv) {
     auto options = kestrowind::SimulatorOptions::parse(arguments);
     if (!options)
         return complain(options.error(), 2);
-    kestrowind::SimulatorSession session(signalsToEnd);
+    kestrowind::SimulatorSession session;
     if (const auto started = session.start(std::move(*options)); !started)
         return complain(started.error().message, started.error().status);
     return QCoreApplication::exec();

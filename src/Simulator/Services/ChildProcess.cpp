@@ -71,6 +71,13 @@ void become(const ChildProcess::Command& command, Preparation& preparation, pid_
         else if (::dup2(command.listeningSocket, firstListeningSocket) < 0)
             return;
     }
+    // The parent's handlers are not for what the child is told.
+    for (int number = 1; number < NSIG; ++number) {
+        struct sigaction action {};
+        ::sigaction(number, nullptr, &action);
+        if (action.sa_handler != SIG_IGN)
+            ::signal(number, SIG_DFL);
+    }
     sigset_t none;
     sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
@@ -95,6 +102,10 @@ ChildProcess::start(const Command& command) {
     const int reportEnd = ::fcntl(report[1], F_DUPFD_CLOEXEC, firstListeningSocket + 1);
     ::close(report[1]);
     const pid_t parent = ::getpid();
+    sigset_t all;
+    sigset_t before;
+    sigfillset(&all);
+    ::pthread_sigmask(SIG_SETMASK, &all, &before);
     const pid_t child = ::fork();
     if (child == 0) {
         become(command, preparation, parent);
@@ -103,6 +114,7 @@ ChildProcess::start(const Command& command) {
         ::_exit(127);
     }
     int error = child < 0 ? errno : 0;
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
     ::close(reportEnd);
     if (child > 0 && ::read(report[0], &error, sizeof error) == ssize_t{sizeof error})
         ::waitpid(child, nullptr, 0);
