@@ -5,6 +5,9 @@
 #include <QFile>
 
 #include <csignal>
+#include <fstream>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace kestrowind {
 namespace {
@@ -104,6 +107,20 @@ TEST_F(HeldFan, IsHandedBackByTheHelperThatFollowsAKilledOne) {
     EXPECT_EQ(mac.status().at("helper").at("lastExit"), "exited with status 0");
     HelperCaller third(mac, u"third"_s);
     EXPECT_EQ(third.status().at("phase"), "idle") << "it ended well, and comes back when asked for";
+}
+
+TEST_F(HeldFan, IsLostToAHelperThatIsNoProgramWhoseCallersAreHungUpOn) {
+    const auto program = SimulatedMac::systemPath(mac.root(), HelperConstants::helperInstallPath);
+    std::filesystem::remove(program);
+    std::ofstream(program) << "touch \"$KESTROWIND_SIMULATED_MAC/ran\"\n";
+    std::filesystem::permissions(program, std::filesystem::perms{0755});
+    ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
+    for (const QString& name : {u"first"_s, u"second"_s}) {
+        HelperCaller caller(mac, name);
+        EXPECT_TRUE(waitUntil([&caller] { return !caller.isConnected(); }));
+    }
+    EXPECT_THAT(mac.status().at("helper").at("lastExit"), HasSubstr("Exec format error"));
+    EXPECT_FALSE(std::filesystem::exists(mac.root() / "ran")) << "and no shell runs its text";
 }
 
 TEST_F(HeldFan, IsNotMovedByCallsThatMakeNoSense) {

@@ -1,5 +1,7 @@
 #include "Simulator/Services/ChildProcess.h"
 
+#include <QStandardPaths>
+
 #include <array>
 #include <cerrno>
 #include <charconv>
@@ -25,7 +27,10 @@ constexpr std::string_view processVariable = "LISTEN_PID=";
 
 /// Everything that exec needs, made before the fork: afterwards no memory may be allocated.
 struct Preparation {
-    explicit Preparation(const ChildProcess::Command& command) {
+    explicit Preparation(const ChildProcess::Command& command)
+        : program(command.arguments.front()) {
+        if (!program.contains('/'))
+            program = QStandardPaths::findExecutable(QString::fromStdString(program)).toStdString();
         for (char** variable = environ; *variable != nullptr; ++variable) {
             const std::string_view text = *variable;
             // Sockets handed to the parent are not for its children.
@@ -47,6 +52,7 @@ struct Preparation {
         environmentPointers.push_back(nullptr);
     }
 
+    std::string program; ///< its file; empty when there is none
     std::vector<std::string> environment;
     std::vector<char*> argumentPointers;
     std::vector<char*> environmentPointers;
@@ -81,8 +87,9 @@ void become(const ChildProcess::Command& command, Preparation& preparation, pid_
     sigset_t none;
     sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
-    ::execvpe(preparation.argumentPointers.front(), preparation.argumentPointers.data(),
-              preparation.environmentPointers.data());
+    // No search for the program here: that would hand a file that is none to a shell.
+    ::execve(preparation.program.c_str(), preparation.argumentPointers.data(),
+             preparation.environmentPointers.data());
 }
 
 } // namespace
