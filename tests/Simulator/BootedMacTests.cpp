@@ -109,6 +109,13 @@ TEST_F(HeldFan, IsHandedBackByTheHelperThatFollowsAKilledOne) {
     EXPECT_EQ(third.status().at("phase"), "idle") << "it ended well, and comes back when asked for";
 }
 
+TEST_F(HeldFan, IsHandedBackThoughItsHelperHangs) {
+    ASSERT_EQ(mac.control({u"helper"_s, u"hang"_s}).status, 0);
+    EXPECT_EQ(holder.call(u"Status"_s, {}, 7'000).type(), QDBusMessage::ErrorMessage);
+    EXPECT_TRUE(waitUntil([this] { return smc->readUInt8("F0md") == 0; }));
+    EXPECT_EQ(mac.status().at("helper").at("lastExit"), "killed by signal 14");
+}
+
 TEST_F(HeldFan, IsLostToAHelperThatIsNoProgramWhoseCallersAreHungUpOn) {
     const auto program = SimulatedMac::systemPath(mac.root(), HelperConstants::helperInstallPath);
     std::filesystem::remove(program);

@@ -11,6 +11,7 @@ using Kind = HelperBehaviour::Kind;
 
 NLOHMANN_JSON_SERIALIZE_ENUM(HelperBehaviour::Kind, {{Kind::normal, "normal"},
                                                      {Kind::silent, "silent"},
+                                                     {Kind::hang, "hang"},
                                                      {Kind::late, "late"},
                                                      {Kind::garbage, "garbage"},
                                                      {Kind::fail, "fail"},

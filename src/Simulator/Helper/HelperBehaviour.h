@@ -10,7 +10,8 @@ namespace kestrowind {
 struct HelperBehaviour {
     enum class Kind {
         normal,
-        silent,  ///< neither acts nor replies, like a process that hangs
+        silent,  ///< neither acts nor replies
+        hang,    ///< its loop hangs at the next call
         late,    ///< acts at once, replies after the delay
         garbage, ///< replies with values of wrong types, and a status that is no JSON
         fail,    ///< is in the failed phase, for the reason of the text

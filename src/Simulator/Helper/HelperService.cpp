@@ -13,6 +13,7 @@
 #include <set>
 #include <system_error>
 #include <tuple>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -154,6 +155,8 @@ bool HelperService::handleMessage(const QDBusMessage& message, const QDBusConnec
     const auto behaviour = readHelperBehaviour(SimulatedMac::helperBehaviourFile(m_root));
     if (behaviour.kind == HelperBehaviour::Kind::silent)
         return true;
+    while (behaviour.kind == HelperBehaviour::Kind::hang)
+        ::pause();
     const QDBusMessage answer = act(message, connection, behaviour);
     tick();
     const bool isLast = message.member() == "Uninstall"_L1 || message.member() == "ShutDown"_L1;

@@ -1,5 +1,6 @@
 #include "Shared/Process/TerminationSignals.h"
 #include "Simulator/Helper/ActivatedServer.h"
+#include "Simulator/Helper/HangWatchdog.h"
 #include "Simulator/Helper/HelperService.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
@@ -7,6 +8,7 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 #include <QTextStream>
+#include <QTimer>
 
 int main(int argc, char** argv) {
     kestrowind::TerminationSignals signalsToEnd;
@@ -32,5 +34,10 @@ int main(int argc, char** argv) {
                      &QCoreApplication::quit, Qt::QueuedConnection);
     const QSocketNotifier ending(signalsToEnd.descriptor(), QSocketNotifier::Read);
     QObject::connect(&ending, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
+
+    kestrowind::HangWatchdog watchdog;
+    QTimer signsOfLife;
+    QObject::connect(&signsOfLife, &QTimer::timeout, &application, [&] { watchdog.rearm(); });
+    signsOfLife.start(kestrowind::HangWatchdog::interval);
     return QCoreApplication::exec();
 }

@@ -52,6 +52,8 @@ std::optional<HelperBehaviour> parseBehaviour(const Words& words) {
             return HelperBehaviour{};
         if (words[1] == "silent")
             return HelperBehaviour{.kind = Kind::silent};
+        if (words[1] == "hang")
+            return HelperBehaviour{.kind = Kind::hang};
         if (words[1] == "garbage")
             return HelperBehaviour{.kind = Kind::garbage};
     }
@@ -82,6 +84,7 @@ std::string MachineControl::usage() {
   open-result CODE            what opening the SMC returns; 0 opens it
   helper normal               the helper behaves
   helper silent               it neither acts nor replies
+  helper hang                 its loop hangs at the next call
   helper late MILLISECONDS    it replies late
   helper garbage              it replies with rubbish
   helper fail TEXT            it fails for this reason
