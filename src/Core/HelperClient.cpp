@@ -6,7 +6,6 @@
 #include "Platform/AdminScriptRunner.h"
 #include "Platform/SystemInformation.h"
 #include "Shared/HelperShared/FanTargets.h"
-#include "Shared/HelperShared/HelperConstants.h"
 
 #include <QCoreApplication>
 #include <QCoroFuture>

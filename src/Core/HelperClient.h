@@ -3,6 +3,7 @@
 #include "Core/HelperControlling.h"
 #include "Core/PendingReply.h"
 #include "Platform/HelperConnection.h"
+#include "Shared/HelperShared/HelperConstants.h"
 
 #include <chrono>
 #include <functional>
@@ -23,14 +24,12 @@ class HelperClient final : public HelperControlling {
     Q_OBJECT
 
 public:
-    static constexpr std::chrono::milliseconds defaultCallTimeout = std::chrono::seconds(3);
-
     /// What the client needs of the platform. The references must outlive it.
     struct Environment {
         HelperConnectionFactory makeConnection;
         const SystemInformation& information;
         AdminScriptRunner& scriptRunner;
-        std::chrono::milliseconds callTimeout = defaultCallTimeout;
+        std::chrono::milliseconds callTimeout = HelperConstants::callTimeout;
     };
 
     explicit HelperClient(Environment environment);

@@ -1,5 +1,6 @@
 #include "Simulator/Program/SimulatorSession.h"
 
+#include "Shared/HelperShared/HelperConstants.h"
 #include "Simulator/Link/SimulatedMac.h"
 
 #include <QCoreApplication>
@@ -13,14 +14,16 @@
 namespace kestrowind {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr int bootFailed = 2;
 constexpr int cannotRun = 127;
 
-// How long the command has to end after it was asked to.
-constexpr std::chrono::seconds commandPatience{5};
+// How long the command has to end after it was asked to: quitting, the application may wait in vain
+// for the replies to two calls.
+constexpr std::chrono::seconds commandPatience = 2 * HelperConstants::callTimeout + 2s;
 
 std::expected<std::string, std::string> jobDescription() {
     QFile file(u":/launchd/helper.plist"_s);
