@@ -62,7 +62,7 @@ public:
     explicit BootedMac(const QStringList& options) {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_process.start(QStringLiteral(KESTROWIND_SIMULATOR),
-                        QStringList{QStringLiteral("--root"), m_folder.path()} + options);
+                        QStringList{QStringLiteral("--root"), m_folder.path() + u'/'} + options);
         m_isUp = waitUntil([this] { return control({QStringLiteral("status")}).status == 0; });
     }
     ~BootedMac() {
@@ -77,8 +77,9 @@ public:
     [[nodiscard]] std::filesystem::path root() const { return m_folder.path().toStdString(); }
 
     Outcome control(const QStringList& words) const {
-        return runSimulator(
-            QStringList{QStringLiteral("ctl"), QStringLiteral("--root"), m_folder.path()} + words);
+        return runSimulator(QStringList{QStringLiteral("ctl"), QStringLiteral("--root"),
+                                        QDir().relativeFilePath(m_folder.path())} +
+                            words);
     }
     [[nodiscard]] nlohmann::json status() const {
         return nlohmann::json::parse(control({QStringLiteral("status")}).output);

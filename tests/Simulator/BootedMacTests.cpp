@@ -31,6 +31,19 @@ TEST(BootedMac, SaysWhyItCannotBoot) {
     const BootedMac other({});
     ASSERT_TRUE(other.isUp());
     const auto otherRoot = QString::fromStdString(other.root().string());
+    const QTemporaryDir folders;
+    const auto folder = [&folders](const QString& name, mode_t mode) {
+        const QString path = folders.filePath(name);
+        QDir().mkpath(path);
+        ::chmod(qPrintable(path), mode);
+        return path;
+    };
+    constexpr mode_t open = 0777;
+    QDir().mkpath(folders.filePath(u"planted/run"_s));
+    // Only the superuser has files of others.
+    const bool canGiveAway = ::getuid() == 0;
+    if (canGiveAway)
+        ::lchown(qPrintable(folders.filePath(u"planted/run"_s)), 1, 1);
     struct Case {
         QStringList arguments;
         const char* message;
@@ -40,9 +53,15 @@ TEST(BootedMac, SaysWhyItCannotBoot) {
              Case{{u"--profile"_s, u"nothing"_s}, "profile nothing: neither a file nor one of"},
              Case{{u"--load"_s, u"nan%"_s}, "\"nan%\" is no load"},
              Case{{u"--root"_s, u"/proc/none"_s}, "cannot create /proc/none"},
-             Case{{u"--root"_s, u"/tmp/"_s + QString(120, u'x')}, "too long for a socket"},
-             Case{{u"--root"_s, otherRoot}, "a machine is already running in"},
+             Case{{u"--root"_s, u"/tmp/"_s + QString(90, u'x')}, "too long for a socket"},
+             Case{{u"--root"_s, folders.filePath(u"a:b"_s)}, "a colon, which"},
+             Case{{u"--root"_s, folder(u"open"_s, open)}, "open is writable by other users"},
+             Case{{u"--root"_s, folder(u"open/above"_s, S_IRWXU)}, "open is writable by other"},
+             Case{{u"--root"_s, folders.filePath(u"planted"_s)}, "run belongs to another user"},
+             Case{{u"--root"_s, otherRoot + u"/run/../"_s}, "a machine is already running in"},
          }) {
+        if (std::string_view(message).contains("belongs") && !canGiveAway)
+            continue;
         const Outcome outcome = runSimulator(arguments + QStringList{u"--"_s, u"true"_s});
         EXPECT_EQ(outcome.status, 2) << message;
         EXPECT_THAT(outcome.errors, HasSubstr(message));

@@ -143,7 +143,9 @@ TEST_F(HostilePeerTest, OtherUsersAreTurnedAway) {
         GTEST_SKIP() << "only the superuser can become somebody else";
     EXPECT_EQ(fs::status(socket).permissions(), fs::perms{0600});
     // Even if somebody opened all doors to the socket.
-    ::chmod(mac.root().c_str(), 0755);
+    for (fs::path door = socket.parent_path(); door != mac.root().parent_path();
+         door = door.parent_path())
+        ::chmod(door.c_str(), 0755);
     ::chmod(socket.c_str(), 0777);
     constexpr uid_t nobody = 65534;
     const pid_t child = ::fork();

@@ -25,8 +25,8 @@ QByteArray readAll(const QString& path) {
 
 struct ProcessFacts {
     QByteArray executableName;
-    QByteArray machineRoot; ///< the simulated Mac it runs in, empty outside of one
-    quint64 startTicks = 0; ///< since boot
+    std::filesystem::path machineRoot; ///< the simulated Mac it runs in, empty outside of one
+    quint64 startTicks = 0;            ///< since boot
 };
 
 /// Absent for a process that is gone, or that belongs to someone else.
@@ -47,7 +47,7 @@ std::optional<ProcessFacts> factsOf(pid_t pid) {
     const QByteArray prefix = QByteArray(SimulatedMac::rootVariable) + '=';
     for (const QByteArray& variable : readAll(folder + u"environ"_s).split('\0')) {
         if (variable.startsWith(prefix))
-            facts.machineRoot = variable.mid(prefix.size());
+            facts.machineRoot = SimulatedMac::rootAt(variable.mid(prefix.size()).toStdString());
     }
 
     // The program's name in brackets may hold anything, so fields are counted from its end.

@@ -10,6 +10,10 @@ namespace kestrowind::SimulatedMac {
 
 inline constexpr char rootVariable[] = "KESTROWIND_SIMULATED_MAC";
 
+/// The root folder that somebody names so: absolute, without links, detours and a slash at its end,
+/// so that a machine is the same one for everybody.
+[[nodiscard]] std::filesystem::path rootAt(const std::filesystem::path& name);
+
 /// The root folder of the simulated Mac around this process; absent outside of one.
 [[nodiscard]] std::optional<std::filesystem::path> root();
 

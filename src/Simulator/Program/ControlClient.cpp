@@ -12,18 +12,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct Request {
-    std::string root;
+    std::filesystem::path root;
     std::vector<std::string> words;
 };
 
 std::expected<Request, std::string> parse(QStringList arguments) {
     Request request;
     if (const auto root = SimulatedMac::root())
-        request.root = root->string();
+        request.root = *root;
     if (!arguments.isEmpty() && arguments.constFirst() == "--root"_L1) {
-        if (arguments.size() < 2)
+        if (arguments.size() < 2 || arguments.at(1).isEmpty())
             return std::unexpected("--root needs a folder");
-        request.root = arguments.at(1).toStdString();
+        request.root = SimulatedMac::rootAt(arguments.at(1).toStdString());
         arguments.remove(0, 2);
     }
     if (request.root.empty())

@@ -8,8 +8,6 @@
 
 #include <chrono>
 #include <csignal>
-#include <filesystem>
-#include <system_error>
 
 namespace kestrowind {
 
@@ -63,33 +61,22 @@ std::expected<void, SimulatorSession::Failure> SimulatorSession::start(Simulator
     return {};
 }
 
-std::expected<std::string, std::string>
-SimulatorSession::prepareRoot(const std::optional<std::string>& wished) {
-    if (!wished) {
+std::expected<void, std::string> SimulatorSession::boot(SimulatorOptions& options) {
+    if (!options.root) {
         m_temporaryRoot = std::make_unique<QTemporaryDir>();
         if (!m_temporaryRoot->isValid())
             return std::unexpected(m_temporaryRoot->errorString().toStdString());
-        return m_temporaryRoot->path().toStdString();
     }
-    std::error_code error;
-    const auto absolute = std::filesystem::absolute(*wished, error);
-    if (error)
-        return std::unexpected(*wished + ": " + error.message());
-    return absolute.lexically_normal().string();
-}
-
-std::expected<void, std::string> SimulatorSession::boot(SimulatorOptions& options) {
-    const auto root = prepareRoot(options.root);
-    if (!root)
-        return std::unexpected(root.error());
-    auto machine =
-        Machine::boot({.root = *root, .profile = std::move(options.profile), .load = options.load});
+    auto machine = Machine::boot(
+        {.root = m_temporaryRoot ? m_temporaryRoot->path().toStdString() : *options.root,
+         .profile = std::move(options.profile),
+         .load = options.load});
     if (!machine)
         return std::unexpected(std::move(machine.error()));
     m_machine = std::move(*machine);
     m_control.emplace(*m_machine);
     m_controlService.emplace(*m_control);
-    if (auto listening = m_controlService->listen(*root); !listening)
+    if (auto listening = m_controlService->listen(m_machine->root()); !listening)
         return listening;
     if (auto placed = m_machine->placeCommands(sibling("kestrowind-simulated-osascript")); !placed)
         return placed;

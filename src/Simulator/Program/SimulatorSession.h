@@ -33,8 +33,6 @@ public:
     [[nodiscard]] std::expected<void, Failure> start(SimulatorOptions options);
 
 private:
-    [[nodiscard]] std::expected<std::string, std::string>
-    prepareRoot(const std::optional<std::string>& wished);
     [[nodiscard]] std::expected<void, std::string> boot(SimulatorOptions& options);
     [[nodiscard]] std::expected<void, std::string>
     runCommand(const std::vector<std::string>& command);

@@ -33,6 +33,15 @@ ListeningSocket::~ListeningSocket() {
     std::filesystem::remove(m_path, ignored);
 }
 
+std::expected<void, std::string> ListeningSocket::checkLength(const std::filesystem::path& path) {
+    constexpr std::size_t longest = sizeof sockaddr_un::sun_path - 1;
+    const std::string name = path.string();
+    if (name.size() <= longest)
+        return {};
+    return std::unexpected(name + " is too long for a socket: " + std::to_string(name.size()) +
+                           " bytes, at most " + std::to_string(longest) + " are possible");
+}
+
 std::expected<ListeningSocket, std::string>
 ListeningSocket::listen(const std::filesystem::path& path, int type) {
     const auto failure = [&path] {
@@ -41,10 +50,8 @@ ListeningSocket::listen(const std::filesystem::path& path, int type) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     const std::string name = path.string();
-    if (name.size() >= sizeof address.sun_path)
-        return std::unexpected(name + " is too long for a socket: " + std::to_string(name.size()) +
-                               " bytes, at most " + std::to_string(sizeof address.sun_path - 1) +
-                               " are possible");
+    if (auto fitting = checkLength(path); !fitting)
+        return std::unexpected(std::move(fitting.error()));
     std::memcpy(address.sun_path, name.c_str(), name.size() + 1);
 
     ListeningSocket socket(::socket(AF_UNIX, type | SOCK_CLOEXEC | SOCK_NONBLOCK, 0), path);

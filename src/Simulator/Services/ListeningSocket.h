@@ -10,6 +10,10 @@ namespace kestrowind {
 /// with it. A file left behind by a dead machine is replaced.
 class ListeningSocket {
 public:
+    /// The error says that the system has no sockets with so long a name.
+    [[nodiscard]] static std::expected<void, std::string>
+    checkLength(const std::filesystem::path& path);
+
     /// type is SOCK_STREAM or SOCK_SEQPACKET. The socket does not block and is not inherited.
     [[nodiscard]] static std::expected<ListeningSocket, std::string>
     listen(const std::filesystem::path& path, int type);

@@ -4,6 +4,7 @@
 #include "Simulator/Link/SimulatedMac.h"
 #include "Simulator/ScriptRunner/MacCommand.h"
 #include "Simulator/Services/AtomicFile.h"
+#include "Simulator/Services/RootFolder.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -26,20 +27,6 @@ constexpr std::chrono::milliseconds tickInterval{100};
 constexpr std::chrono::seconds loadSampleInterval{1};
 // A machine that was stopped itself does not live through all of that time afterwards.
 constexpr double longestLeap = 10; // seconds
-
-std::expected<void, std::string> createFolders(const fs::path& root) {
-    const fs::path serviceFolder = SimulatedMac::serviceSocket(root, "x").parent_path();
-    for (const fs::path& folder :
-         {serviceFolder,
-          SimulatedMac::systemPath(root, HelperConstants::daemonPlistPath).parent_path(),
-          SimulatedMac::systemPath(root, HelperConstants::helperInstallPath).parent_path()}) {
-        std::error_code error;
-        fs::create_directories(folder, error);
-        if (error)
-            return std::unexpected("cannot create " + folder.string() + ": " + error.message());
-    }
-    return {};
-}
 
 std::expected<int, std::string> lockRoot(const fs::path& root) {
     const fs::path file = SimulatedMac::smcSocket(root).parent_path() / "machine.lock";
@@ -81,8 +68,10 @@ Machine::~Machine() {
 }
 
 std::expected<std::unique_ptr<Machine>, std::string> Machine::boot(Setup setup) {
-    if (auto created = createFolders(setup.root); !created)
-        return std::unexpected(std::move(created.error()));
+    auto prepared = prepareRootFolder(setup.root);
+    if (!prepared)
+        return std::unexpected(std::move(prepared.error()));
+    setup.root = std::move(*prepared);
     const auto lock = lockRoot(setup.root);
     if (!lock)
         return std::unexpected(lock.error());
@@ -132,7 +121,6 @@ std::expected<void, std::string> Machine::placeCommands(const fs::path& program)
     for (const std::string_view place : places) {
         const fs::path link = SimulatedMac::systemPath(m_root, place);
         std::error_code error;
-        fs::create_directories(link.parent_path(), error);
         // A machine before this one may have been another program's.
         fs::remove(link, error);
         fs::create_symlink(program, link, error);
