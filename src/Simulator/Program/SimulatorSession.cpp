@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 
 namespace kestrowind {
 
@@ -28,6 +29,11 @@ std::expected<std::string, std::string> jobDescription() {
     if (!file.open(QIODevice::ReadOnly))
         return std::unexpected(file.errorString().toStdString());
     return file.readAll().toStdString();
+}
+
+/// For a shell.
+QString quoted(QString word) {
+    return u'\'' + word.replace(u"'"_s, u"'\\''"_s) + u'\'';
 }
 
 /// A program that is built beside this one.
@@ -74,6 +80,11 @@ std::expected<void, std::string> SimulatorSession::boot(SimulatorOptions& option
     if (!machine)
         return std::unexpected(std::move(machine.error()));
     m_machine = std::move(*machine);
+    if (m_temporaryRoot)
+        std::fprintf(stderr,
+                     "To change this Mac: %s ctl --root %s COMMAND (status, helper kill, ...)\n",
+                     qPrintable(quoted(QCoreApplication::applicationFilePath())),
+                     qPrintable(quoted(QString::fromStdString(m_machine->root().string()))));
     m_control.emplace(*m_machine);
     m_controlService.emplace(*m_control);
     if (auto listening = m_controlService->listen(m_machine->root()); !listening)
