@@ -29,6 +29,16 @@ if(KESTROWIND_MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_link_options(-fuse-ld=mold)
 endif()
 
+# kestrowind_headers(NAME HEADERS header... LINK target...): headers that are precompiled once for all
+# targets that say target_precompile_headers(... REUSE_FROM NAME).
+function(kestrowind_headers name)
+    cmake_parse_arguments(SHARED "" "" "HEADERS;LINK" ${ARGN})
+    file(CONFIGURE OUTPUT ${name}.cpp CONTENT "")
+    add_library(${name} OBJECT ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+    target_link_libraries(${name} PRIVATE ${SHARED_LINK} kestrowind_warnings)
+    target_precompile_headers(${name} PRIVATE ${SHARED_HEADERS})
+endfunction()
+
 # kestrowind_room(NAME [LINK target...]): the sources of the current folder as a static library that
 # others include by the path below src/.
 function(kestrowind_room name)

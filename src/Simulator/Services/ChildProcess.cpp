@@ -42,7 +42,7 @@ struct Preparation {
             environment.push_back(name + "=" + value);
         if (command.listeningSocket >= 0) {
             environment.emplace_back("LISTEN_FDS=1");
-            environment.push_back(std::string(processVariable) + std::string(20, '\0'));
+            environment.emplace_back(processVariable).append(20, '\0');
         }
         for (const std::string& argument : command.arguments)
             argumentPointers.push_back(const_cast<char*>(argument.c_str()));
