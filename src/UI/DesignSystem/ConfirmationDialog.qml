@@ -1,8 +1,8 @@
 import QtQuick
 import Kestrowind.DesignSystem
 
-// Asks whether to do what cannot be undone. Return does it: the dialog comes only when asked for.
+// Asks whether to do what cannot be undone: Return alone does not do it.
 DialogPanel {
     destructive: true
-    onAboutToShow: confirmButton.forceActiveFocus(Qt.TabFocusReason)
+    onAboutToShow: cancelButton.forceActiveFocus(Qt.TabFocusReason)
 }

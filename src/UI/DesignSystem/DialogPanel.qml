@@ -14,6 +14,7 @@ T.Dialog {
     property bool destructive: false
     property bool canConfirm: true
     readonly property Item confirmButton: confirm
+    readonly property Item cancelButton: cancel
     default property alias body: extra.data
 
     // What it asks stays the same while it goes away.
@@ -56,8 +57,8 @@ T.Dialog {
     contentItem: FocusScope {
         // qmllint enable deferred-property-id
         focus: true
-        Keys.onReturnPressed: if (root.canConfirm) root.confirmed()
-        Keys.onEnterPressed: if (root.canConfirm) root.confirmed()
+        Keys.onReturnPressed: if (root.canConfirm && !root.destructive) root.confirmed()
+        Keys.onEnterPressed: if (root.canConfirm && !root.destructive) root.confirmed()
 
         Column {
             id: column

@@ -19,15 +19,15 @@ class CardDrag : public QObject {
 public:
     using QObject::QObject;
 
-    /// The picture to be carried: the card as its window shows it. Its corners keep the window's
-    /// colour, since not every desktop can show what lies behind them.
-    [[nodiscard]] static QPixmap picture(const QQuickItem& card);
+    /// The picture to be carried: the card as its window shows it, within its rounded corners.
+    [[nodiscard]] static QPixmap picture(const QQuickItem& card, double cornerRadius);
 
     [[nodiscard]] bool isDragging() const { return m_isDragging; }
 
     /// Soon after, unless the button was let go meanwhile. `grabbedAt` is where the pointer holds
     /// the card, in its coordinates.
-    Q_INVOKABLE void start(QQuickItem* card, const QString& text, const QPointF& grabbedAt);
+    Q_INVOKABLE void start(QQuickItem* card, double cornerRadius, const QString& text,
+                           const QPointF& grabbedAt);
 
 Q_SIGNALS:
     void isDraggingChanged();

@@ -22,6 +22,9 @@ Item {
     GridView {
         id: cards
 
+        // Since the pointer last pressed a card.
+        property bool isKeyboardInUse: false
+
         width: root.model.columns * cellWidth
         height: root.rows * cellHeight
         cellWidth: root.model.columnWidth + root.model.spacing
@@ -46,6 +49,9 @@ Item {
             width: root.model.columnWidth
             height: root.cardHeight
             screen: root.model
+            isKeyboardInUse: cards.isKeyboardInUse
+            onPressed: cards.isKeyboardInUse = false
+            onKeyboardUsed: cards.isKeyboardInUse = true
             onContextMenuRequested: at => menu.show(this, slotID, isEditable, at)
             // qmllint enable unqualified
         }

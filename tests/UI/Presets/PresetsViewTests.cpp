@@ -60,6 +60,10 @@ protected:
 TEST_F(PresetsViewTest, AClickActivatesACardAndMakesAPreset) {
     view.click(u"Full Speed"_s);
     EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID);
+    for (const Qt::MouseButton other : {Qt::RightButton, Qt::MiddleButton, Qt::BackButton}) {
+        view.click(u"Automatic"_s, other);
+        EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID) << other;
+    }
     view.click(u"Automatic"_s);
     EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
 
@@ -115,6 +119,18 @@ TEST_F(PresetsViewTest, TheKeyboardReachesEveryCardAndItsCommands) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return state.presets().presets().size() == 4; }));
 }
 
+TEST_F(PresetsViewTest, TheCardUnderTheKeyboardIsMarkedOnceAKeyIsUsed) {
+    const auto isMarked = [&](const QString& card) {
+        return view.named(card)->property("background").value<QQuickItem*>()->property("isFocused");
+    };
+    view.click(u"Automatic"_s);
+    EXPECT_EQ(isMarked(u"Automatic"_s), false);
+    view.press(Qt::Key_Right);
+    EXPECT_EQ(isMarked(u"Cool"_s), true);
+    view.click(u"Full Speed"_s);
+    EXPECT_EQ(isMarked(u"Full Speed"_s), false);
+}
+
 TEST_F(PresetsViewTest, TheRenameDialogTakesTheKeyboardAndGivesItBack) {
     const auto mine = state.presets().addPreset(u"Mine"_s);
     view.press(Qt::Key_Tab);
@@ -160,6 +176,13 @@ TEST_F(PresetsViewTest, DeletingAsksAndLeavesTheKeyboardAmongTheCards) {
     ASSERT_TRUE(comesBackTo(u"Mine"_s));
     view.press(Qt::Key_Backspace);
     ASSERT_TRUE(model.isDeleting());
+    view.press(Qt::Key_Return);
+    EXPECT_FALSE(model.isDeleting());
+    ASSERT_TRUE(comesBackTo(u"Mine"_s));
+    EXPECT_EQ(state.presets().presets().size(), 3) << "Return alone deletes nothing";
+    view.press(Qt::Key_Delete);
+    view.press(Qt::Key_Tab);
+    EXPECT_EQ(view.focused(), u"Delete"_s);
     view.press(Qt::Key_Return);
     EXPECT_EQ(state.presets().presets().size(), 2);
     EXPECT_TRUE(comesBackTo(u"Full Speed"_s)) << view.focused().toStdString();
@@ -224,10 +247,11 @@ TEST_F(PresetsViewTest, ADroppedTextMovesACardAndNothingElseDoes) {
 }
 
 TEST_F(PresetsViewTest, ACardCarriesAPictureOfItself) {
-    const QPixmap picture = CardDrag::picture(*view.named(u"Cool"_s));
+    const QPixmap picture = CardDrag::picture(*view.named(u"Cool"_s), 16);
     EXPECT_EQ(picture.deviceIndependentSize(), QSizeF(245, 188));
     const QImage image = picture.toImage();
     EXPECT_NE(image.pixelColor(37, 37), image.pixelColor(120, 20)) << "the badge, and nothing";
+    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "round corners";
 }
 
 TEST_F(PresetsViewTest, AwkwardNamesStayInsideTheirCards) {

@@ -18,6 +18,8 @@ T.AbstractButton {
     required property bool isActive
     required property bool isEditable
     required property PresetsModel screen
+    // Not where the keyboard is, but whether it is being used.
+    property bool isKeyboardInUse: false
 
     // Grows to 1 as the card enters the grid.
     property real entrance: 1
@@ -25,6 +27,7 @@ T.AbstractButton {
     readonly property bool isLifted: hovered && !drag.isDragging
 
     signal contextMenuRequested(point at)
+    signal keyboardUsed()
 
     // The button does not always hear that a drag took its press.
     property bool wasDragged: false
@@ -34,7 +37,7 @@ T.AbstractButton {
 
     function beginDrag(at: point): void {
         wasDragged = true
-        drag.start(root, slotID, at)
+        drag.start(root, Radius.card, slotID, at)
     }
 
     function requestMenu(at: point): void {
@@ -55,7 +58,11 @@ T.AbstractButton {
     Accessible.checked: isActive
     Accessible.focusable: true
     onActiveFocusChanged: if (activeFocus) GridView.view.currentIndex = index
-    Keys.onPressed: event => event.accepted = keys.handle(event.key, event.modifiers)
+    onVisualFocusChanged: if (visualFocus) keyboardUsed()
+    Keys.onPressed: event => {
+        keyboardUsed()
+        event.accepted = keys.handle(event.key, event.modifiers)
+    }
 
     onClicked: screen.activate(slotID)
 
@@ -80,8 +87,21 @@ T.AbstractButton {
         isActive: root.isActive
         isLifted: root.isLifted
         isPressed: root.down
-        isFocused: root.visualFocus
+        isFocused: root.activeFocus && root.isKeyboardInUse
         isTarget: dropArea.containsDrag && !drag.isDragging
+
+        // Here, for a button with handlers of its own takes every mouse button for its click.
+        DragHandler {
+            target: null
+            acceptedButtons: Qt.LeftButton
+            onActiveChanged: if (active)
+                root.beginDrag(centroid.pressPosition)
+        }
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: eventPoint => root.requestMenu(eventPoint.position)
+        }
     }
 
     // qmllint disable deferred-property-id
@@ -107,18 +127,6 @@ T.AbstractButton {
     }
 
     CardDrag { id: drag }
-
-    DragHandler {
-        target: null
-        acceptedButtons: Qt.LeftButton
-        onActiveChanged: if (active)
-            root.beginDrag(centroid.pressPosition)
-    }
-
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        onTapped: eventPoint => root.requestMenu(eventPoint.position)
-    }
 
     Tooltip {
         text: root.help.length > 0 ? root.help : layout.isNameTruncated ? root.name : ""
