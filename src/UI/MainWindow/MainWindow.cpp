@@ -9,6 +9,7 @@
 
 #include <QQmlComponent>
 #include <QScreen>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -117,9 +118,14 @@ void MainWindow::buildView() {
     m_sectionHost = view->findChild<SectionHost*>();
     connect(m_sectionHost, &SectionHost::naturalHeightChanged, this,
             [this] { m_heightController.fitWindow(m_sectionHost->naturalHeight()); });
-    const double chromeHeight = view->height() - m_sectionHost->viewportHeight();
-    m_window.setMinimumSize({static_cast<int>(MainWindowFrame::minimumContentWidth),
-                             qRound(MainWindowFrame::minimumContentHeight + chromeHeight)});
+    // The toolbar has its height only once it was laid out.
+    const auto limit = [this, view] {
+        const double chromeHeight = view->height() - m_sectionHost->viewportHeight();
+        m_window.setMinimumSize({static_cast<int>(MainWindowFrame::minimumContentWidth),
+                                 qCeil(MainWindowFrame::minimumContentHeight + chromeHeight)});
+    };
+    connect(m_sectionHost, &SectionHost::viewportHeightChanged, this, limit);
+    limit();
 }
 
 void MainWindow::updateAppearance() {

@@ -171,6 +171,8 @@ TEST_F(MainWindowTest, FollowsTheNaturalHeightOfTheSection) {
     scene->selectSection(MainSection::curves);
     QTRY_COMPARE_WITH_TIMEOUT(qRound(host().viewportHeight()), 420, 1500);
     EXPECT_EQ(scene->window()->width(), 820);
+    EXPECT_EQ(scene->window()->minimumHeight(), view().height() - host().viewportHeight() + 420)
+        << "the toolbar is what it became";
 }
 
 TEST_F(MainWindowTest, ShowsTheTitleOfASectionThatCannotBeMade) {
