@@ -36,11 +36,7 @@ Item {
         GeneralSettingsSection {
             width: parent.width
             model: root.model.general
-        }
-
-        NotificationSettingsSection {
-            width: parent.width
-            model: root.model.notifications
+            notifications: root.model.notifications
         }
 
         AboutSettingsSection {

@@ -6,6 +6,7 @@ SettingsSection {
     id: root
 
     required property GeneralSettings model
+    required property NotificationSettings notifications
 
     title: qsTrId("settings.general.sectionTitle")
 
@@ -34,5 +35,26 @@ SettingsSection {
         subtitle: qsTrId("settings.general.hideDockIcon.subtitle")
         isOn: root.model.hidesDockIcon
         onFlipped: on => root.model.setHidesDockIcon(on)
+    }
+
+    SettingsToggleRow {
+        title: qsTrId("settings.notifications.overheating.title")
+        subtitle: qsTrId("settings.notifications.overheating.subtitle")
+        isOn: root.notifications.overheating
+        onFlipped: on => root.notifications.setOverheating(on)
+    }
+
+    SettingsToggleRow {
+        title: qsTrId("settings.notifications.standingFan.title")
+        subtitle: qsTrId("settings.notifications.standingFan.subtitle")
+        isOn: root.notifications.standingFan
+        onFlipped: on => root.notifications.setStandingFan(on)
+    }
+
+    SettingsToggleRow {
+        title: qsTrId("settings.notifications.helperFailure.title")
+        subtitle: qsTrId("settings.notifications.helperFailure.subtitle")
+        isOn: root.notifications.helperFailure
+        onFlipped: on => root.notifications.setHelperFailure(on)
     }
 }
