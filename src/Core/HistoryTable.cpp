@@ -69,8 +69,9 @@ QByteArray historyTable(const QList<TelemetrySample>& samples, const QTimeZone& 
         table.append(time(sample, zone));
         for (const Column& column : temperatureColumns) {
             const double celsius = sample.temperatures.*column.value;
-            // 0 is what a machine without such sensors has.
-            table.append(',').append(celsius != 0 ? number(celsius, temperatureDecimals) : "");
+            table.append(',').append(SMCTemperatureSnapshot::isKnown(celsius)
+                                         ? number(celsius, temperatureDecimals)
+                                         : QByteArray());
         }
         for (const int fan : fans)
             table.append(',').append(speed(sample, fan));

@@ -22,6 +22,10 @@ void installLocalizable() {
         !translator->load(u":/texts/Localizable_en.qm"_s))
         qFatal("the text catalogue is missing from this build");
     QCoreApplication::installTranslator(translator);
+    // Of the language, not of the country: an English text has no German numbers in it.
+    QLocale shown(translator->language());
+    shown.setNumberOptions(QLocale::OmitGroupSeparator);
+    QLocale::setDefault(shown);
 }
 
 QString LocalizedText::string() const {

@@ -17,7 +17,8 @@ struct LocalizedText {
 /// The catalogue's text for a key, now.
 [[nodiscard]] QString localized(const char* key);
 
-/// Loads the catalogue for the user's language, or English, into the application object.
+/// Loads the catalogue for the user's language, or English, into the application object. Numbers
+/// are written as in the language that is shown, and without group separators.
 void installLocalizable();
 
 } // namespace kestrowind

@@ -47,6 +47,15 @@ Json fanReadings(const TelemetrySample& sample) {
     return fans;
 }
 
+std::optional<double> known(double celsius) {
+    return SMCTemperatureSnapshot::isKnown(celsius) ? std::optional(celsius) : std::nullopt;
+}
+
+/// Five characters, so that the lines make columns.
+QString degrees(double celsius) {
+    return known(celsius) ? QString::asprintf("%5.1f", celsius) : u"   --"_s;
+}
+
 /// False while whoever reads the lines is behind, or a terminal is held: the fans do not wait.
 bool outputTakesALine() {
     pollfd output{.fd = STDOUT_FILENO, .events = POLLOUT, .revents = 0};
@@ -70,12 +79,12 @@ std::string ReadingsPrinter::json(const AppState& appState, const TelemetrySampl
     const auto& temperatures = sample.temperatures;
     const Json line{
         {"timestamp", dateTime(sample).toString(Qt::ISODateWithMs).toStdString()},
-        {"cpuAverage", temperatures.cpuAverage},
-        {"cpuMax", temperatures.cpuMax},
-        {"gpuAverage", temperatures.gpuAverage},
-        {"gpuMax", temperatures.gpuMax},
-        {"hottest", temperatures.hottest},
-        {"systemTemperature", orNull(appState.telemetry().systemTemperature())},
+        {"cpuAverage", orNull(known(temperatures.cpuAverage))},
+        {"cpuMax", orNull(known(temperatures.cpuMax))},
+        {"gpuAverage", orNull(known(temperatures.gpuAverage))},
+        {"gpuMax", orNull(known(temperatures.gpuMax))},
+        {"hottest", orNull(known(temperatures.hottest))},
+        {"systemTemperature", orNull(known(appState.telemetry().systemTemperature().value_or(0)))},
         {"smoothedTemperature", engine.smoothedTemperature()},
         {"fans", fanReadings(sample)},
         {"preset", preset ? Json(preset->name.toStdString()) : Json()},
@@ -94,9 +103,9 @@ std::string ReadingsPrinter::json(const AppState& appState, const TelemetrySampl
 std::string ReadingsPrinter::text(const AppState& appState, const TelemetrySample& sample) {
     const auto& temperatures = sample.temperatures;
     QString line = dateTime(sample).toLocalTime().toString(u"HH:mm:ss"_s) +
-                   QString::asprintf("  CPU %5.1f °C (max %5.1f)  GPU %5.1f °C (max %5.1f)",
-                                     temperatures.cpuAverage, temperatures.cpuMax,
-                                     temperatures.gpuAverage, temperatures.gpuMax);
+                   u"  CPU %1 °C (max %2)  GPU %3 °C (max %4)"_s.arg(
+                       degrees(temperatures.cpuAverage), degrees(temperatures.cpuMax),
+                       degrees(temperatures.gpuAverage), degrees(temperatures.gpuMax));
     for (const SMCFanReading& fan : sample.fans)
         line += QString::asprintf("  fan %d %5.0f → %5.0f rpm", fan.index, fan.actualRPM,
                                   fan.targetRPM);

@@ -3,6 +3,7 @@
 #include "Shared/SMCKit/SMCConnection.h"
 
 #include <chrono>
+#include <cmath>
 #include <functional>
 #include <optional>
 #include <string>
@@ -17,6 +18,11 @@ struct SMCTemperatureSnapshot {
     double gpuAverage = 0;
     double gpuMax = 0;
     double hottest = 0; ///< the greater of the two maxima
+
+    /// Whether a temperature is a measured one.
+    [[nodiscard]] static bool isKnown(double celsius) {
+        return std::isfinite(celsius) && celsius != 0;
+    }
 
     bool operator==(const SMCTemperatureSnapshot&) const = default;
 };

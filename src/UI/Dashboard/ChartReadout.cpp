@@ -1,9 +1,8 @@
 #include "UI/Dashboard/ChartReadout.h"
 
 #include "Core/LocalizedText.h"
+#include "Core/WholeNumberText.h"
 #include "UI/Dashboard/HistoryChartAxis.h"
-
-#include <QLocale>
 
 #include <cmath>
 #include <optional>
@@ -50,7 +49,7 @@ ChartReadout ChartReadout::nearest(const LineChart& chart, const LineChartPainte
             if (point.x() != *moment || !std::isfinite(point.y()))
                 continue;
             readout.dots.append({.y = look.position(point, chart).y(), .ink = series.ink});
-            words.append(series.readout.arg(QLocale().toString(point.y(), 'f', 0)));
+            words.append(series.readout.arg(WholeNumberText::rounded(point.y())));
             break;
         }
     }

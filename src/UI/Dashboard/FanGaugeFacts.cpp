@@ -2,6 +2,7 @@
 
 #include "Core/FanNaming.h"
 #include "Core/LocalizedText.h"
+#include "Core/WholeNumberText.h"
 #include "UI/Dashboard/FanSpeedHistory.h"
 
 #include <algorithm>
@@ -18,13 +19,6 @@ constexpr double fastestSpin = 2.2;
 } // namespace
 
 namespace FanGaugeReadout {
-
-QString wholeNumber(double value) {
-    if (!std::isfinite(value))
-        return u"--"_s;
-    constexpr double most = 1e15; // whole numbers are exact up to here
-    return QString::number(static_cast<qint64>(std::clamp(value, -most, most)));
-}
 
 double speedFraction(const SMCFanReading& fan) {
     if (!(fan.actualRPM > 0) || !(fan.maxRPM > 0))
@@ -46,7 +40,7 @@ FanGaugeFacts FanGaugeFacts::of(const SMCFanReading& fan, qsizetype position,
     FanGaugeFacts facts{
         .index = fan.index,
         .name = sharedFanName(fan.index, static_cast<int>(totalFanCount)),
-        .readout = FanGaugeReadout::wholeNumber(fan.actualRPM),
+        .readout = WholeNumberText::truncated(fan.actualRPM),
         .caption = localized(isStill ? "gauge.readout.parked" : "gauge.readout.rpm"),
         .fraction = FanGaugeReadout::speedFraction(fan),
         .revolutionsPerSecond = spin,

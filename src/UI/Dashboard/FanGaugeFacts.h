@@ -25,8 +25,6 @@ struct FanGaugeFacts {
 };
 
 namespace FanGaugeReadout {
-/// The fraction is dropped, not rounded; "--" for what is no finite number.
-[[nodiscard]] QString wholeNumber(double value);
 /// The part of its greatest speed that a fan runs at, 0 to 1 in steps of a thousandth: smaller
 /// changes would move the gauge without anybody seeing more.
 [[nodiscard]] double speedFraction(const SMCFanReading& fan);

@@ -1,11 +1,9 @@
 #include "UI/Dashboard/FanSpeedHistory.h"
 
 #include "Core/LocalizedText.h"
-#include "UI/Dashboard/FanGaugeFacts.h"
+#include "Core/WholeNumberText.h"
 #include "UI/Dashboard/HistoryChartAxis.h"
 #include "UI/Dashboard/HistorySamples.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -94,16 +92,16 @@ LineChart chart(const QList<TelemetrySample>& samples) {
     chart.values = domain(samples, all);
     chart.timeTicks = HistoryChartAxis::labelledTicks(span);
     for (const double tick : HistoryChartAxis::valueTicks(chart.values)) {
-        chart.valueTicks.append({.position = tick, .label = QLocale().toString(tick, 'f', 0)});
+        chart.valueTicks.append({.position = tick, .label = WholeNumberText::rounded(tick)});
     }
     chart.series = lines(all, seriesNames(samples));
     if (all.isEmpty())
         return chart;
     const auto [lowest, highest] = std::ranges::minmax(all, {}, &Point::rpm);
-    chart.spoken = localized("dashboard.chart.spokenFanSpeeds")
-                       .arg(HistorySamples::windowCaption(samples))
-                       .arg(FanGaugeReadout::wholeNumber(lowest.rpm),
-                            FanGaugeReadout::wholeNumber(highest.rpm));
+    chart.spoken =
+        localized("dashboard.chart.spokenFanSpeeds")
+            .arg(HistorySamples::windowCaption(samples))
+            .arg(WholeNumberText::truncated(lowest.rpm), WholeNumberText::truncated(highest.rpm));
     return chart;
 }
 

@@ -1,20 +1,18 @@
 #include "UI/Dashboard/TemperatureFacts.h"
 
 #include "Core/LocalizedText.h"
+#include "Core/WholeNumberText.h"
+#include "Shared/SMCKit/SMCTemperatureSensors.h"
 
 #include <QLocale>
 
-#include <cmath>
-
 namespace kestrowind {
-
-using namespace Qt::StringLiterals;
 
 namespace TemperatureReadout {
 
 QString number(double celsius) {
-    if (!std::isfinite(celsius))
-        return u"--"_s;
+    if (!SMCTemperatureSnapshot::isKnown(celsius))
+        return WholeNumberText::unknown();
     return QLocale().toString(celsius, 'f', celsius < 100 ? 1 : 0);
 }
 

@@ -34,7 +34,8 @@ public:
 };
 
 namespace TemperatureReadout {
-/// In the user's locale, with one fraction digit below 100 and none from there on.
+/// In the language's format, with one fraction digit below 100 and none from there on; "--" for
+/// what was never measured.
 [[nodiscard]] QString number(double celsius);
 [[nodiscard]] QString withUnit(double celsius);
 } // namespace TemperatureReadout

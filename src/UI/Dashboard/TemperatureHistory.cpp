@@ -1,6 +1,7 @@
 #include "UI/Dashboard/TemperatureHistory.h"
 
 #include "Core/LocalizedText.h"
+#include "Core/WholeNumberText.h"
 #include "UI/Dashboard/HistoryChartAxis.h"
 #include "UI/Dashboard/HistorySamples.h"
 
@@ -37,6 +38,8 @@ LineChart::Series line(const QList<Point>& points, const QString& name, const ch
 }
 
 QString spokenRange(const char* key, const LineChart::Series& line) {
+    if (line.points.isEmpty())
+        return localized(key).arg(WholeNumberText::unknown(), WholeNumberText::unknown());
     const auto [lowest, highest] = std::ranges::minmax(line.points, {}, &QPointF::y);
     return localized(key).arg(std::lround(lowest.y())).arg(std::lround(highest.y()));
 }
@@ -49,8 +52,10 @@ QList<Point> points(const QList<TelemetrySample>& samples) {
     for (const TelemetrySample& sample : samples) {
         const double minutes = HistoryChartAxis::minutesFromNow(sample, samples.last());
         const qint64 id = HistoryChartAxis::millisecondsFromNow(sample, samples.last()) * 2;
-        points.append({id, minutes, cpuSeries(), sample.temperatures.cpuMax});
-        points.append({id + 1, minutes, gpuSeries(), sample.temperatures.gpuMax});
+        if (SMCTemperatureSnapshot::isKnown(sample.temperatures.cpuMax))
+            points.append({id, minutes, cpuSeries(), sample.temperatures.cpuMax});
+        if (SMCTemperatureSnapshot::isKnown(sample.temperatures.gpuMax))
+            points.append({id + 1, minutes, gpuSeries(), sample.temperatures.gpuMax});
     }
     return points;
 }

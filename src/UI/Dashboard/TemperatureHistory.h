@@ -15,7 +15,7 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
-/// For each sample its CPU point, then its GPU point.
+/// For each sample its CPU point, then its GPU point, where there is such a sensor.
 [[nodiscard]] QList<Point> points(const QList<TelemetrySample>& samples);
 [[nodiscard]] LineChart::Domain domain(const QList<Point>& points);
 [[nodiscard]] LineChart chart(const QList<TelemetrySample>& samples);

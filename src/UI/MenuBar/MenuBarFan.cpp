@@ -2,7 +2,7 @@
 
 #include "Core/FanNaming.h"
 #include "Core/LocalizedText.h"
-#include "UI/MenuBar/WholeNumberText.h"
+#include "Core/WholeNumberText.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "UI/MenuBar/MenuBarLabelImage.h"
 
+#include "Core/WholeNumberText.h"
 #include "UI/DesignSystem/Typography.h"
 #include "UI/MenuBar/MenuBarReading.h"
-#include "UI/MenuBar/WholeNumberText.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>

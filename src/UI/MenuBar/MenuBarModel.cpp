@@ -4,7 +4,7 @@
 #include "Core/AssignIfChanged.h"
 #include "Core/LocalizedText.h"
 #include "Core/OneLine.h"
-#include "UI/MenuBar/WholeNumberText.h"
+#include "Core/WholeNumberText.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 
 #include "Core/LocalizedText.h"
 #include "Core/TelemetryStore.h"
-#include "UI/MenuBar/WholeNumberText.h"
+#include "Core/WholeNumberText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,8 +29,9 @@ MenuBarReading MenuBarReading::of(const TelemetryStore& telemetry) {
     const auto& sample = telemetry.latest();
     if (!sample)
         return {WholeNumberText::unknown(), WholeNumberText::unknown()};
-    return {WholeNumberText::rounded(
-                telemetry.systemTemperature().value_or(sample->temperatures.hottest)),
+    const double celsius = telemetry.systemTemperature().value_or(sample->temperatures.hottest);
+    return {SMCTemperatureSnapshot::isKnown(celsius) ? WholeNumberText::rounded(celsius)
+                                                     : WholeNumberText::unknown(),
             WholeNumberText::truncated(fastest(sample->fans))};
 }
 

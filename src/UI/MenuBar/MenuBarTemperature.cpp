@@ -1,9 +1,8 @@
 #include "UI/MenuBar/MenuBarTemperature.h"
 
 #include "Core/LocalizedText.h"
-#include "UI/MenuBar/WholeNumberText.h"
-
-#include <cmath>
+#include "Core/WholeNumberText.h"
+#include "Shared/SMCKit/SMCTemperatureSensors.h"
 
 namespace kestrowind {
 
@@ -20,9 +19,11 @@ MenuBarTemperature MenuBarTemperature::gpu(double celsius) {
 MenuBarTemperature MenuBarTemperature::of(const QString& label, const QString& symbolName,
                                           double celsius) {
     MenuBarTemperature row{.label = label, .symbolName = symbolName};
-    row.text = localized("menuBar.temperature.degrees").arg(WholeNumberText::rounded(celsius));
+    row.isKnown = SMCTemperatureSnapshot::isKnown(celsius);
+    row.text =
+        localized("menuBar.temperature.degrees")
+            .arg(row.isKnown ? WholeNumberText::rounded(celsius) : WholeNumberText::unknown());
     row.spokenText = localized("menuBar.temperature.spoken").arg(label, row.text);
-    row.isKnown = std::isfinite(celsius);
     // Not a number differs from itself, and would be news with every sample.
     row.celsius = row.isKnown ? celsius : 0;
     return row;

@@ -22,7 +22,7 @@ public:
     QString symbolName;
     QString text;
     QString spokenText;
-    bool isKnown = false; ///< whether `celsius` is a number, and has a colour
+    bool isKnown = false; ///< whether `celsius` was measured, and has a colour
     double celsius = 0;
 
     [[nodiscard]] static MenuBarTemperature cpu(double celsius);

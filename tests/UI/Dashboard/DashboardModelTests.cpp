@@ -55,7 +55,7 @@ TEST(TemperatureReadout, FollowsTheLocale) {
     const QLocale english(QLocale::English, QLocale::UnitedStates);
     const QLocale german(QLocale::German, QLocale::Germany);
     const Row rows[] = {
-        {english, 54.24, u"54.2"_s}, {german, 54.26, u"54,3"_s}, {english, 0, u"0.0"_s},
+        {english, 54.24, u"54.2"_s}, {german, 54.26, u"54,3"_s}, {english, 0, u"--"_s},
         {german, 99.94, u"99,9"_s},  {english, 100, u"100"_s},   {german, 104.6, u"105"_s},
         {english, nan, u"--"_s},
     };
@@ -140,6 +140,16 @@ TEST_F(DashboardModelTest, ShowsAverageSmoothedMaximumAndPeak) {
     EXPECT_EQ(model.cpu().hottestCore, text("dashboard.temperature.hottestCoreCaption", 56));
     EXPECT_EQ(model.cpu().sessionPeak, text("dashboard.temperature.sessionPeak", 60));
     EXPECT_EQ(model.gpu().sessionPeak, text("dashboard.temperature.sessionPeak", 50));
+}
+
+TEST_F(DashboardModelTest, ShowsNothingOfAProcessorWithoutSensors) {
+    ingest(sampleAt(0, 60, 0, {2000}));
+    ingest(sampleAt(2, 62, 0, {2000}));
+    EXPECT_EQ(model.gpu().average, localized("gauge.readout.degrees").arg(u"--"_s));
+    EXPECT_TRUE(model.temperatures().series[1].points.isEmpty());
+    EXPECT_EQ(model.temperatures().values, (LineChart::Domain{55, 70}));
+    EXPECT_TRUE(model.temperatures().spoken.contains(
+        localized("dashboard.chart.spokenGPU").arg(u"--"_s, u"--"_s)));
 }
 
 TEST_F(DashboardModelTest, DrawsLinesFromTwoSamplesOnAndNoMoreThanCanBeTold) {

@@ -181,11 +181,11 @@ TEST(ChartReadout, TellsTheNearestMomentThatIsShown) {
 
     const LineChart fans = FanSpeedHistory::chart(samples);
     EXPECT_EQ(ChartReadout::nearest(fans, look, moment).text,
-              u"15\u00a0s ago  ·  Right 2,345 rpm"_s);
+              u"15\u00a0s ago  ·  Right 2345 rpm"_s);
     EXPECT_EQ(ChartReadout::nearest(fans, look, look.plot().right()).text,
-              u"Now  ·  Left 1,500 rpm  ·  Right 2,500 rpm"_s);
+              u"Now  ·  Left 1500 rpm  ·  Right 2500 rpm"_s);
     EXPECT_EQ(ChartReadout::nearest(fans, look, look.plot().left()).text,
-              u"3 min 20 s ago  ·  Left 1,000 rpm  ·  Right 2,000 rpm"_s);
+              u"3 min 20 s ago  ·  Left 1000 rpm  ·  Right 2000 rpm"_s);
 
     EXPECT_FALSE(ChartReadout::nearest(fans, look, look.plot().left() - 1).isShown);
     EXPECT_FALSE(ChartReadout::nearest(TemperatureHistory::chart({}), look, moment).isShown);

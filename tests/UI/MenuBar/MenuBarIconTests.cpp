@@ -19,12 +19,10 @@ TEST(MenuBarReadingTest, SaysTheHottestAndTheFastest) {
         MenuBarReading expected;
     };
     const Row rows[] = {
-        {71.5, {999.9, 500}, {u"72"_s, u"999"_s}},
-        {71.4, {}, {u"71"_s, u"0"_s}},
-        {-0.4, {-0.5}, {u"0"_s, u"0"_s}},
-        {60, {nan, 1234}, {u"60"_s, u"1234"_s}},
-        {60, {nan}, {u"60"_s, u"--"_s}},
-        {60, {1e19}, {u"60"_s, u"10000000000000000000"_s}},
+        {71.5, {999.9, 500}, {u"72"_s, u"999"_s}}, {71.4, {}, {u"71"_s, u"0"_s}},
+        {-0.4, {-0.5}, {u"0"_s, u"0"_s}},          {60, {nan, 1234}, {u"60"_s, u"1234"_s}},
+        {60, {nan}, {u"60"_s, u"--"_s}},           {60, {1e19}, {u"60"_s, u"1000000000000000"_s}},
+        {0, {2000}, {u"--"_s, u"2000"_s}}, // no sensor
     };
     for (const auto& [cpu, speeds, expected] : rows) {
         TestState state;

@@ -1,5 +1,8 @@
-#include "UI/MenuBar/WholeNumberText.h"
+#include "Core/WholeNumberText.h"
 
+#include <QLocale>
+
+#include <algorithm>
 #include <cmath>
 
 namespace kestrowind::WholeNumberText {
@@ -7,9 +10,14 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// Whole numbers are exact up to here; nothing that is measured comes near.
+constexpr double greatest = 1e15;
+
 QString digits(double whole) {
+    if (!std::isfinite(whole))
+        return unknown();
     // The sum makes a positive zero of a negative one.
-    return std::isfinite(whole) ? QString::number(whole + 0.0, 'f', 0) : unknown();
+    return QLocale().toString(std::clamp(whole, -greatest, greatest) + 0.0, 'f', 0);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// A measured value as whole digits; "--" for what is not a finite number.
+/// A measured value as whole digits of the language shown; "--" for what is not a finite number.
 namespace kestrowind::WholeNumberText {
 
 /// Without its fraction.
