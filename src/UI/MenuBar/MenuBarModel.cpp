@@ -15,7 +15,11 @@ using namespace Qt::StringLiterals;
 
 MenuBarModel::MenuBarModel(AppState& appState, QObject* parent)
     : QObject(parent)
-    , m_appState(appState) {}
+    , m_appState(appState) {
+    m_boostRest.setSingleShot(true);
+    m_boostRest.setInterval(boostRest);
+    connect(&m_boostRest, &QTimer::timeout, this, &MenuBarModel::refreshHelper);
+}
 
 MenuBarModel::~MenuBarModel() = default;
 
@@ -25,6 +29,7 @@ void MenuBarModel::setIsFollowing(bool isFollowing) {
     if (!isFollowing) {
         m_following.reset();
         setIsBoostDragged(false);
+        m_boostRest.stop();
         return;
     }
     m_following = std::make_unique<QObject>();
@@ -82,10 +87,11 @@ void MenuBarModel::refreshPresets() {
 
 void MenuBarModel::refreshHelper() {
     const auto status = m_appState.helper().lastStatus();
-    const Helper helper{.isInstalled = m_appState.helper().isInstalled(),
-                        .isTakingControl = status && status->phase == HelperControlPhase::unlocking,
-                        .isControlUnavailable =
-                            status && status->phase == HelperControlPhase::failed};
+    const Helper helper{
+        .isInstalled = m_appState.helper().isInstalled(),
+        .isTakingControl = status && status->phase == HelperControlPhase::unlocking &&
+                           !m_isBoostDragged && !m_boostRest.isActive(),
+        .isControlUnavailable = status && status->phase == HelperControlPhase::failed};
     if (assignIfChanged(m_helper, helper))
         Q_EMIT helperChanged();
 }
@@ -104,6 +110,7 @@ void MenuBarModel::setIsBoostDragged(bool isBoostDragged) {
     if (!assignIfChanged(m_isBoostDragged, isBoostDragged))
         return;
     Q_EMIT isBoostDraggedChanged();
+    m_boostRest.start();
     refreshBoost();
 }
 
@@ -116,6 +123,7 @@ void MenuBarModel::activate(const QString& slotID) {
 }
 
 void MenuBarModel::setBoost(double percent) {
+    m_boostRest.start();
     const double snapped = std::clamp(std::round(percent / boostStep()) * boostStep(), 0.0, 100.0);
     if (assignIfChanged(m_boostPercent, snapped))
         Q_EMIT boostChanged();

@@ -6,8 +6,10 @@
 #include "UI/MenuBar/RowListModel.h"
 
 #include <QObject>
+#include <QTimer>
 #include <QtQml/qqml.h>
 
+#include <chrono>
 #include <memory>
 
 namespace kestrowind {
@@ -44,6 +46,10 @@ class MenuBarModel final : public QObject {
     QML_UNCREATABLE("The menu-bar panel is given one.")
 
 public:
+    /// For so long after the boost was moved, its slider is taken to be in use still: arrow keys
+    /// let go of it with every press.
+    static constexpr std::chrono::milliseconds boostRest{500};
+
     /// The state must outlive the model.
     explicit MenuBarModel(AppState& appState, QObject* parent = nullptr);
     ~MenuBarModel() override;
@@ -64,6 +70,7 @@ public:
 
     [[nodiscard]] bool isHelperInstalled() const { return m_helper.isInstalled; }
     /// The helper waits for the firmware to hand the fans over; nothing can be chosen meanwhile.
+    /// Not before the boost's slider is let go, which sets it off in the middle of its movement.
     [[nodiscard]] bool isTakingControl() const { return m_helper.isTakingControl; }
     [[nodiscard]] bool isControlUnavailable() const { return m_helper.isControlUnavailable; }
 
@@ -122,6 +129,7 @@ private:
     Helper m_helper;
     double m_boostPercent = 0;
     bool m_isBoostDragged = false;
+    QTimer m_boostRest;
 };
 
 } // namespace kestrowind

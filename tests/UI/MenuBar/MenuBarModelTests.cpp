@@ -3,6 +3,7 @@
 #include "UI/TestState.h"
 
 #include <QSignalSpy>
+#include <QTest>
 #include <gmock/gmock.h>
 
 #include <limits>
@@ -76,6 +77,7 @@ TEST_F(MenuBarModelTest, FollowsTheSamplesInPlaceAndOnlyWhileItShall) {
     EXPECT_EQ(readings.size(), 1);
     ingest(sampleAt(4, 71.5, std::numeric_limits<double>::infinity()));
     ingest(sampleAt(6, 71.5, std::numeric_limits<double>::quiet_NaN()));
+    ingest(sampleAt(7, 71.5, 0)); // no sensor
     EXPECT_EQ(model.gpu().text, u"--°C"_s);
     EXPECT_FALSE(model.gpu().isKnown);
     EXPECT_EQ(readings.size(), 2);
@@ -127,8 +129,12 @@ TEST_F(MenuBarModelTest, BoostsInStepsAndStandsStillUnderTheHand) {
     model.setBoost(20);
     state.engine().setQuickBoostPercent(50);
     EXPECT_EQ(model.boostPercent(), 20);
+    state.setPhase(HelperControlPhase::unlocking);
+    EXPECT_FALSE(model.isTakingControl()) << "not under the hand";
     model.setIsBoostDragged(false);
     EXPECT_EQ(model.boostPercent(), 50);
+    EXPECT_FALSE(model.isTakingControl()) << "the next key may follow";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return model.isTakingControl(); }));
     EXPECT_TRUE(model.isBoosting());
     state.engine().setQuickBoostPercent(0);
     EXPECT_FALSE(model.isBoosting());
