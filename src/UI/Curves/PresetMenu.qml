@@ -40,6 +40,7 @@ PopupMenu {
 
     PopupMenuItem {
         text: qsTrId("curves.toolbar.newPreset")
+        hasTickColumn: true
         symbolName: "plus"
         enabled: root.model.canAddPreset
         onTriggered: root.model.createPreset()

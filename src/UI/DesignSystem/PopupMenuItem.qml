@@ -12,7 +12,9 @@ T.MenuItem {
     readonly property bool lit: highlighted && enabled
     readonly property color textColor: lit ? AppColors.onAccent
                                      : destructive ? AppColors.danger : AppColors.primaryText
-    readonly property real tickWidth: checkable ? 18 : 0
+    // Also where there is no tick: texts stand below those of checkable siblings.
+    property bool hasTickColumn: checkable
+    readonly property real tickWidth: hasTickColumn ? 18 : 0
 
     font: Typography.body
     leftPadding: 9 + tickWidth
