@@ -13,7 +13,7 @@ Item {
         onActivated: root.model.undo()
     }
     Shortcut {
-        sequence: "Ctrl+Shift+Z"
+        sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
         enabled: root.model.canRedo
         onActivated: root.model.redo()
     }

@@ -2,18 +2,17 @@ import QtQuick
 import Kestrowind.DesignSystem
 import Kestrowind.Curves
 
-// Which preset, what may be done with it, its curve, and how to draw. Height beyond the natural one
-// goes to the chart.
+// Which preset, what may be done with its curve, the curve, and what no curve can do. The chart stays
+// where it is whichever preset is shown; height beyond the natural one goes to it.
 Item {
     id: root
 
     required property CurvesModel model
 
     readonly property real chartHeight: 340
-    readonly property real noteHeight: note.visible ? note.implicitHeight + Spacing.regular : 0
 
-    implicitHeight: selector.implicitHeight + noteHeight + card.naturalHeight + hints.implicitHeight
-                    + 2 * Spacing.regular + 2 * Spacing.section
+    implicitHeight: selector.implicitHeight + terms.height + card.naturalHeight + safety.implicitHeight
+                    + 3 * Spacing.regular + 2 * Spacing.section
 
     Column {
         id: rows
@@ -31,12 +30,28 @@ Item {
             model: root.model
         }
 
-        BuiltInTemplateNote {
-            id: note
+        // A built-in one says that it cannot be changed, any other one how.
+        Item {
+            id: terms
 
-            visible: root.model.isBuiltIn
             width: parent.width
-            model: root.model
+            height: note.implicitHeight
+
+            BuiltInTemplateNote {
+                id: note
+
+                visible: root.model.isBuiltIn
+                anchors.fill: parent
+                model: root.model
+            }
+
+            HintLabel {
+                visible: !root.model.isBuiltIn
+                anchors.verticalCenter: parent.verticalCenter
+                width: parent.width
+                symbolName: "hand.draw"
+                text: qsTrId("curves.hint.howToEdit")
+            }
         }
 
         CurveEditorCard {
@@ -50,10 +65,12 @@ Item {
             help: root.model.chartHelp
         }
 
-        EditingHints {
-            id: hints
+        HintLabel {
+            id: safety
 
             width: parent.width
+            symbolName: "checkmark.shield.fill"
+            text: qsTrId("curves.caption.safety")
         }
     }
 }
