@@ -38,6 +38,9 @@
     <message id="curves.caption.safety">
         <translation>Whatever the curve says, the helper never lets the Mac get too hot.</translation>
     </message>
+    <message id="curves.chart.addPoint">
+        <translation>Add Point</translation>
+    </message>
     <message id="curves.chart.axisDegrees">
         <extracomment>%1: whole degrees Celsius</extracomment>
         <translation>%1 °C</translation>
@@ -68,6 +71,9 @@
         <extracomment>Spoken</extracomment>
         <translation>Fan curve</translation>
     </message>
+    <message id="curves.chart.lowerTemperature">
+        <translation>1 °C Cooler</translation>
+    </message>
     <message id="curves.chart.pointAccessibilityLabel">
         <extracomment>Spoken; %1: number of the point, from 1</extracomment>
         <translation>Point %1</translation>
@@ -75,6 +81,9 @@
     <message id="curves.chart.pointAccessibilityValue">
         <extracomment>Spoken; %1: whole degrees Celsius, %2: whole percent</extracomment>
         <translation>%1 °C, %2 percent</translation>
+    </message>
+    <message id="curves.chart.raiseTemperature">
+        <translation>1 °C Warmer</translation>
     </message>
     <message id="curves.chart.readOnlyHelp">
         <translation>The curve of a built-in preset cannot be changed. Customize it to get a copy of your own.</translation>

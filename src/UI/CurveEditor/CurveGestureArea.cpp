@@ -67,6 +67,8 @@ QPointF CurveGestureArea::inPlot(const QPointF& position) const {
 void CurveGestureArea::hover(const QPointF& position) {
     if (!m_chart)
         return;
+    if (assignIfChanged(m_pointer, position))
+        Q_EMIT pointerChanged();
     // Handles at the plot's edge reach beyond it; what a click would add does not.
     const bool isOver =
         m_chart->plot().contains(position) || m_chart->pointAt(inPlot(position)) >= 0;
@@ -76,6 +78,11 @@ void CurveGestureArea::hover(const QPointF& position) {
 void CurveGestureArea::setHovered(bool isHovered) {
     if (assignIfChanged(m_isHovered, isHovered))
         Q_EMIT hoveredChanged();
+}
+
+void CurveGestureArea::pressPoint(int index) {
+    m_chart->press(index);
+    Q_EMIT pointPressed(index);
 }
 
 void CurveGestureArea::hoverEnterEvent(QHoverEvent* event) {
@@ -106,7 +113,10 @@ void CurveGestureArea::mousePressEvent(QMouseEvent* event) {
     const int point = m_chart->pointAt(inPlot(event->position()));
     if (event->button() == Qt::RightButton) {
         event->setAccepted(point >= 0);
-        m_chart->requestContextMenu(point);
+        if (point >= 0) {
+            pressPoint(point);
+            m_chart->requestContextMenu(point);
+        }
         return;
     }
     event->setAccepted(point >= 0 || m_chart->plot().contains(event->position()));
@@ -117,8 +127,7 @@ void CurveGestureArea::mousePressEvent(QMouseEvent* event) {
                     .isTouch = event->device()->type() == QInputDevice::DeviceType::TouchScreen};
     if (point < 0)
         return;
-    m_chart->setCurrentPoint(point);
-    Q_EMIT pointPressed(point);
+    pressPoint(point);
     if (m_press->isTouch)
         m_hold.start();
 }
@@ -126,6 +135,8 @@ void CurveGestureArea::mousePressEvent(QMouseEvent* event) {
 void CurveGestureArea::mouseMoveEvent(QMouseEvent* event) {
     if (!m_press || !m_chart)
         return;
+    if (!m_press->isTouch)
+        hover(event->position());
     const double distance = m_press->isTouch ? touchDragDistance : mouseDragDistance;
     if (!m_press->moves) {
         if (QLineF(m_press->position, event->position()).length() < distance)
@@ -150,8 +161,10 @@ void CurveGestureArea::mouseReleaseEvent(QMouseEvent* event) {
     m_clickedPoint = press->moves ? -1 : press->point;
     if (press->moves)
         m_chart->release(inPlot(event->position()));
-    else if (press->point < 0)
-        m_chart->click(inPlot(event->position()));
+    else if (press->deletes)
+        m_chart->deletePoint(press->point);
+    else if (press->point < 0 && m_chart->click(inPlot(event->position())))
+        pressPoint(m_chart->currentPoint());
     if (press->isTouch)
         m_chart->setHoverLocation(std::nullopt);
     else
@@ -159,15 +172,9 @@ void CurveGestureArea::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void CurveGestureArea::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (!m_chart || event->button() != Qt::LeftButton)
-        return;
-    const int point = m_chart->pointAt(inPlot(event->position()));
-    if (point < 0 || point != std::exchange(m_clickedPoint, -1))
-        return;
-    m_press.reset();
-    m_hold.stop();
-    m_chart->deletePoint(point);
-    hover(event->position());
+    // Comes after the second press. That may become a drag yet: its release deletes the point.
+    if (m_press && event->button() == Qt::LeftButton)
+        m_press->deletes = m_press->point >= 0 && m_press->point == m_clickedPoint;
 }
 
 void CurveGestureArea::mouseUngrabEvent() {

@@ -21,6 +21,7 @@ class CurveGestureArea : public QQuickItem {
     Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY chartChanged
                    FINAL REQUIRED)
     Q_PROPERTY(bool hovered READ isHovered NOTIFY hoveredChanged FINAL)
+    Q_PROPERTY(QPointF pointer READ pointer NOTIFY pointerChanged FINAL)
     QML_ELEMENT
 
 public:
@@ -30,10 +31,13 @@ public:
     void setChart(FanCurveChartModel* chart);
 
     [[nodiscard]] bool isHovered() const { return m_isHovered; }
+    /// Where it was last, in this item.
+    [[nodiscard]] QPointF pointer() const { return m_pointer; }
 
 Q_SIGNALS:
     void chartChanged();
     void hoveredChanged();
+    void pointerChanged();
     /// The pointer works on this point; the keyboard should, too.
     void pointPressed(int index);
 
@@ -51,15 +55,17 @@ protected:
 
 private:
     struct Press {
-        int point = -1;     ///< -1 for the empty plot
-        QPointF position;   ///< in this item
-        bool moves = false; ///< far enough to be no click any more
+        int point = -1;       ///< -1 for the empty plot
+        QPointF position;     ///< in this item
+        bool moves = false;   ///< far enough to be no click any more
+        bool deletes = false; ///< the second of a double click
         bool isTouch = false;
     };
 
     [[nodiscard]] QPointF inPlot(const QPointF& position) const;
     void hover(const QPointF& position);
     void setHovered(bool isHovered);
+    void pressPoint(int index);
     void abandon();
     void openMenuByHolding();
     void updateCursor();
@@ -70,6 +76,7 @@ private:
     int m_clickedPoint = -1;
     QTimer m_hold;
     bool m_isHovered = false;
+    QPointF m_pointer;
 };
 
 } // namespace kestrowind

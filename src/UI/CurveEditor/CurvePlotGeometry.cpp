@@ -35,7 +35,8 @@ double CurvePlotGeometry::y(double percent) const {
 }
 
 QPointF CurvePlotGeometry::position(const FanCurvePoint& point) const {
-    return {x(point.tempC), y(point.percent)};
+    return {std::clamp(x(point.tempC), 0.0, plotSize.width()),
+            std::clamp(y(point.percent), 0.0, plotSize.height())};
 }
 
 FanCurvePoint CurvePlotGeometry::value(const QPointF& position) const {

@@ -33,6 +33,8 @@ struct CurvePlotGeometry {
 
     [[nodiscard]] double x(double temperature) const;
     [[nodiscard]] double y(double percent) const;
+    /// Of the point's handle. Stored points may lie outside of the axes: such a one is at the
+    /// plot's edge.
     [[nodiscard]] QPointF position(const FanCurvePoint& point) const;
     /// The nearest whole degree and percent inside the axes, wherever the position is.
     [[nodiscard]] FanCurvePoint value(const QPointF& position) const;

@@ -11,7 +11,7 @@ Rectangle {
 
     radius: width / 2
     color: isEditable ? "white" : AppColors.fanGradientEnd
-    border.width: isEditable ? 3 : 1.5
+    border.width: isEditable ? 2.5 : 1.5
     border.color: isEditable ? (isLit ? AppColors.accentFill : AppColors.fanGradientEnd)
                              : AppColors.popupBackground
 
@@ -19,10 +19,10 @@ Rectangle {
     Rectangle {
         z: -1
         visible: root.isEditable
-        x: -2
+        x: -1.5
         y: -1
-        width: parent.width + 4
-        height: parent.height + 4
+        width: parent.width + 3
+        height: parent.height + 2.5
         radius: width / 2
         color: Qt.alpha("black", root.isLit ? 0.26 : 0.16)
 

@@ -48,9 +48,11 @@ QVariant CurvePointRows::data(const QModelIndex& index, int role) const {
     const FanCurvePoint& point = m_geometry.points[index.row()];
     switch (role) {
     case XRole:
-        return m_geometry.x(point.tempC);
+        return m_geometry.position(point).x();
     case YRole:
-        return m_geometry.y(point.percent);
+        return m_geometry.position(point).y();
+    case PercentRole:
+        return point.percent;
     case SpokenLabelRole:
         return localized("curves.chart.pointAccessibilityLabel").arg(index.row() + 1);
     case SpokenValueRole:
@@ -65,6 +67,7 @@ QVariant CurvePointRows::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> CurvePointRows::roleNames() const {
     return {{XRole, QByteArrayLiteral("plotX")},
             {YRole, QByteArrayLiteral("plotY")},
+            {PercentRole, QByteArrayLiteral("percent")},
             {SpokenLabelRole, QByteArrayLiteral("spokenLabel")},
             {SpokenValueRole, QByteArrayLiteral("spokenValue")}};
 }

@@ -15,7 +15,7 @@ class CurvePointRows : public QAbstractListModel {
     QML_UNCREATABLE("part of FanCurveChartModel")
 
 public:
-    enum Role { XRole = Qt::UserRole, YRole, SpokenLabelRole, SpokenValueRole };
+    enum Role { XRole = Qt::UserRole, YRole, PercentRole, SpokenLabelRole, SpokenValueRole };
 
     using QAbstractListModel::QAbstractListModel;
 

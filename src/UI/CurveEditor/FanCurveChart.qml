@@ -13,14 +13,12 @@ FocusScope {
     // For bubbles, in the plot: they may cover the margins, too.
     readonly property rect bubbleBounds: Qt.rect(-40, -14, width - 12, height)
 
-    property bool hadFocusBeforeMenu: false
+    readonly property point pointer: gestures.pointer
 
-    // A point that goes takes the keyboard with it; the current one has it next.
-    function keepKeyboard(): void {
-        const shown = model.hasKeyboardFocus
-        if (model.currentPoint >= 0 && model.currentPoint < handles.count)
+    // The current point has the keyboard; whether that shows, the model says.
+    function giveKeyboard(): void {
+        if (model.currentPoint < handles.count)
             handles.itemAt(model.currentPoint).forceActiveFocus()
-        model.hasKeyboardFocus = shown
     }
 
     implicitWidth: 700
@@ -81,18 +79,19 @@ FocusScope {
 
         anchors.fill: parent
         chart: root.model
-        onPointPressed: index => {
-            handles.itemAt(index).forceActiveFocus()
-            // The ring appears with the first key.
-            root.model.hasKeyboardFocus = false
-        }
+        onPointPressed: root.giveKeyboard()
     }
 
     CurvePointMenu {
         id: menu
 
+        property bool isByKeyboard: false
+
         chart: root.model
-        onClosed: if (root.hadFocusBeforeMenu) root.keepKeyboard()
+        onClosed: {
+            root.model.hasKeyboardFocus = isByKeyboard
+            root.giveKeyboard()
+        }
     }
 
     Connections {
@@ -100,13 +99,18 @@ FocusScope {
         function onContextMenuRequested(index: int) {
             const handle = handles.itemAt(index)
             menu.point = index
-            root.hadFocusBeforeMenu = root.activeFocus
+            menu.isByKeyboard = !root.model.isLedByPointer
             menu.popup(plot, handle.x + handle.width, handle.y + handle.height)
+            menu.currentIndex = menu.isByKeyboard ? 0 : -1
+        }
+        function onCurrentPointChanged() {
+            if (root.activeFocus)
+                root.giveKeyboard()
         }
         function onCurveChanged() {
             menu.close()
-            if (root.activeFocus && root.model.draggedPoint < 0)
-                root.keepKeyboard()
+            if (root.activeFocus)
+                root.giveKeyboard()
         }
     }
 }

@@ -10,8 +10,7 @@ namespace kestrowind {
 namespace {
 
 constexpr double liveLabelMargin = 24; ///< of its centre from the plot's sides, points
-constexpr double fineStep = 1;         ///< degrees or percent
-constexpr double coarseStep = 5;
+constexpr double coarseStep = 5;       ///< with Shift, degrees or percent
 
 } // namespace
 
@@ -25,8 +24,10 @@ void FanCurveChartModel::setCurve(const FanCurve& curve) {
     m_curve = curve;
     if (!isPoint(m_draggedPoint))
         setDraggedPoint(-1);
+    // The keyboard stays with its point; when that is gone, the next one takes its place.
+    const QPersistentModelIndex current = m_points.index(m_currentPoint);
     m_points.setGeometry(geometry());
-    setCurrentPoint(m_currentPoint);
+    setCurrentPoint(current.isValid() ? current.row() : m_currentPoint);
     Q_EMIT curveChanged();
     updateMarks();
     setMotion(Motion::None);
@@ -83,8 +84,14 @@ void FanCurveChartModel::setCurrentPoint(int index) {
 void FanCurveChartModel::setHasKeyboardFocus(bool hasKeyboardFocus) {
     if (!assignIfChanged(m_hasKeyboardFocus, hasKeyboardFocus))
         return;
+    setLedByPointer(!hasKeyboardFocus);
     Q_EMIT hasKeyboardFocusChanged();
     updateMarks();
+}
+
+void FanCurveChartModel::setLedByPointer(bool isLedByPointer) {
+    if (assignIfChanged(m_isLedByPointer, isLedByPointer))
+        updateMarks();
 }
 
 void FanCurveChartModel::setDraggedPoint(int index) {
@@ -121,7 +128,8 @@ void FanCurveChartModel::updateMarks() {
 int FanCurveChartModel::pointWithCallout() const {
     if (m_draggedPoint >= 0)
         return m_draggedPoint;
-    return m_hoveredPoint < 0 && m_hasKeyboardFocus ? m_currentPoint : m_hoveredPoint;
+    const bool isAtKeyboard = m_hasKeyboardFocus && (!m_isLedByPointer || m_hoveredPoint < 0);
+    return isAtKeyboard ? m_currentPoint : m_hoveredPoint;
 }
 
 CurveCallout FanCurveChartModel::ghostAtHover() const {
@@ -144,7 +152,8 @@ CurveLiveMarker FanCurveChartModel::liveMarker() const {
     const double rightmost = std::max(m_plot.width() - liveLabelMargin, liveLabelMargin);
     return {.isShown = true,
             .x = x,
-            .operatingY = plot.y(m_curve.percent(*m_liveTemperature)),
+            .operatingY =
+                plot.position({*m_liveTemperature, m_curve.percent(*m_liveTemperature)}).y(),
             .labelX = std::clamp(x, liveLabelMargin, rightmost),
             .temperature = *m_liveTemperature,
             .text = localized("curves.chart.axisDegrees").arg(std::lround(*m_liveTemperature))};
@@ -153,13 +162,21 @@ CurveLiveMarker FanCurveChartModel::liveMarker() const {
 // --- pointers ----------------------------------------------------------------------------------
 
 void FanCurveChartModel::setHoverLocation(const std::optional<QPointF>& location) {
-    if (assignIfChanged(m_hoverLocation, location))
-        updateMarks();
+    if (!assignIfChanged(m_hoverLocation, location))
+        return;
+    m_isLedByPointer = true;
+    updateMarks();
 }
 
 int FanCurveChartModel::pointAt(const QPointF& position) const {
     // Where a click would add a point, no other one is meant.
     return m_isEditable && !geometry().candidateAt(position) ? geometry().pointAt(position) : -1;
+}
+
+void FanCurveChartModel::press(int index) {
+    setCurrentPoint(index);
+    setHasKeyboardFocus(false);
+    setLedByPointer(true);
 }
 
 void FanCurveChartModel::drag(int index, const QPointF& position) {
@@ -186,11 +203,21 @@ void FanCurveChartModel::cancelDrag() {
     Q_EMIT dragCancelled();
 }
 
-void FanCurveChartModel::click(const QPointF& position) {
-    if (!m_isEditable || m_draggedPoint >= 0)
-        return;
-    if (const auto candidate = geometry().candidateAt(position))
-        Q_EMIT addPoint(candidate->point.tempC, candidate->point.percent);
+bool FanCurveChartModel::click(const QPointF& position) {
+    return m_isEditable && m_draggedPoint < 0 && add(geometry().candidateAt(position));
+}
+
+bool FanCurveChartModel::add(const std::optional<Candidate>& candidate) {
+    if (!candidate)
+        return false;
+    const QList<FanCurvePoint>& points = m_curve.points();
+    const qsizetype count = points.size();
+    Q_EMIT addPoint(candidate->point.tempC, candidate->point.percent);
+    if (points.size() == count)
+        return false;
+    const auto added = std::ranges::find(points, candidate->point.tempC, &FanCurvePoint::tempC);
+    setCurrentPoint(static_cast<int>(added - points.begin()));
+    return true;
 }
 
 void FanCurveChartModel::deletePoint(int index) {
@@ -208,6 +235,7 @@ void FanCurveChartModel::requestContextMenu(int index) {
 bool FanCurveChartModel::pressKey(int index, int key, Qt::KeyboardModifiers modifiers) {
     if (!isPoint(index))
         return false;
+    setLedByPointer(false);
     if (m_draggedPoint >= 0) {
         // One hand at a time; the way out is always open.
         if (key == Qt::Key_Escape)
@@ -224,7 +252,8 @@ bool FanCurveChartModel::pressKey(int index, int key, Qt::KeyboardModifiers modi
     switch (key) {
     case Qt::Key_Insert:
     case Qt::Key_N:
-        return addAfter(index);
+        add(candidateAfter(index));
+        return true;
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
         deletePoint(index);
@@ -237,7 +266,7 @@ bool FanCurveChartModel::pressKey(int index, int key, Qt::KeyboardModifiers modi
             requestContextMenu(index);
         return isShifted;
     default:
-        return nudgePoint(index, key, isShifted ? coarseStep : fineStep);
+        return nudge(index, key, isShifted ? coarseStep : fineStep);
     }
 }
 
@@ -260,7 +289,7 @@ bool FanCurveChartModel::choosePoint(int key) {
     }
 }
 
-bool FanCurveChartModel::nudgePoint(int index, int key, double step) {
+bool FanCurveChartModel::nudge(int index, int key, double step) {
     FanCurvePoint to = m_curve.points()[index];
     switch (key) {
     case Qt::Key_Left:
@@ -278,27 +307,42 @@ bool FanCurveChartModel::nudgePoint(int index, int key, double step) {
     default:
         return false;
     }
-    Q_EMIT movePoint(
-        index, std::clamp(to.tempC, FanCurve::lowestTemperature, FanCurve::highestTemperature),
-        std::clamp(to.percent, 0.0, FanCurve::highestPercent), true);
+    requestNudge(index, to);
     return true;
 }
 
-bool FanCurveChartModel::addAfter(int index) {
+void FanCurveChartModel::requestNudge(int index, const FanCurvePoint& to) {
+    Q_EMIT nudgePoint(
+        index, std::clamp(to.tempC, FanCurve::lowestTemperature, FanCurve::highestTemperature),
+        std::clamp(to.percent, 0.0, FanCurve::highestPercent));
+}
+
+void FanCurveChartModel::setPercent(int index, double percent) {
+    if (!m_isEditable || !isPoint(index) || m_draggedPoint >= 0 || !std::isfinite(percent))
+        return;
+    setLedByPointer(false);
+    setCurrentPoint(index);
+    requestNudge(index, {m_curve.points()[index].tempC, std::round(percent)});
+}
+
+void FanCurveChartModel::addPointAnywhere() {
+    if (!m_isEditable || m_draggedPoint >= 0)
+        return;
+    const double temperature = m_liveTemperature.value_or(FanCurve::lowestTemperature);
+    const CurvePlotGeometry plot = geometry();
+    if (!add(plot.candidateAt(plot.position({temperature, m_curve.percent(temperature)}))))
+        add(candidateAfter(m_currentPoint));
+}
+
+std::optional<CurvePlotGeometry::Candidate> FanCurveChartModel::candidateAfter(int index) const {
+    if (!isPoint(index))
+        return std::nullopt;
     const FanCurvePoint& point = m_curve.points()[index];
     // After the last point the curve runs flat to the end of the axis.
     const FanCurvePoint next = isPoint(index + 1)
                                    ? m_curve.points()[index + 1]
                                    : FanCurvePoint{FanCurve::highestTemperature, point.percent};
-    const QPointF middle = (geometry().position(point) + geometry().position(next)) / 2;
-    const auto candidate = geometry().candidateAt(middle);
-    if (!candidate)
-        return true;
-    const qsizetype count = m_curve.points().size();
-    Q_EMIT addPoint(candidate->point.tempC, candidate->point.percent);
-    if (m_curve.points().size() > count)
-        setCurrentPoint(index + 1);
-    return true;
+    return geometry().candidateAt((geometry().position(point) + geometry().position(next)) / 2);
 }
 
 } // namespace kestrowind

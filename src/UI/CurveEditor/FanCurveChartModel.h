@@ -26,6 +26,7 @@ class FanCurveChartModel : public QObject {
     Q_PROPERTY(bool isIdle READ isIdle NOTIFY marksChanged FINAL)
     Q_PROPERTY(
         int currentPoint READ currentPoint WRITE setCurrentPoint NOTIFY currentPointChanged FINAL)
+    Q_PROPERTY(bool isLedByPointer READ isLedByPointer NOTIFY marksChanged FINAL)
     Q_PROPERTY(bool hasKeyboardFocus READ hasKeyboardFocus WRITE setHasKeyboardFocus NOTIFY
                    hasKeyboardFocusChanged FINAL)
     Q_PROPERTY(kestrowind::CurveCallout callout READ callout NOTIFY marksChanged FINAL)
@@ -42,6 +43,9 @@ public:
         Live, ///< the temperature is another
     };
     Q_ENUM(Motion)
+
+    /// Of a key that moves a point; degrees or percent.
+    static constexpr double fineStep = 1;
 
     using QObject::QObject;
 
@@ -77,7 +81,10 @@ public:
     void setCurrentPoint(int index);
     [[nodiscard]] bool hasKeyboardFocus() const { return m_hasKeyboardFocus; }
     void setHasKeyboardFocus(bool hasKeyboardFocus);
-    /// The values of the point that is dragged, worked on by keyboard, or pointed at.
+    /// Whether what was last used is the pointer, and not the keyboard.
+    [[nodiscard]] bool isLedByPointer() const { return m_isLedByPointer; }
+    /// The values of the point that is dragged, else of the one that is pointed at or worked on by
+    /// keyboard: of what was last used.
     [[nodiscard]] const CurveCallout& callout() const { return m_callout; }
     /// The point that a click would add.
     [[nodiscard]] const CurveCallout& ghost() const { return m_ghost; }
@@ -88,13 +95,16 @@ public:
     void setHoverLocation(const std::optional<QPointF>& location);
     /// The point that a press there is meant for; -1 for none, and while nothing can be edited.
     [[nodiscard]] int pointAt(const QPointF& position) const;
+    /// The point becomes the current one.
+    void press(int index);
     /// Begins dragging the point, or goes on.
     void drag(int index, const QPointF& position);
     /// Ends a drag where it was let go.
     void release(const QPointF& position);
     /// Ends a drag as if it had not been.
     void cancelDrag();
-    void click(const QPointF& position);
+    /// Adds a point where there is room, which becomes the current one; false where there is none.
+    bool click(const QPointF& position);
     Q_INVOKABLE void deletePoint(int index);
     void requestContextMenu(int index);
 
@@ -103,10 +113,17 @@ public:
     Q_INVOKABLE bool pressKey(int index, int key, int modifiers) {
         return pressKey(index, key, Qt::KeyboardModifiers(modifiers));
     }
+    // What assistive technology does beside that.
+    Q_INVOKABLE void setPercent(int index, double percent);
+    /// Adds a point at the live temperature, or else after the current one.
+    Q_INVOKABLE void addPointAnywhere();
+    Q_INVOKABLE bool hasRoomAfter(int index) const { return candidateAfter(index).has_value(); }
 
 Q_SIGNALS:
     /// A point is to go to whole degrees and percent; only the final step is to be kept.
     void movePoint(int index, double temperature, double percent, bool isFinal);
+    /// The same by keyboard, a small step of perhaps many.
+    void nudgePoint(int index, double temperature, double percent);
     void addPoint(double temperature, double percent);
     void deletePointRequested(int index);
     /// The steps since the last final one are to be forgotten.
@@ -133,8 +150,12 @@ private:
         return index >= 0 && index < m_curve.points().size();
     }
     bool choosePoint(int key);
-    bool nudgePoint(int index, int key, double step);
-    bool addAfter(int index);
+    bool nudge(int index, int key, double step);
+    void requestNudge(int index, const FanCurvePoint& to);
+    using Candidate = CurvePlotGeometry::Candidate;
+    [[nodiscard]] std::optional<Candidate> candidateAfter(int index) const;
+    bool add(const std::optional<Candidate>& candidate);
+    void setLedByPointer(bool isLedByPointer);
 
     FanCurve m_curve;
     bool m_isEditable = false;
@@ -147,6 +168,7 @@ private:
     int m_hoveredPoint = -1;
     int m_currentPoint = 0;
     bool m_hasKeyboardFocus = false;
+    bool m_isLedByPointer = false;
     std::optional<QPointF> m_hoverLocation;
     CurveCallout m_callout;
     CurveCallout m_ghost;

@@ -2,7 +2,7 @@ import QtQuick
 import Kestrowind.CurveEditor
 import Kestrowind.DesignSystem
 
-// The chart on its card. The help appears below it, and only while nothing is being drawn.
+// The chart on its card. The help appears at the pointer, and only while nothing is being drawn.
 Item {
     id: root
 
@@ -12,6 +12,7 @@ Item {
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTrId("curves.chart.label")
     Accessible.description: help
+    Accessible.onPressAction: chart.addPointAnywhere()
 
     CardBackground {
         anchors.fill: parent
@@ -29,7 +30,12 @@ Item {
     }
 
     Tooltip {
+        property point place
+
         text: root.help
+        x: place.x - width / 2
+        y: place.y + 20 + height < root.height ? place.y + 20 : place.y - 8 - height
+        onAboutToShow: place = editor.mapToItem(root, editor.pointer)
         shown: editor.isPointedAt && root.chart.isIdle && !editor.isMenuOpen
         delay: 1500
     }

@@ -8,6 +8,7 @@
 #include <QKeySequence>
 
 #include <algorithm>
+#include <utility>
 
 namespace kestrowind {
 namespace {
@@ -22,9 +23,9 @@ QString withKeys(const char* key, const QKeySequence& keys) {
 
 } // namespace
 
-CurvesModel::CurvesModel(AppState& appState, CurveEditHistory& history, QObject* parent)
-    : QObject(parent)
-    , m_appState(appState)
+CurvesModel::CurvesModel(AppState& appState, CurveEditHistory& history,
+                         std::chrono::milliseconds pause)
+    : m_appState(appState)
     , m_history(history) {
     const PresetStore& presets = appState.presets();
     connect(&presets, &PresetStore::presetsChanged, this, &CurvesModel::refresh);
@@ -34,14 +35,22 @@ CurvesModel::CurvesModel(AppState& appState, CurveEditHistory& history, QObject*
             &CurvesModel::refreshTelemetry);
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &CurvesModel::refreshTelemetry);
     connect(&m_chart, &FanCurveChartModel::movePoint, this, &CurvesModel::movePoint);
+    connect(&m_chart, &FanCurveChartModel::nudgePoint, this, &CurvesModel::nudgePoint);
     connect(&m_chart, &FanCurveChartModel::addPoint, this, &CurvesModel::addPoint);
     connect(&m_chart, &FanCurveChartModel::deletePointRequested, this, &CurvesModel::deletePoint);
     connect(&m_chart, &FanCurveChartModel::dragCancelled, this, &CurvesModel::forgetDraft);
+    m_nudges.setSingleShot(true);
+    m_nudges.setInterval(pause);
+    connect(&m_nudges, &QTimer::timeout, this, &CurvesModel::storeNudges);
 
     if (const auto selected = selectedPreset())
         m_selectedPresetID = selected->id;
     refresh();
     refreshTelemetry();
+}
+
+CurvesModel::~CurvesModel() {
+    storeNudges();
 }
 
 // --- the preset that is shown -------------------------------------------------------------------
@@ -62,10 +71,9 @@ std::optional<FanPreset> CurvesModel::selectedPreset() const {
 }
 
 void CurvesModel::setSelectedPresetID(const std::optional<QUuid>& id) {
-    if (!assignIfChanged(m_selectedPresetID, id))
-        return;
-    m_draftPreset.reset();
-    refresh();
+    storeNudges();
+    if (assignIfChanged(m_selectedPresetID, id))
+        forgetDraft();
 }
 
 std::optional<FanPreset> CurvesModel::displayedPreset() const {
@@ -146,24 +154,46 @@ FanPreset CurvesModel::withCurve(FanPreset preset, const FanCurve& curve) const 
     return preset;
 }
 
-void CurvesModel::movePoint(int index, double temperature, double percent, bool isFinal) {
+std::optional<FanPreset> CurvesModel::withMovedPoint(int index, double temperature,
+                                                     double percent) const {
     const auto preset = editablePreset();
     if (!preset)
-        return;
+        return std::nullopt;
     FanCurve curve = displayedCurve(*preset);
     curve.move(index, {.tempC = std::clamp(temperature, FanCurve::lowestTemperature,
                                            FanCurve::highestTemperature),
                        .percent = std::clamp(percent, 0.0, FanCurve::highestPercent)});
-    const FanPreset edited = withCurve(*preset, curve);
-    if (isFinal) {
-        commit(edited);
-    } else {
-        m_draftPreset = edited;
-        refresh();
-    }
+    return withCurve(*preset, curve);
+}
+
+void CurvesModel::movePoint(int index, double temperature, double percent, bool isFinal) {
+    storeNudges();
+    const auto edited = withMovedPoint(index, temperature, percent);
+    if (edited && isFinal)
+        commit(*edited);
+    else if (edited)
+        setDraft(edited);
+}
+
+void CurvesModel::nudgePoint(int index, double temperature, double percent) {
+    if (index != m_nudgedPoint)
+        storeNudges();
+    const auto edited = withMovedPoint(index, temperature, percent);
+    if (!edited || edited->curves == displayedPreset()->curves)
+        return;
+    m_nudgedPoint = index;
+    m_nudges.start();
+    setDraft(edited);
+}
+
+void CurvesModel::storeNudges() {
+    m_nudges.stop();
+    if (std::exchange(m_nudgedPoint, -1) >= 0 && m_draftPreset)
+        commit(FanPreset(*m_draftPreset));
 }
 
 void CurvesModel::addPoint(double temperature, double percent) {
+    storeNudges();
     const auto preset = editablePreset();
     if (!preset)
         return;
@@ -175,6 +205,7 @@ void CurvesModel::addPoint(double temperature, double percent) {
 }
 
 void CurvesModel::deletePoint(int index) {
+    storeNudges();
     const auto preset = editablePreset();
     if (!preset)
         return;
@@ -186,9 +217,13 @@ void CurvesModel::deletePoint(int index) {
 }
 
 void CurvesModel::commit(const FanPreset& edited) {
-    if (const auto stored = m_appState.presets().preset(edited.id))
-        m_history.record(edited.id, stored->curves, edited.curves);
-    storeAndPush(edited);
+    auto preset = m_appState.presets().preset(edited.id);
+    if (!preset)
+        return;
+    m_history.record(edited.id, preset->curves, edited.curves);
+    // What else of it was changed meanwhile stays.
+    preset->curves = edited.curves;
+    storeAndPush(*preset);
 }
 
 void CurvesModel::storeAndPush(const FanPreset& preset) {
@@ -200,12 +235,18 @@ void CurvesModel::storeAndPush(const FanPreset& preset) {
     m_appState.engine().pushSoon();
 }
 
-void CurvesModel::forgetDraft() {
-    m_draftPreset.reset();
+void CurvesModel::setDraft(const std::optional<FanPreset>& draft) {
+    m_draftPreset = draft;
     refresh();
 }
 
+void CurvesModel::forgetDraft() {
+    setDraft(std::nullopt);
+}
+
 bool CurvesModel::canUndo() const {
+    if (m_nudgedPoint >= 0)
+        return true;
     return !m_draftPreset && m_shown && m_history.canUndo(m_shown->id, m_shown->curves);
 }
 
@@ -222,6 +263,7 @@ QString CurvesModel::redoHelp() {
 }
 
 void CurvesModel::undo() {
+    storeNudges();
     if (!canUndo())
         return;
     FanPreset preset = shown();
@@ -248,8 +290,10 @@ void CurvesModel::setView(QQuickItem* view) {
 
 void CurvesModel::refresh() {
     // A draft of what is gone is no use to anybody.
-    if (m_draftPreset && !m_appState.presets().preset(m_draftPreset->id))
+    if (m_draftPreset && !m_appState.presets().preset(m_draftPreset->id)) {
         m_draftPreset.reset();
+        m_nudgedPoint = -1;
+    }
     const QUuid shownBefore = shown().id;
     m_shown = displayedPreset();
     if (shown().id != shownBefore)

@@ -8,8 +8,10 @@
 
 #include <QObject>
 #include <QQuickItem>
+#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
+#include <chrono>
 #include <optional>
 
 namespace kestrowind {
@@ -20,8 +22,9 @@ class CurveEditHistory;
 /// The curves screen: which preset is shown, and every edit of its curve. One curve drives every
 /// fan: an edit takes the preset's first curve and writes it back once for each fan.
 ///
-/// While a point is dragged, its steps are in `draftPreset` alone; all other edits are stored and
-/// pushed to the fans at once. Belongs to the main thread.
+/// While a point is dragged, its steps are in `draftPreset` alone, and so are its nudges until none
+/// has come for a while: a drag or a row of nudges is stored once, and is one edit to undo. All
+/// other edits are stored and pushed to the fans at once. Belongs to the main thread.
 class CurvesModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool hasPreset READ hasPreset NOTIFY presetChanged FINAL)
@@ -44,8 +47,15 @@ class CurvesModel final : public QObject {
     QML_UNCREATABLE("made with the application's state")
 
 public:
-    /// Both must outlive the model; the history is that of the whole run of the application.
-    CurvesModel(AppState& appState, CurveEditHistory& history, QObject* parent = nullptr);
+    /// Nudges of one point that follow each other within this time are one edit.
+    static constexpr std::chrono::milliseconds nudgePause{1000};
+
+    /// State and history must outlive the model; the history is that of the whole run of the
+    /// application.
+    CurvesModel(AppState& appState, CurveEditHistory& history,
+                std::chrono::milliseconds pause = nudgePause);
+    /// Stores the nudges that are not stored yet.
+    ~CurvesModel() override;
 
     /// The preset chosen here if it exists, else the active one, else the first user preset, else
     /// the first preset.
@@ -54,7 +64,7 @@ public:
         return m_selectedPresetID;
     }
     void setSelectedPresetID(const std::optional<QUuid>& id);
-    /// The preset in the middle of a drag; nothing of it is stored.
+    /// The preset in the middle of a drag or of nudges; nothing of it is stored.
     [[nodiscard]] const std::optional<FanPreset>& draftPreset() const { return m_draftPreset; }
     /// The draft, else the selected one.
     [[nodiscard]] std::optional<FanPreset> displayedPreset() const;
@@ -97,6 +107,8 @@ Q_SIGNALS:
 
 private:
     void movePoint(int index, double temperature, double percent, bool isFinal);
+    void nudgePoint(int index, double temperature, double percent);
+    void storeNudges();
     void addPoint(double temperature, double percent);
     void deletePoint(int index);
     void forgetDraft();
@@ -108,6 +120,9 @@ private:
     [[nodiscard]] QString newPresetName() const;
     /// Stores an edit and asks for a push.
     void commit(const FanPreset& edited);
+    void setDraft(const std::optional<FanPreset>& draft);
+    [[nodiscard]] std::optional<FanPreset> withMovedPoint(int index, double temperature,
+                                                          double percent) const;
     void storeAndPush(const FanPreset& preset);
     void refresh();
     void refreshChoices();
@@ -121,6 +136,9 @@ private:
     PresetChoices m_userPresets;
     PresetChoices m_builtInPresets;
     FanCurveChartModel m_chart;
+    /// The point whose nudges are in the draft; -1 for none.
+    int m_nudgedPoint = -1;
+    QTimer m_nudges; ///< runs until they are stored
     VisibilityWatch m_visibility;
 };
 

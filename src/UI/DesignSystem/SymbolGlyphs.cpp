@@ -31,6 +31,7 @@ constexpr std::array table = {
     Entry{"checkmark.seal.fill"_L1, 0xef76},              // verified
     Entry{"checkmark.shield.fill"_L1, 0xe8e8},            // verified_user
     Entry{"chevron.down"_L1, 0xe5cf},                     // expand_more
+    Entry{"chevron.left"_L1, 0xe5cb},                     // chevron_left
     Entry{"chevron.right"_L1, 0xe5cc},                    // chevron_right
     Entry{"chevron.up.chevron.down"_L1, 0xe5d7},          // unfold_more
     Entry{"cpu"_L1, 0xe322},                              // memory

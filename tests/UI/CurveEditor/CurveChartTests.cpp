@@ -74,10 +74,10 @@ TEST_F(CurveChart, TakesEditsFromTheKeyboard) {
         QString edit;
     };
     const Row rows[] = {
-        {Qt::Key_Right, Qt::NoModifier, u"move 1: 61 50"_s},
-        {Qt::Key_Left, Qt::ShiftModifier, u"move 1: 56 50"_s},
-        {Qt::Key_Up, Qt::KeypadModifier, u"move 1: 56 51"_s},
-        {Qt::Key_Down, Qt::ShiftModifier, u"move 1: 56 46"_s},
+        {Qt::Key_Right, Qt::NoModifier, u"nudge 1: 61 50"_s},
+        {Qt::Key_Left, Qt::ShiftModifier, u"nudge 1: 56 50"_s},
+        {Qt::Key_Up, Qt::KeypadModifier, u"nudge 1: 56 51"_s},
+        {Qt::Key_Down, Qt::ShiftModifier, u"nudge 1: 56 46"_s},
         {Qt::Key_N, Qt::NoModifier, u"add: 68 73"_s},
         {Qt::Key_Delete, Qt::NoModifier, u"delete 2"_s},
         {Qt::Key_Insert, Qt::NoModifier, u"add: 95 100"_s}, // after the last: half of the flat part
@@ -117,6 +117,45 @@ TEST_F(CurveChart, ChoosesPointsByKeyAlsoWhereNothingCanBeEdited) {
     EXPECT_TRUE(owner.said.isEmpty());
     chart.setHasKeyboardFocus(true);
     EXPECT_EQ(chart.callout().text, u"40 °C · 20%"_s);
+}
+
+TEST_F(CurveChart, KeepsTheKeyboardAtItsPointWhateverComesOrGoesBeforeIt) {
+    chart.setCurrentPoint(1);
+    chart.setCurve(FanCurve({{30, 10}, {40, 20}, {60, 50}, {80, 100}}));
+    EXPECT_EQ(chart.currentPoint(), 2);
+    chart.setCurve(FanCurve({{40, 20}, {60, 50}, {80, 100}}));
+    EXPECT_EQ(chart.currentPoint(), 1);
+    chart.setCurve(FanCurve({{40, 20}, {80, 100}}));
+    EXPECT_EQ(chart.currentPoint(), 1) << "the one after it";
+    EXPECT_TRUE(chart.click({25, 20}));
+    EXPECT_EQ(chart.currentPoint(), 0) << "what was added";
+    EXPECT_FALSE(chart.click({25, 20}));
+}
+
+TEST_F(CurveChart, TellsTheValuesOfThePointThatWasWorkedOnLast) {
+    chart.setHasKeyboardFocus(true);
+    EXPECT_EQ(chart.callout().text, u"40 °C · 20%"_s);
+    chart.setHoverLocation(QPointF(200, 100));
+    EXPECT_EQ(chart.callout().text, u"60 °C · 50%"_s);
+    chart.pressKey(0, Qt::Key_Home, Qt::NoModifier);
+    EXPECT_EQ(chart.callout().text, u"40 °C · 20%"_s) << "the pointer rests";
+    chart.setHoverLocation(QPointF(201, 100));
+    EXPECT_EQ(chart.callout().text, u"60 °C · 50%"_s);
+}
+
+TEST_F(CurveChart, AddsPointsForThoseWhoCannotPoint) {
+    chart.setLiveTemperature(70);
+    chart.addPointAnywhere();
+    chart.addPointAnywhere(); // no room: after the current one
+    EXPECT_EQ(owner.takeEdits(), (QStringList{u"add: 70 75"_s, u"add: 75 88"_s}));
+    chart.setCurve({});
+    EXPECT_FALSE(chart.hasRoomAfter(0));
+    chart.addPointAnywhere();
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"add: 70 0"_s});
+    chart.setIsEditable(false);
+    chart.addPointAnywhere();
+    chart.setPercent(0, 50);
+    EXPECT_TRUE(owner.said.isEmpty());
 }
 
 TEST_F(CurveChart, KeepsWhatShowsAPointWithIt) {

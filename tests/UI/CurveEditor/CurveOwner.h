@@ -26,6 +26,13 @@ public:
                         stored.reset();
                     chart.setCurve(moved);
                 });
+        connect(&chart, &FanCurveChartModel::nudgePoint, this,
+                [this](int index, double temperature, double percent) {
+                    say(QStringLiteral("nudge %1").arg(index), temperature, percent);
+                    FanCurve moved = chart.curve();
+                    moved.move(index, {temperature, percent});
+                    chart.setCurve(moved);
+                });
         connect(&chart, &FanCurveChartModel::addPoint, this,
                 [this](double temperature, double percent) {
                     say(QStringLiteral("add"), temperature, percent);

@@ -13,6 +13,7 @@ namespace kestrowind {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 const FanCurve ramp({{40, 20}, {60, 50}, {80, 100}});
 
@@ -36,7 +37,8 @@ protected:
         return reopen();
     }
     CurvesModel& reopen() {
-        model = std::make_unique<CurvesModel>(*state->appState, history);
+        model.reset();
+        model = std::make_unique<CurvesModel>(*state->appState, history, nudgePause);
         model->chart()->setSize({450 + 64, 200 + 44}); // 5 points a degree, 2 a percent
         return *model;
     }
@@ -54,6 +56,7 @@ protected:
         return state->presets().preset(*model->selectedPresetID())->curves;
     }
 
+    std::chrono::milliseconds nudgePause = 0ms;
     std::unique_ptr<TestState> state;
     CurveEditHistory history;
     std::unique_ptr<CurvesModel> model;
@@ -224,6 +227,60 @@ TEST_F(CurvesScreen, TakesEditsBackAndMakesThemAgain) {
     state->presets().update(foreign);
     EXPECT_EQ(model->chart()->curve(), foreign.curves[0]);
     EXPECT_FALSE(model->canUndo() || model->canRedo()) << "what others changed is not ours";
+}
+
+TEST_F(CurvesScreen, StoresARowOfNudgesAsOneEdit) {
+    nudgePause = 1h;
+    open({preset(u"A"_s), preset(u"B"_s)});
+    const auto nudge = [&](int point, int times) {
+        for (int time = 0; time < times; ++time)
+            model->chart()->pressKey(point, Qt::Key_Up, Qt::NoModifier);
+    };
+    const auto percents = [&] {
+        QList<double> list;
+        for (const FanCurvePoint& point : state->presets().presets().last().curves[0].points())
+            list.append(point.percent);
+        return list;
+    };
+    model->selectUserPreset(1);
+    const ino_t before = fileNumber();
+    nudge(2, 5); // at the top already
+    EXPECT_FALSE(model->canUndo());
+    nudge(1, 300);
+    EXPECT_EQ(model->chart()->curve().points()[1].percent, 100);
+    EXPECT_EQ(fileNumber(), before);
+    EXPECT_TRUE(model->canUndo());
+    model->undo();
+    EXPECT_EQ(model->chart()->curve(), ramp);
+    EXPECT_FALSE(model->canUndo());
+
+    // Whatever comes next, nothing is lost.
+    nudge(1, 3);
+    nudge(0, 1);
+    EXPECT_EQ(percents(), QList<double>({20, 53, 100})) << "another point";
+    model->chart()->drag(2, {300, 100});
+    EXPECT_EQ(percents(), QList<double>({21, 53, 100}));
+    model->chart()->cancelDrag();
+    nudge(1, 1);
+    model->selectUserPreset(0);
+    EXPECT_EQ(percents(), QList<double>({21, 54, 100}));
+    model->selectUserPreset(1);
+    nudge(1, 1);
+    FanPreset renamed = state->presets().presets().last();
+    renamed.name = u"C"_s;
+    state->presets().update(renamed);
+    model->chart()->deletePoint(2);
+    EXPECT_EQ(percents(), QList<double>({21, 55}));
+    EXPECT_EQ(state->presets().presets().last().name, u"C"_s);
+    nudge(1, 1);
+    model.reset();
+    EXPECT_EQ(percents(), QList<double>({21, 56}));
+
+    nudgePause = 1ms;
+    reopen().selectUserPreset(1);
+    nudge(1, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return percents() == QList<double>({21, 57}); }));
+    state->presets().remove(state->presets().presets().last());
 }
 
 TEST(CurveEditHistories, ForgetTheOldestEditsAndDeletedPresets) {
