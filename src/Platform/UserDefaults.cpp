@@ -72,9 +72,10 @@ void removeAbandonedLock(const QSettings& store) {
 
 } // namespace
 
-UserDefaults::UserDefaults(const QStringList& arguments, std::unique_ptr<QSettings> store)
+UserDefaults::UserDefaults(const QStringList& arguments, OpenStore openStore)
     : m_arguments(parseArguments(arguments))
-    , m_store(std::move(store)) {
+    , m_openStore(std::move(openStore))
+    , m_store(m_openStore()) {
     removeAbandonedLock(*m_store);
 }
 
@@ -140,11 +141,7 @@ void UserDefaults::setBoolean(const QString& key, bool value) {
 }
 
 void UserDefaults::remove(const QString& key) {
-    if (!m_store->contains(key))
-        return;
-    m_store->remove(key);
-    m_store->sync();
-    Q_EMIT changed(key);
+    store(key, {});
 }
 
 void UserDefaults::registerDefault(const QString& key, const QVariant& value) {
@@ -154,10 +151,16 @@ void UserDefaults::registerDefault(const QString& key, const QVariant& value) {
 void UserDefaults::store(const QString& key, const QVariant& value) {
     if (m_store->value(key) == value)
         return;
-    m_store->setValue(key, value);
+    // A store that failed once says so for ever; another one has what is still to be written.
+    if (m_store->status() != QSettings::NoError)
+        m_store = m_openStore();
+    if (value.isValid())
+        m_store->setValue(key, value);
+    else
+        m_store->remove(key);
     m_store->sync();
     if (m_store->status() != QSettings::NoError)
-        qCDebug(defaultsLog) << "could not store" << key << "status" << m_store->status();
+        qCWarning(defaultsLog) << "could not store" << key << "in" << m_store->fileName();
     Q_EMIT changed(key);
 }
 

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -14,13 +15,17 @@ namespace kestrowind {
 /// The user's settings in three domains, the first that holds a key wins: the launch arguments
 /// (`-Key value`, this run only), what was stored, and the defaults registered at start-up.
 ///
-/// Belongs to the main thread. A stored change is on disk when the call returns.
+/// Belongs to the main thread. A stored change is on disk when the call returns; one that could not
+/// be written is a warning in the log, and tried again with the next one.
 class UserDefaults final : public QObject {
     Q_OBJECT
 
 public:
-    /// `arguments` without the program's name. `store` is the native settings store.
-    UserDefaults(const QStringList& arguments, std::unique_ptr<QSettings> store);
+    /// Opens the native settings store: at once, and anew after something could not be stored.
+    using OpenStore = std::function<std::unique_ptr<QSettings>()>;
+
+    /// `arguments` without the program's name.
+    UserDefaults(const QStringList& arguments, OpenStore openStore);
     ~UserDefaults() override;
 
     /// The pairs of the argument domain: a hyphen and a key, then a value that is not itself such a
@@ -49,9 +54,11 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QVariant value(const QString& key) const;
+    /// An invalid value removes.
     void store(const QString& key, const QVariant& value);
 
     QHash<QString, QVariant> m_arguments;
+    OpenStore m_openStore;
     std::unique_ptr<QSettings> m_store;
     QHash<QString, QVariant> m_registered;
 };

@@ -15,8 +15,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QStringList arguments = text.split(QLatin1Char('\n'));
     const auto pairs = UserDefaults::parseArguments(arguments);
     KESTROWIND_REQUIRE(2 * pairs.size() <= arguments.size());
-    const UserDefaults defaults(
-        arguments, std::make_unique<QSettings>(QStringLiteral("/dev/null"), QSettings::IniFormat));
+    const UserDefaults defaults(arguments, [] {
+        return std::make_unique<QSettings>(QStringLiteral("/dev/null"), QSettings::IniFormat);
+    });
     for (const QString& key : pairs.keys()) {
         KESTROWIND_REQUIRE(!key.isEmpty());
         KESTROWIND_REQUIRE(defaults.string(key) || defaults.stringArray(key));

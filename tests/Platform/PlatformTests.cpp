@@ -1,6 +1,7 @@
 #include "Platform/AdminScriptRunner.h"
 #include "Platform/DurableFile.h"
 #include "Platform/Linux/AutostartEntry.h"
+#include "Platform/Linux/SettingsFile.h"
 #include "Support/QtPrinters.h"
 #include "Support/TestDefaults.h"
 
@@ -9,6 +10,8 @@
 #include <QFile>
 #include <QTest>
 #include <gmock/gmock.h>
+
+#include <sys/stat.h>
 
 namespace kestrowind {
 namespace {
@@ -60,6 +63,36 @@ TEST(UserDefaults, SurvivesAFileOfNonsense) {
     EXPECT_EQ(defaults->string(u"activePresetID"_s), std::nullopt);
     defaults->setString(u"activePresetID"_s, u"x"_s);
     EXPECT_EQ(defaults->string(u"activePresetID"_s), u"x"_s);
+}
+
+TEST(UserDefaults, WarnsOfWhatItCannotStoreAndStoresItLater) {
+    static int warnings = 0;
+    const TestHome home;
+    home.write(u"in the way"_s, "");
+    UserDefaults defaults({}, [&] { return openSettingsFile(home.path(u"in the way/x.ini"_s)); });
+    const auto previous =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString&) {
+            warnings += type == QtWarningMsg ? 1 : 0;
+        });
+    defaults.setString(u"first"_s, u"1"_s);
+    QFile::remove(home.path(u"in the way"_s));
+    defaults.setString(u"second"_s, u"2"_s);
+    qInstallMessageHandler(previous);
+    EXPECT_EQ(warnings, 1);
+    const auto stored = openSettingsFile(home.path(u"in the way/x.ini"_s));
+    EXPECT_EQ(stored->allKeys(), QStringList({u"first"_s, u"second"_s}));
+}
+
+TEST(SettingsFile, MovesAsideWhatItCannotRead) {
+    const TestHome home;
+    const QString path = home.path(u"x.ini"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    openSettingsFile(path)->setValue(u"key"_s, u"value"_s);
+    EXPECT_EQ(openSettingsFile(path)->value(u"key"_s), u"value"_s);
+    QFile(path).resize(100'000'000);
+    EXPECT_EQ(openSettingsFile(path)->allKeys(), QStringList());
+    EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::System),
+              QStringList({u"x.ini.unreadable"_s, u"x.ini.unreadable-2"_s}));
 }
 
 TEST(DurableFile, ReplacesWholeOrNotAtAll) {

@@ -13,7 +13,9 @@ using namespace Qt::StringLiterals;
 class UserDefaultsContract : public testing::Test {
 protected:
     /// The defaults as the next start of the application finds them.
-    UserDefaults nextStart() { return UserDefaults({}, m_store.open()); }
+    UserDefaults nextStart() {
+        return UserDefaults({}, [this] { return m_store.open(); });
+    }
 
     ThisSystem::Defaults m_store;
 };

@@ -27,8 +27,9 @@ public:
     /// The defaults as a process with these arguments would see them.
     [[nodiscard]] std::unique_ptr<UserDefaults> defaults(const QStringList& arguments = {}) const {
         return std::make_unique<UserDefaults>(
-            arguments, std::make_unique<QSettings>(path(QStringLiteral("defaults.ini")),
-                                                   QSettings::IniFormat));
+            arguments, [file = path(QStringLiteral("defaults.ini"))] {
+                return std::make_unique<QSettings>(file, QSettings::IniFormat);
+            });
     }
 
 private:

@@ -16,6 +16,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr qsizetype largestEntry = 64 * 1024; ///< bytes
+
 /// Escapes of every text value of an entry, below those of Exec itself.
 QString escaped(QString value) {
     return value.replace(u'\\', u"\\\\"_s)
@@ -74,11 +76,11 @@ std::optional<QString> takeArgument(QString& text) {
 /// The keys of the group [Desktop Entry]; none when the file cannot be read.
 QHash<QString, QString> readEntry(const QString& path) {
     QHash<QString, QString> entry;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    const auto content = DurableFile::read(path, largestEntry);
+    if (!content)
         return entry;
     bool isInGroup = false;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
+    for (const QString& line : QString::fromUtf8(*content).split(u'\n')) {
         if (line.startsWith(u'['))
             isInGroup = line.trimmed() == "[Desktop Entry]"_L1;
         else if (const qsizetype equals = line.indexOf(u'='); isInGroup && equals > 0)

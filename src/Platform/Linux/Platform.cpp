@@ -8,11 +8,13 @@
 #include "Platform/Linux/LinuxSystemInformation.h"
 #include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/RememberedActivationPolicy.h"
+#include "Platform/Linux/SettingsFile.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
 
 #include <QFile>
 #include <QLoggingCategory>
+#include <QStandardPaths>
 
 #include <malloc.h>
 
@@ -58,13 +60,14 @@ void prepareDesktop() {
 }
 
 Platform makePlatform(const QStringList& arguments) {
-    auto store = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
-                                             u"Kestrowind"_s, u"Kestrowind"_s);
-    store->setFallbacksEnabled(false);
+    const QString settings =
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+        u"/Kestrowind/Kestrowind.ini"_s;
     return {
         .application = std::make_unique<EventLoopApplication>(),
         .information = std::make_unique<LinuxSystemInformation>(),
-        .userDefaults = std::make_unique<UserDefaults>(arguments, std::move(store)),
+        .userDefaults = std::make_unique<UserDefaults>(
+            arguments, [settings] { return openSettingsFile(settings); }),
         .runningApplications = std::make_unique<LinuxRunningApplications>(),
         .activationPolicy = std::make_unique<RememberedActivationPolicy>(),
         .loginItem = AutostartEntry::ofThisApplication(),

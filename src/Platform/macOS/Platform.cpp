@@ -27,7 +27,8 @@ Platform makePlatform(const QStringList& arguments) {
         .application = std::make_unique<AppKitApplication>(),
         .information = std::make_unique<BundleSystemInformation>(),
         .userDefaults = std::make_unique<UserDefaults>(
-            arguments, openNativeDefaults(QString::fromLatin1(BundleInformation::identifier))),
+            arguments,
+            [] { return openNativeDefaults(QString::fromLatin1(BundleInformation::identifier)); }),
         .runningApplications = std::make_unique<WorkspaceApplications>(),
         .activationPolicy = std::make_unique<DockActivationPolicy>(),
         .loginItem = std::make_unique<AppServiceLoginItem>(),

@@ -4,10 +4,10 @@
 #include "Platform/Linux/HelperBus.h"
 #include "Platform/Linux/LinuxRunningApplications.h"
 #include "Platform/Linux/LinuxSystemInformation.h"
+#include "Platform/Linux/SettingsFile.h"
 #include "Simulator/BootedMac.h"
 #include "Simulator/Link/SMCLink.h"
 
-#include <QSettings>
 #include <QTemporaryDir>
 
 /// The implementations that the seams' tests run against on this system. Each is made with the
@@ -55,8 +55,7 @@ private:
 class Defaults {
 public:
     std::unique_ptr<QSettings> open() {
-        return std::make_unique<QSettings>(m_folder.filePath(QStringLiteral("defaults.ini")),
-                                           QSettings::IniFormat);
+        return openSettingsFile(m_folder.filePath(QStringLiteral("defaults.ini")));
     }
 
 private:
