@@ -14,7 +14,7 @@ namespace kestrowind::LineChartPainter {
 namespace {
 
 constexpr double lineWidth = 2;
-constexpr double labelColumn = 40; ///< on the left
+constexpr double labelColumn = 46; ///< on the left; "100 °C" has room in it
 constexpr double labelRow = 20;    ///< below
 constexpr double topMargin = 7;    ///< half a label of a tick at the top
 constexpr double rightMargin = 2;
