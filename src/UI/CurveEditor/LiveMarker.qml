@@ -11,26 +11,35 @@ Item {
     readonly property curveLiveMarker live: chart.live
     readonly property bool glides: chart.motion !== FanCurveChartModel.None
     readonly property springTiming timing: chart.motion === FanCurveChartModel.Edit ? Springs.edit : Springs.level
-    property real lineX: live.x
-    property real labelX: live.labelX
-    property real operatingY: live.operatingY
 
     visible: live.isShown
 
-    Behavior on lineX { enabled: root.glides; SpringMotion { timing: root.timing } }
-    Behavior on labelX { enabled: root.glides; SpringMotion { timing: root.timing } }
-    Behavior on operatingY { enabled: root.glides; SpringMotion { timing: root.timing } }
+    Glide { id: line; target: root.live.x; springs: root.glides; timing: root.timing }
+    Glide { id: middle; target: root.live.labelX; springs: root.glides; timing: root.timing }
+    Glide { id: operating; target: root.live.operatingY; springs: root.glides; timing: root.timing }
 
     DashedLine {
-        x: root.lineX - width / 2
+        x: line.value - width / 2
         width: 1.5
         height: root.height
         color: AppColors.temperatureColor(root.live.temperature)
         opacity: 0.45
     }
 
+    // Below the label: at 100 % the two meet.
     Rectangle {
-        x: Math.round(root.labelX - width / 2)
+        x: line.value - width / 2
+        y: operating.value - height / 2
+        width: 10
+        height: 10
+        radius: 5
+        color: AppColors.temperatureColor(root.live.temperature)
+        border.width: 2
+        border.color: "white"
+    }
+
+    Rectangle {
+        x: Math.round(middle.value - width / 2)
         y: 10 - height / 2
         width: label.implicitWidth + 12
         height: 18
@@ -46,16 +55,5 @@ Item {
             color: "white"
             Accessible.ignored: true
         }
-    }
-
-    Rectangle {
-        x: root.lineX - width / 2
-        y: root.operatingY - height / 2
-        width: 10
-        height: 10
-        radius: 5
-        color: AppColors.temperatureColor(root.live.temperature)
-        border.width: 2
-        border.color: "white"
     }
 }

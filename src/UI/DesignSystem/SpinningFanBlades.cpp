@@ -2,6 +2,7 @@
 
 #include "Core/AssignIfChanged.h"
 #include "UI/DesignSystem/FanBladesShape.h"
+#include "UI/DesignSystem/FrameGrid.h"
 #include "UI/DesignSystem/Palette.h"
 #include "UI/DesignSystem/SceneAppearance.h"
 
@@ -10,7 +11,6 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QSGImageNode>
-#include <QSGRendererInterface>
 #include <QSGTransformNode>
 
 #include <cmath>
@@ -18,21 +18,10 @@
 namespace kestrowind {
 namespace {
 
-using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-/// A frame of a 60 Hz screen may come this much early; waiting for a timer then would drop it.
-constexpr auto frameTolerance = 1ms;
 /// The scale of an item that is in no window yet.
 constexpr double scaleWithoutWindow = 2.0;
-
-/// At most 60 frames a second, on screens that refresh faster too; half of it where the processor
-/// draws, and each frame takes its time from the rest of the machine.
-Clock::duration frameInterval(const QQuickWindow& window) {
-    const bool isDrawnByProcessor =
-        window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
-    return isDrawnByProcessor ? 33333us : 16666us;
-}
 
 QBrush paint(const SpinningFanBlades::RenderedLook& look) {
     const ColorScheme scheme = look.isDarkAppearance ? ColorScheme::dark : ColorScheme::light;
@@ -210,19 +199,14 @@ void SpinningFanBlades::applyTurning() {
 void SpinningFanBlades::frameShown() {
     if (!m_frameShown || m_nextFrame.isActive())
         return;
-    // Frames are requested at the ticks of one grid, so that all fans of a window share theirs.
-    const Clock::duration interval = frameInterval(*window());
-    const Clock::duration now = Clock::now().time_since_epoch() + frameTolerance;
-    const auto tick = now / interval;
-    if (tick != m_lastTick) {
+    if (FrameGrid::tick(*window()) != m_lastTick)
         requestFrame();
-        return;
-    }
-    m_nextFrame.start(std::chrono::ceil<std::chrono::milliseconds>((tick + 1) * interval - now));
+    else
+        m_nextFrame.start(FrameGrid::untilNextTick(*window()));
 }
 
 void SpinningFanBlades::requestFrame() {
-    m_lastTick = (Clock::now().time_since_epoch() + frameTolerance) / frameInterval(*window());
+    m_lastTick = FrameGrid::tick(*window());
     update();
 }
 

@@ -1,4 +1,8 @@
-#include "UI/DesignSystem/Spring.h"
+#include "UI/DesignSystem/Glide.h"
+#include "UI/DesignSystem/Scene.h"
+
+#include <QSignalSpy>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -43,6 +47,20 @@ TEST(SpringTests, MovesLikeADampedOscillatorAndSoDoesItsEasing) {
             EXPECT_NEAR(spring.position(later), 1, 0.0011);
         EXPECT_GT(std::abs(spring.position(duration / 2) - 1), 0.0011) << "no longer than needed";
     }
+}
+
+TEST(GlideTests, MovesByWholePixelsOnly) {
+    Scene scene("Glide { springs: true; timing: Springs.hover; target: 10.4 }");
+    auto& glide = dynamic_cast<Glide&>(scene.item());
+    EXPECT_EQ(glide.value(), 10) << "it begins where it belongs";
+    QSignalSpy moved(&glide, &Glide::valueChanged);
+    glide.setTarget(13.2);
+    EXPECT_EQ(glide.value(), 10);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return glide.value() == 13; }));
+    EXPECT_LE(moved.size(), 3);
+    glide.setSprings(false);
+    glide.setTarget(20);
+    EXPECT_EQ(glide.value(), 20);
 }
 
 } // namespace
