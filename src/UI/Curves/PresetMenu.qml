@@ -8,13 +8,8 @@ PopupMenu {
 
     required property CurvesModel model
 
-    // As wide as its widest name, within bounds.
-    onAboutToShow: {
-        let widest = 200
-        for (let i = 0; i < count; ++i)
-            widest = Math.max(widest, itemAt(i).implicitWidth)
-        width = Math.min(widest, 420) + leftPadding + rightPadding
-    }
+    minimumWidth: 200
+    maximumWidth: 420
 
     PopupMenuHeading {
         text: qsTrId("curves.toolbar.yourPresetsSection")

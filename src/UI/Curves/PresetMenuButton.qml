@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 import Kestrowind.Curves
 
 // The displayed preset; the menu below it has all of them and makes new ones.
-T.Button {
+MenuButton {
     id: root
 
     required property CurvesModel model
@@ -17,19 +16,13 @@ T.Button {
     bottomPadding: 4
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 30
-    hoverEnabled: true
-    Accessible.role: Accessible.ButtonMenu
     Accessible.name: qsTrId("curves.toolbar.presetPickerLabel")
     Accessible.description: text
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
-    Keys.onDownPressed: root.clicked()
-    onClicked: menu.opened ? menu.close() : menu.popup(root, 0, root.height + Spacing.tight)
 
     background: ControlBackground {
         prominent: false
         hovered: root.hovered
-        pressed: root.down || menu.visible
+        pressed: root.down || root.menu.visible
 
         FocusRing { shown: root.visualFocus }
     }
@@ -49,10 +42,8 @@ T.Button {
         color: AppColors.secondaryText
     }
 
-    PresetMenu {
-        id: menu
-
+    menu: PresetMenu {
+        title: qsTrId("curves.toolbar.presetPickerLabel")
         model: root.model
-        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import Kestrowind.DesignSystem
 
 // One preset to choose; the displayed one has a tick.
-PopupMenuItem {
+PopupMenuChoice {
     id: root
 
     required property int index
@@ -13,9 +13,6 @@ PopupMenuItem {
     signal chosen()
 
     text: name
-    checkable: true
-    checked: isSelected
-    Accessible.role: Accessible.RadioButton
-    onToggled: checked = Qt.binding(() => root.isSelected)
+    isChosen: isSelected
     onTriggered: root.chosen()
 }

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 
 // A symbol alone; its text is what a screen reader says and the tooltip shows.
-T.Button {
+ActionButton {
     id: root
 
     required property string symbolName
@@ -15,11 +14,7 @@ T.Button {
     padding: 6
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    hoverEnabled: true
     opacity: enabled ? 1 : 0.45
-    Accessible.name: text
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     background: Rectangle {
         radius: Radius.control

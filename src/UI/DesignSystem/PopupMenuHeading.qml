@@ -1,28 +1,26 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 
-// The title of a section of a PopupMenu; nothing to choose.
-T.MenuItem {
+// The title of a section of a PopupMenu; nothing to choose, and so no item of the toolkit's, which
+// would be told as one.
+Item {
     id: root
 
-    enabled: false
-    leftPadding: 9
-    rightPadding: 12
-    topPadding: 5
-    bottomPadding: 3
-    implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    width: menu ? menu.availableWidth : implicitWidth
+    property alias text: label.text
+
+    implicitWidth: label.implicitWidth + 9 + 12
+    implicitHeight: label.implicitHeight + 5 + 3
     Accessible.role: Accessible.Heading
     Accessible.name: text
 
-    contentItem: Text {
-        text: root.text
+    Text {
+        id: label
+
+        x: 9
+        y: 5
         textFormat: Text.PlainText
         font: Typography.weighted(Typography.caption, Font.DemiBold)
         color: AppColors.tertiaryText
+        Accessible.ignored: true
     }
-    indicator: null
-    arrow: null
 }

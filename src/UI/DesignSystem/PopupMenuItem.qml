@@ -9,6 +9,11 @@ T.MenuItem {
     property string symbolName
     property bool destructive: false
 
+    function choose(): void {
+        if (enabled)
+            triggered()
+    }
+
     readonly property bool lit: highlighted && enabled
     readonly property color textColor: lit ? AppColors.onAccent
                                      : destructive ? AppColors.danger : AppColors.primaryText
@@ -26,8 +31,9 @@ T.MenuItem {
     width: menu ? menu.availableWidth : implicitWidth
     opacity: enabled ? 1 : 0.45
     Accessible.name: text
-    Keys.onReturnPressed: triggered()
-    Keys.onEnterPressed: triggered()
+    Accessible.onPressAction: choose()
+    Keys.onReturnPressed: choose()
+    Keys.onEnterPressed: choose()
 
     background: Rectangle {
         radius: Radius.small

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 
 // Prominent is the one that a screen wants to be pressed; destructive what cannot be undone.
-T.Button {
+ActionButton {
     id: root
 
     property bool prominent: false
@@ -18,12 +17,8 @@ T.Button {
     bottomPadding: 4
     implicitWidth: Math.max(64, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(28, implicitContentHeight + topPadding + bottomPadding)
-    hoverEnabled: true
     opacity: enabled ? 1 : 0.45
-    Accessible.name: text
     Accessible.description: toolTip
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     background: ControlBackground {
         prominent: root.prominent

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 
 // A button without a border, in the accent colour.
-T.Button {
+ActionButton {
     id: root
 
     property string symbolName
@@ -13,11 +12,7 @@ T.Button {
     padding: 2
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    hoverEnabled: true
     opacity: !enabled ? 0.45 : down ? 0.6 : 1
-    Accessible.name: text
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
 
     background: FocusRing { anchors.fill: undefined; shown: root.visualFocus; gap: 0; cornerRadius: Radius.small }
 

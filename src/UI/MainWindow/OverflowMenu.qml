@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 import Kestrowind.MainWindow
 
 // The slots that have no pill, behind three dots.
-T.Button {
+MenuButton {
     id: root
 
     required property PillListModel model
@@ -14,20 +13,13 @@ T.Button {
     signal chosen(int index)
 
     text: qsTrId("mainWindow.presetBar.morePresets")
-    hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Accessible.role: Accessible.ButtonMenu
-    Accessible.name: text
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
-    Keys.onDownPressed: root.clicked()
-    onClicked: menu.opened ? menu.close() : menu.popup(root, 0, root.height + Spacing.tight)
     onEnabledChanged: if (!enabled) menu.close()
 
     background: PillSurface {
         isTinted: root.containsActive
-        isLifted: root.hovered && root.enabled && !menu.visible
-        isPressed: root.down || menu.visible
+        isLifted: root.hovered && root.enabled && !root.menu.visible
+        isPressed: root.down || root.menu.visible
         isFocused: root.visualFocus
     }
 
@@ -40,21 +32,13 @@ T.Button {
         }
     }
 
-    PopupMenu {
-        id: menu
-
-        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
-        // As wide as the longest name: here names are never shortened.
-        onAboutToShow: {
-            let widest = 150
-            for (let i = 0; i < count; ++i)
-                widest = Math.max(widest, itemAt(i).implicitWidth)
-            width = widest + leftPadding + rightPadding
-        }
+    // As wide as the longest name: here names are never shortened.
+    menu: PopupMenu {
+        title: root.text
 
         Repeater {
             model: root.model
-            delegate: PopupMenuItem {
+            delegate: PopupMenuChoice {
                 required property int index
                 required property string fullName
                 required property bool isActive
@@ -63,12 +47,11 @@ T.Button {
                 text: fullName
                 // The active one among them makes room for its tick in all.
                 checkable: root.containsActive
-                checked: isActive
-                onToggled: checked = Qt.binding(() => isActive)
+                isChosen: isActive
                 onTriggered: root.chosen(index)
             }
         }
     }
 
-    Tooltip { text: root.text; shown: root.hovered && !menu.visible; gap: 36 }
+    Tooltip { text: root.text; shown: root.hovered && !root.menu.visible; gap: 36 }
 }

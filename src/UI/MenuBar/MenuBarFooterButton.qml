@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 
 // A command as wide as the panel; its highlight reaches beyond the text on both sides.
-T.AbstractButton {
+ActionButton {
     id: root
 
     required property string symbolName
@@ -13,12 +12,7 @@ T.AbstractButton {
     topPadding: 6
     bottomPadding: 6
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    hoverEnabled: true
-    Accessible.role: Accessible.Button
-    Accessible.name: text
     Accessible.description: toolTip
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         x: -8

@@ -11,7 +11,7 @@ class UserDefaults;
 /// Which temperature drives the fans. The choice counts from the next sample on.
 class FanBoostSettings final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QStringList temperatureSources READ temperatureSources CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> temperatureSources READ temperatureSources CONSTANT FINAL)
     Q_PROPERTY(int temperatureSource READ temperatureSource NOTIFY temperatureSourceChanged FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")

@@ -193,6 +193,10 @@ TEST_F(PresetsViewTest, TheContextMenuRenamesAndDeletes) {
     view.click(u"Automatic"_s, Qt::RightButton);
     EXPECT_EQ(view.named(u"Duplicate"_s), nullptr);
     view.click(u"Mine"_s, Qt::RightButton);
+    view.click(u"Full Speed"_s);
+    EXPECT_TRUE(view.isGone(u"Rename…"_s));
+    EXPECT_EQ(state.presets().activePresetID(), std::nullopt) << "it only sent the menu away";
+    view.click(u"Mine"_s, Qt::RightButton);
     view.click(u"Rename…"_s);
     EXPECT_TRUE(comesBackTo(u"Name"_s));
     view.press(Qt::Key_Escape);
@@ -208,6 +212,7 @@ TEST_F(PresetsViewTest, MenusExportAndImportByPointerAndByKey) {
     EXPECT_TRUE(isAsked(FakeFileDialogs::Purpose::save));
     state.fileDialogs.answer(state.home.path(u"cool.json"_s));
 
+    ASSERT_TRUE(view.isGone(u"Export…"_s));
     view.click(u"New Preset"_s, Qt::RightButton);
     view.click(u"Import…"_s);
     EXPECT_TRUE(isAsked(FakeFileDialogs::Purpose::open));

@@ -115,7 +115,7 @@ TEST_F(SettingsViewTest, ChoosesTheTemperatureByClick) {
     view.showActive();
     view.click(localized("settings.fanBoost.temperatureSource.title"));
     QQuickItem* const hottest = view.awaited(
-        localized("settings.fanBoost.temperatureSource.hottest"), QAccessible::ListItem);
+        localized("settings.fanBoost.temperatureSource.hottest"), QAccessible::MenuItem);
     click(hottest, {20, 8});
     EXPECT_TRUE(QTest::qWaitFor([&] { return model.fanBoost()->temperatureSource() == 1; }));
 }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 import Kestrowind.Presets
 
@@ -25,26 +24,21 @@ FocusScope {
         onTapped: eventPoint => root.requestMenu(eventPoint.position)
     }
 
-    T.AbstractButton {
+    ActionButton {
         id: button
 
         anchors.fill: parent
         focus: true
         enabled: root.canCreate
-        hoverEnabled: true
         focusPolicy: Qt.StrongFocus
         text: root.canCreate ? qsTrId("presets.card.newPreset") : qsTrId("presets.card.limitReached")
         onClicked: root.clicked()
-        Keys.onReturnPressed: clicked()
-        Keys.onEnterPressed: clicked()
         Keys.onMenuPressed: root.requestMenu(Qt.point(width / 2, height / 2))
         Keys.onPressed: event => {
             event.accepted = event.key === Qt.Key_F10 && (event.modifiers & Qt.ShiftModifier)
             if (event.accepted)
                 root.requestMenu(Qt.point(width / 2, height / 2))
         }
-        Accessible.role: Accessible.Button
-        Accessible.name: text
         Accessible.description: tip.text
 
         // qmllint disable deferred-property-id

@@ -10,9 +10,7 @@ PopupMenu {
     required property PresetsModel screen
 
     function show(card: Item, at: point): void {
-        popup(card, at.x, at.y)
-        forceActiveFocus(Qt.PopupFocusReason)
-        currentIndex = 0
+        openAt(card, at)
     }
 
     PopupMenuItem {

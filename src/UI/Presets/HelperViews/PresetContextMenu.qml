@@ -14,9 +14,7 @@ PopupMenu {
     function show(card: Item, id: string, editable: bool, at: point): void {
         slotID = id
         isEditable = editable
-        popup(card, at.x, at.y)
-        forceActiveFocus(Qt.PopupFocusReason)
-        currentIndex = 0
+        openAt(card, at)
     }
 
     PopupMenuItem {

@@ -26,10 +26,6 @@ SettingsRow {
         y: 2
         label: root.title
         currentIndex: root.selection
-        onActivated: index => {
-            root.chosen(index)
-            // A choice has set it; what counts may be something else.
-            currentIndex = Qt.binding(() => root.selection)
-        }
+        onActivated: index => root.chosen(index)
     }
 }

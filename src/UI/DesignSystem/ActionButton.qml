@@ -1,0 +1,19 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// What every button answers to besides the pointer and the space bar: Return, Enter, and what assistive
+// technology does with it.
+T.AbstractButton {
+    id: root
+
+    function press(): void {
+        if (enabled)
+            clicked()
+    }
+
+    hoverEnabled: true
+    Accessible.name: text
+    Accessible.onPressAction: press()
+    Keys.onReturnPressed: press()
+    Keys.onEnterPressed: press()
+}
