@@ -39,6 +39,10 @@ public:
         QCoro::Task<std::optional<Targets>> setTargets(Targets targets) override {
             co_return targets;
         }
+        QCoro::Task<std::expected<void, InstallError>> install() override {
+            setState(HelperState::installed);
+            co_return std::expected<void, InstallError>();
+        }
     };
 
     using Furnish = std::function<void(const QString& folder)>;

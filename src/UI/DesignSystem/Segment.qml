@@ -15,6 +15,7 @@ PointerWatch {
 
     width: label.implicitWidth + 2 * padding
     height: 26
+    activeFocusOnTab: isCurrent || activeFocus
     Accessible.role: Accessible.PageTab
     Accessible.name: title
     Accessible.selectable: true

@@ -14,6 +14,9 @@ FocusScope {
 
     signal selected(int index)
 
+    // Where the keyboard works is what is said of it.
+    onCurrentSegmentChanged: if (activeFocus && currentSegment) currentSegment.forceActiveFocus()
+
     function step(by: int) {
         const next = currentIndex + by
         if (next >= 0 && next < segments.count)
@@ -22,7 +25,6 @@ FocusScope {
 
     implicitWidth: row.width + 4
     implicitHeight: row.height + 4
-    activeFocusOnTab: true
     opacity: enabled ? 1 : 0.45
     Accessible.role: Accessible.PageTabList
     Accessible.name: label

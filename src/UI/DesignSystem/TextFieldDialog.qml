@@ -25,6 +25,7 @@ DialogPanel {
         placeholderText: root.fieldLabel
         maximumLength: root.longestText
         focus: true
-        onTextEdited: root.edited(text)
+        // However it was changed.
+        onTextChanged: if (text !== root.text) root.edited(text)
     }
 }

@@ -21,9 +21,9 @@ GalleryCard {
             IconButton { symbolName: "ellipsis"; text: "More" }
             IconButton { symbolName: "trash"; text: "Delete" }
             TextLink { text: "Open Kestrowind"; symbolName: "macwindow"; anchors.verticalCenter: parent.verticalCenter }
-            Switch { label: "On"; checked: true; anchors.verticalCenter: parent.verticalCenter }
-            Switch { label: "Off"; anchors.verticalCenter: parent.verticalCenter }
-            Switch { label: "Disabled"; checked: true; enabled: false; anchors.verticalCenter: parent.verticalCenter }
+            Switch { label: "On"; isOn: true; anchors.verticalCenter: parent.verticalCenter }
+            Switch { label: "Off"; isOn: false; anchors.verticalCenter: parent.verticalCenter }
+            Switch { label: "Disabled"; isOn: true; enabled: false; anchors.verticalCenter: parent.verticalCenter }
         }
         Row {
             spacing: Spacing.small
@@ -37,9 +37,9 @@ GalleryCard {
         Row {
             spacing: Spacing.regular
 
-            Slider { label: "Boost"; from: 0; to: 100; stepSize: 5; value: 0; width: 120 }
-            Slider { label: "Boost"; from: 0; to: 100; stepSize: 5; value: 40; width: 120 }
-            Slider { label: "Boost"; from: 0; to: 100; stepSize: 5; value: 100; width: 120; enabled: false }
+            Slider { label: "Boost"; from: 0; to: 100; stepSize: 5; setting: 0; width: 120 }
+            Slider { label: "Boost"; from: 0; to: 100; stepSize: 5; setting: 40; width: 120 }
+            Slider { label: "Boost"; from: 0; to: 100; stepSize: 5; setting: 100; width: 120; enabled: false }
         }
         Row {
             spacing: Spacing.regular

@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 import Kestrowind.MainWindow
 
 // Switches to one slot's preset.
-T.Button {
+ChoiceButton {
     id: root
 
     required property int index
@@ -24,14 +23,9 @@ T.Button {
     width: pillWidth
     scale: entrance * lift
     z: isLifted ? 1 : 0
-    hoverEnabled: true
     focusPolicy: Qt.NoFocus
-    Accessible.role: Accessible.Button
+    isChosen: isActive
     Accessible.name: fullName
-    Accessible.selectable: true
-    Accessible.selected: isActive
-    Keys.onReturnPressed: root.clicked()
-    Keys.onEnterPressed: root.clicked()
     onClicked: chosen()
 
     Behavior on lift { SpringMotion { timing: Springs.hover } }

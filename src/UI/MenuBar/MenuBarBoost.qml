@@ -52,9 +52,9 @@ Column {
             from: 0
             to: 100
             stepSize: root.model.boostStep
-            value: root.model.boostPercent
+            setting: root.model.boostPercent
             onPressedChanged: root.model.isBoostDragged = pressed
-            onMoved: root.model.setBoost(value)
+            onChosen: value => root.model.setBoost(value)
         }
     }
 }

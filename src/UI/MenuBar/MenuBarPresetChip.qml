@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 import Kestrowind.MenuBar
 
 // One choice; a name longer than the panel is cut short.
-T.AbstractButton {
+ChoiceButton {
     id: root
 
     required property menuBarPreset row
@@ -16,14 +15,8 @@ T.AbstractButton {
     bottomPadding: 5
     implicitWidth: Math.min(maximumWidth, Math.ceil(label.implicitWidth) + leftPadding + rightPadding)
     implicitHeight: label.implicitHeight + topPadding + bottomPadding
-    hoverEnabled: true
     text: row.title
-    Accessible.role: Accessible.RadioButton
-    Accessible.name: row.title
-    Accessible.checkable: true
-    Accessible.checked: row.isActive
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
+    isChosen: row.isActive
 
     background: Item {
         CardBackground {

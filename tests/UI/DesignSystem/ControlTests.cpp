@@ -73,7 +73,8 @@ TEST(ControlTests, ASegmentIsLitUnderThePointer) {
 }
 
 TEST(ControlTests, ASliderMovesByItsStepWithTheKeysAndSnapsWhileDragged) {
-    Shown scene("Slider { label: 'Boost'; from: 0; to: 100; stepSize: 5; width: 218; value: 40 }");
+    Shown scene("Slider { label: 'Boost'; from: 0; to: 100; stepSize: 5; width: 218; setting: 40\n"
+                "onChosen: value => setting = Math.min(value, 60) }");
     const auto value = [&] { return scene.item().property("value").toDouble(); };
     scene.press(Qt::Key_Right);
     EXPECT_EQ(value(), 45);
@@ -83,12 +84,11 @@ TEST(ControlTests, ASliderMovesByItsStepWithTheKeysAndSnapsWhileDragged) {
 
     // 18 points of knob in 218: 2 points a percent.
     QTest::mousePress(&scene.window(), Qt::LeftButton, Qt::NoModifier, {9 + 70, 11});
-    for (int x = 79; x <= 9 + 2 * 62; x += 5)
+    for (int x = 79; x <= 9 + 2 * 72; x += 5)
         QTest::mouseMove(&scene.window(), {x, 11});
-    QTest::mouseMove(&scene.window(), {9 + 2 * 62, 11});
-    EXPECT_EQ(value(), 60);
-    QTest::mouseRelease(&scene.window(), Qt::LeftButton, Qt::NoModifier, {9 + 2 * 62, 11});
-    EXPECT_EQ(value(), 60);
+    EXPECT_EQ(value(), 60) << "what the owner made of it";
+    QTest::mouseRelease(&scene.window(), Qt::LeftButton, Qt::NoModifier, {9 + 2 * 52, 11});
+    EXPECT_EQ(value(), 50);
 }
 
 TEST(ControlTests, APopUpPickerIsWorkedByKeysAloneAndIsAsWideAsItsWidestText) {

@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 import Kestrowind.Presets
 
 // One slot: a click activates it, it can be dragged onto another, and its menu has the rest.
-T.AbstractButton {
+ChoiceButton {
     id: root
 
     required property int index
@@ -49,13 +48,9 @@ T.AbstractButton {
     scale: entrance * lift
     opacity: 1
     z: hovered ? 1 : 0
-    hoverEnabled: true
     focusPolicy: Qt.ClickFocus
-    Accessible.role: Accessible.RadioButton
-    Accessible.name: name
+    isChosen: isActive
     Accessible.description: caption
-    Accessible.checkable: true
-    Accessible.checked: isActive
     Accessible.focusable: true
     onActiveFocusChanged: if (activeFocus) GridView.view.currentIndex = index
     onVisualFocusChanged: if (visualFocus) keyboardUsed()
