@@ -30,9 +30,12 @@ QString CurveCallout::textOf(const FanCurvePoint& point, const std::optional<SMC
     const double estimate =
         range > 0 ? fan->minRPM + std::min(percent, FanCurve::highestPercent) / 100 * range
                   : fan->maxRPM;
+    // Grouped, beside two smaller numbers; the interface's other numbers are not.
+    QLocale grouping;
+    grouping.setNumberOptions(QLocale::DefaultNumberOptions);
     return localized("curves.chart.callout.estimatedRPM")
         .arg(temperatureText, percentText,
-             QLocale().toString(static_cast<qint64>(std::trunc(estimate))));
+             grouping.toString(static_cast<qint64>(std::trunc(estimate))));
 }
 
 } // namespace kestrowind
