@@ -6,8 +6,9 @@
 
 namespace kestrowind {
 
-/// Takes in every warning while it lives, QML's among them: a test in which there was any fails. As
-/// the last member of a fixture it goes before the scene does.
+/// Takes in every warning while it lives, QML's among them: a test in which there was any fails,
+/// but for what the offscreen platform cannot do. As the last member of a fixture it goes before
+/// the scene does.
 class QmlComplaints {
 public:
     QmlComplaints()
@@ -24,7 +25,8 @@ public:
 
 private:
     static void collect(QtMsgType type, const QMessageLogContext&, const QString& message) {
-        if (type != QtDebugMsg && type != QtInfoMsg && s_texts)
+        if (type != QtDebugMsg && type != QtInfoMsg && s_texts &&
+            !message.startsWith(QLatin1String("This plugin does not support ")))
             s_texts->append(message);
     }
 

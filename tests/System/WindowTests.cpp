@@ -57,8 +57,8 @@ TEST_F(Window, DrivesTheFansByACurveThatWasDrawnInIt) {
     // Customize.
     ASSERT_TRUE(screen.clickUntil(window, {741, 216}, [this] { return presets().size() == 1; }));
     const auto copied = presets();
-    // The plot is 700 by 296 at (74, 221): from 64 degrees and 49 percent up to 90.
-    ASSERT_TRUE(dragUntil({416, 372}, {416, 251}, [&] { return presets() != copied; }));
+    // The plot is 700 by 296 at (74, 288): from 64 degrees and 49 percent up to 90.
+    ASSERT_TRUE(dragUntil({416, 439}, {416, 318}, [&] { return presets() != copied; }));
     FanCurve drawn = cool;
     drawn.move(3, {64, 90});
     ASSERT_EQ(presets().value(0).curves, QList<FanCurve>{drawn}) << "once for the one fan";
@@ -107,6 +107,8 @@ TEST_F(Window, KeepsPresetsThatAreMadeNamedDraggedAndDeleted) {
         << "onto the first card, whose place it takes: " << slotOrder().constData();
     ASSERT_TRUE(activates(place(0), "Quiet night"));
     screen.key(u"Delete"_s);
+    // Return alone would cancel.
+    screen.key(u"Tab"_s);
     screen.key(u"Return"_s);
     EXPECT_TRUE(waitUntil([this] { return presets().empty(); }));
     EXPECT_TRUE(app->waitFor([](const json& reading) { return reading["preset"].is_null(); }));
