@@ -58,6 +58,7 @@ TEST(BootedMac, SaysWhyItCannotBoot) {
              Case{{u"--root"_s, folder(u"open"_s, open)}, "open is writable by other users"},
              Case{{u"--root"_s, folder(u"open/above"_s, S_IRWXU)}, "open is writable by other"},
              Case{{u"--root"_s, folders.filePath(u"planted"_s)}, "run belongs to another user"},
+             Case{{u"--root"_s, folders.path()}, "holds other files than a machine's"},
              Case{{u"--root"_s, otherRoot + u"/run/../"_s}, "a machine is already running in"},
          }) {
         if (std::string_view(message).contains("belongs") && !canGiveAway)

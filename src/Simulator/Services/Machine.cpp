@@ -7,12 +7,8 @@
 #include "Simulator/Services/RootFolder.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <chrono>
-#include <cstring>
-#include <fcntl.h>
 #include <nlohmann/json.hpp>
-#include <sys/file.h>
 #include <sys/socket.h>
 #include <system_error>
 #include <unistd.h>
@@ -27,20 +23,6 @@ constexpr std::chrono::milliseconds tickInterval{100};
 constexpr std::chrono::seconds loadSampleInterval{1};
 // A machine that was stopped itself does not live through all of that time afterwards.
 constexpr double longestLeap = 10; // seconds
-
-std::expected<int, std::string> lockRoot(const fs::path& root) {
-    const fs::path file = SimulatedMac::smcSocket(root).parent_path() / "machine.lock";
-    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (descriptor < 0)
-        return std::unexpected("cannot open " + file.string() + ": " + std::strerror(errno));
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
-        return descriptor;
-    const int error = errno;
-    ::close(descriptor);
-    if (error == EWOULDBLOCK)
-        return std::unexpected("a machine is already running in " + root.string());
-    return std::unexpected("cannot lock " + file.string() + ": " + std::strerror(error));
-}
 
 std::string systemInformation(const MachineProfile& profile) {
     const nlohmann::json json{{"hw.model", profile.model},
@@ -72,7 +54,7 @@ std::expected<std::unique_ptr<Machine>, std::string> Machine::boot(Setup setup) 
     if (!prepared)
         return std::unexpected(std::move(prepared.error()));
     setup.root = std::move(*prepared);
-    const auto lock = lockRoot(setup.root);
+    const auto lock = lockRootFolder(setup.root);
     if (!lock)
         return std::unexpected(lock.error());
     std::unique_ptr<Machine> machine(new Machine(std::move(setup), *lock));

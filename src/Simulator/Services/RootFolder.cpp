@@ -9,6 +9,8 @@
 
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -31,6 +33,10 @@ std::vector<fs::path> machineFolders(const fs::path& root) {
     for (const std::string_view file : files)
         folders.push_back(SimulatedMac::systemPath(root, file).parent_path());
     return folders;
+}
+
+fs::path lockFile(const fs::path& root) {
+    return SimulatedMac::smcSocket(root).parent_path() / "machine.lock";
 }
 
 Checked checkName(const fs::path& root) {
@@ -94,7 +100,7 @@ Checked checkOwn(const fs::path& path) {
                                                "machine would run");
     if (S_ISDIR(facts->st_mode) && isWritableByOthers(*facts))
         return std::unexpected(path.string() + " is writable by other users, whose programs the "
-                                               "machine would run (chmod go-w makes it private)");
+                                               "machine would run");
     return {};
 }
 
@@ -128,6 +134,15 @@ Checked checkSafety(const fs::path& root) {
     return {};
 }
 
+/// Whether there is nothing in the folder yet, or a machine: others have commands of their own
+/// where a machine's are put.
+Checked checkPurpose(const fs::path& root) {
+    std::error_code error;
+    if (fs::is_empty(root, error) || fs::exists(lockFile(root), error))
+        return {};
+    return std::unexpected(root.string() + " holds other files than a machine's");
+}
+
 } // namespace
 
 std::expected<fs::path, std::string> prepareRootFolder(const fs::path& name) {
@@ -137,6 +152,8 @@ std::expected<fs::path, std::string> prepareRootFolder(const fs::path& name) {
         usable = create(root);
     if (usable)
         usable = checkSafety(root);
+    if (usable)
+        usable = checkPurpose(root);
     for (const fs::path& folder : machineFolders(root)) {
         if (usable)
             usable = create(folder);
@@ -144,6 +161,20 @@ std::expected<fs::path, std::string> prepareRootFolder(const fs::path& name) {
     if (!usable)
         return std::unexpected(std::move(usable.error()));
     return root;
+}
+
+std::expected<int, std::string> lockRootFolder(const fs::path& root) {
+    const fs::path file = lockFile(root);
+    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (descriptor < 0)
+        return std::unexpected("cannot open " + file.string() + ": " + std::strerror(errno));
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+        return descriptor;
+    const int error = errno;
+    ::close(descriptor);
+    if (error == EWOULDBLOCK)
+        return std::unexpected("a machine is already running in " + root.string());
+    return std::unexpected("cannot lock " + file.string() + ": " + std::strerror(error));
 }
 
 } // namespace kestrowind
