@@ -9,7 +9,6 @@
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
-#include <optional>
 #include <unistd.h>
 
 #include <QtQml/qqmlextensionplugin.h>
@@ -36,27 +35,26 @@ void holdStandardDescriptors() {
         ::close(descriptor);
 }
 
-/// Prints what was asked for and nothing more; absent when the application is to run.
-std::optional<int> answerOptions(const kestrowind::LaunchOptions& options) {
-    using namespace kestrowind;
-    if (options.showsHelp) {
-        std::fputs(qPrintable(LaunchOptions::help()), stdout);
-        return 0;
-    }
-    if (options.showsVersion) {
-        std::printf("Kestrowind %s (%s)\n", BundleInformation::shortVersion,
-                    BundleInformation::buildNumber);
-        return 0;
-    }
-    return std::nullopt;
+void showVersion() {
+    namespace BundleInformation = kestrowind::BundleInformation;
+    std::printf("Kestrowind %s (%s)\n", BundleInformation::shortVersion,
+                BundleInformation::buildNumber);
 }
 
-int dump(int argc, char* argv[], const QStringList& arguments,
-         const kestrowind::LaunchOptions& options) {
+void dumpSMCKeys(int argc, char* argv[], const QStringList& arguments,
+                 const kestrowind::LaunchOptions& options) {
     const QCoreApplication application(argc, argv);
     kestrowind::installLocalizable();
     kestrowind::KestrowindApp(arguments, options).dumpSMCKeys();
-    return 0;
+}
+
+int run(int argc, char* argv[], const QStringList& arguments,
+        const kestrowind::LaunchOptions& options) {
+    kestrowind::prepareDesktop();
+    const QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("app.kestrowind"));
+    kestrowind::installLocalizable();
+    return kestrowind::KestrowindApp(arguments, options).run();
 }
 
 } // namespace
@@ -78,14 +76,18 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "kestrowind: %s\n", qPrintable(options.error()));
         return 2;
     }
-    if (const auto status = answerOptions(*options))
-        return *status;
-    if (options->dumpsSMCKeys)
-        return dump(argc, argv, arguments, *options);
-
-    prepareDesktop();
-    QApplication application(argc, argv);
-    QGuiApplication::setDesktopFileName(QStringLiteral("app.kestrowind"));
-    installLocalizable();
-    return KestrowindApp(arguments, *options).run();
+    switch (options->task) {
+    case LaunchOptions::Task::run:
+        return run(argc, argv, arguments, *options);
+    case LaunchOptions::Task::dumpSMCKeys:
+        dumpSMCKeys(argc, argv, arguments, *options);
+        break;
+    case LaunchOptions::Task::showHelp:
+        std::fputs(qPrintable(LaunchOptions::help()), stdout);
+        break;
+    case LaunchOptions::Task::showVersion:
+        showVersion();
+        break;
+    }
+    return 0;
 }

@@ -14,11 +14,6 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(defaultsLog, "app.kestrowind.defaults", QtInfoMsg)
 
-bool isKey(const QString& argument) {
-    return argument.size() > 1 && argument.startsWith(u'-') && !argument.at(1).isDigit() &&
-           argument.at(1) != u'.';
-}
-
 /// The elements of a list in round brackets, separated by commas, quoted where they hold blanks or
 /// commas; absent when the text is no such list.
 std::optional<QStringList> parseList(const QString& text) {
@@ -81,10 +76,15 @@ UserDefaults::UserDefaults(const QStringList& arguments, OpenStore openStore)
 
 UserDefaults::~UserDefaults() = default;
 
+bool UserDefaults::isArgumentKey(const QString& argument) {
+    return argument.size() > 1 && argument.startsWith(u'-') && !argument.at(1).isDigit() &&
+           argument.at(1) != u'.';
+}
+
 QHash<QString, QVariant> UserDefaults::parseArguments(const QStringList& arguments) {
     QHash<QString, QVariant> pairs;
     for (qsizetype i = 0; i + 1 < arguments.size(); ++i) {
-        if (!isKey(arguments.at(i)) || isKey(arguments.at(i + 1)))
+        if (!isArgumentKey(arguments.at(i)) || isArgumentKey(arguments.at(i + 1)))
             continue;
         const QString& text = arguments.at(i + 1);
         const auto list = parseList(text);

@@ -28,9 +28,10 @@ public:
     UserDefaults(const QStringList& arguments, OpenStore openStore);
     ~UserDefaults() override;
 
-    /// The pairs of the argument domain: a hyphen and a key, then a value that is not itself such a
-    /// key (a negative number is a value). A key with no value is no pair. A value in round
-    /// brackets is a list of texts: `(automatic, "a b")`.
+    /// Whether an argument is a hyphen and a key; a negative number is none.
+    [[nodiscard]] static bool isArgumentKey(const QString& argument);
+    /// The pairs of the argument domain: a key, then a value that is not itself a key. A key with
+    /// no value is no pair. A value in round brackets is a list of texts: `(automatic, "a b")`.
     [[nodiscard]] static QHash<QString, QVariant> parseArguments(const QStringList& arguments);
 
     [[nodiscard]] std::optional<QString> string(const QString& key) const;

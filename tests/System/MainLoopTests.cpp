@@ -129,10 +129,12 @@ TEST(CommandLine, SaysWhatItCannotDo) {
     const auto run = [](const QStringList& arguments) {
         return runProgram(QStringLiteral(KESTROWIND_APPLICATION), arguments);
     };
-    EXPECT_EQ(run({u"-PrintReadings"_s}).status, 2);
-    EXPECT_THAT(run({u"-PrintReadings"_s, u"xml"_s}).errors, HasSubstr("needs text or json"));
-    EXPECT_THAT(run({u"-help"_s}).output, HasSubstr("-ActivatePreset NAME"));
-    const Outcome dump = run({u"-DumpSMCKeys"_s, u"-ActivatePreset"_s});
+    const Outcome refusal = run({u"--bogus"_s});
+    EXPECT_EQ(refusal.status, 2);
+    EXPECT_THAT(refusal.errors, HasSubstr("\"--bogus\" is no option"));
+    EXPECT_THAT(run({u"-h"_s}).output, HasSubstr("-ActivatePreset NAME"));
+    EXPECT_THAT(run({u"-v"_s}).output, HasSubstr("Kestrowind "));
+    const Outcome dump = run({u"-PrintReadings"_s, u"--bogus"_s, u"-DumpSMCKeys"_s});
     EXPECT_EQ(dump.status, 0);
     EXPECT_THAT(dump.output,
                 HasSubstr("FATAL: could not open the SMC: AppleSMC service not found"));
