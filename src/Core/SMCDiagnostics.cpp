@@ -4,9 +4,14 @@
 #include "Shared/HelperShared/HelperConstants.h"
 #include "Shared/SMCKit/SMCTemperatureSensors.h"
 
+#include <QByteArray>
+#include <QLocale>
+
 #include <array>
-#include <charconv>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
 #include <utility>
 
 namespace kestrowind {
@@ -16,18 +21,6 @@ using namespace Qt::StringLiterals;
 
 constexpr int slotsWithoutFanCount = 4;
 constexpr std::size_t sampledTemperatureKeys = 12;
-
-template <class Number>
-std::string shortestDecimal(Number value) {
-    if (!std::isfinite(value))
-        return std::isnan(value) ? "nan" : value < 0 ? "-inf" : "inf";
-    std::array<char, 400> digits;
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed)
-            .ptr;
-    std::string text(digits.data(), end);
-    return text.find('.') == std::string::npos ? text + ".0" : text;
-}
 
 std::string hexadecimal(std::span<const std::uint8_t> bytes) {
     constexpr char digits[] = "0123456789abcdef";
@@ -175,7 +168,8 @@ private:
                decimalText(snapshot.cpuMax));
         m_line("                 gpu avg " + decimalText(snapshot.gpuAverage) + " max " +
                decimalText(snapshot.gpuMax) + ", hottest " + decimalText(snapshot.hottest));
-        writeVerdict(counts);
+        // Counted anew: the snapshot may have looked for sensors once more.
+        writeVerdict(sensors.sensorCounts());
     }
 
     void writeVerdict(const SMCTemperatureSensors::Counts& counts) {
@@ -200,11 +194,27 @@ private:
 } // namespace
 
 std::string SMCDiagnostics::decimalText(double value) {
-    return shortestDecimal(value);
+    if (std::isnan(value))
+        return "nan";
+    // The sign apart: the toolkit's zero has none.
+    std::string text = std::signbit(value) ? "-" : "";
+    text += QByteArray::number(std::abs(value), 'f', QLocale::FloatingPointShortest).toStdString();
+    return std::isinf(value) || text.find('.') != std::string::npos ? text : text + ".0";
 }
 
 std::string SMCDiagnostics::decimalText(float value) {
-    return shortestDecimal(value);
+    // As a double it has the digits that few enough decimals of it have, and no more. The shortest
+    // form of a float itself is in no standard library of the oldest macOS.
+    double shortest = value;
+    std::array<char, 32> text;
+    for (int digits = 1; digits <= std::numeric_limits<float>::max_digits10; ++digits) {
+        std::snprintf(text.data(), text.size(), "%.*e", digits - 1, static_cast<double>(value));
+        if (std::strtof(text.data(), nullptr) == value) {
+            shortest = std::strtod(text.data(), nullptr);
+            break;
+        }
+    }
+    return decimalText(shortest);
 }
 
 std::string SMCDiagnostics::describeValue(SMCConnection& smc, std::string_view key) {

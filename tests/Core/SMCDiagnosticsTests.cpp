@@ -4,7 +4,7 @@
 
 #include <gmock/gmock.h>
 
-#include <limits>
+#include <bit>
 
 namespace kestrowind {
 namespace {
@@ -12,6 +12,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 std::string dump(const std::shared_ptr<SimulatedSMC>& smc) {
@@ -91,12 +92,36 @@ TEST(SMCDiagnostics, TurnsEveryFailureIntoWords) {
                              "Nothing below can be collected. Please send this file anyway.\n");
 }
 
-TEST(SMCDiagnostics, WritesNumbersInFull) {
+TEST(SMCDiagnostics, JudgesByTheSensorsThatTheReadingsAreFrom) {
+    const auto smc = std::make_shared<SimulatedSMC>();
+    smc->setFloat("Tp01", 45.5F);
+    smc->setFault("#KEY", SimulatedSMC::Fault::fails);
+    std::string report;
+    SMCDiagnostics::dump(FakeSystemInformation(), smc, [&](const std::string& line) {
+        report += line + "\n";
+        if (line.starts_with("GPU sensors"))
+            smc->setFault("#KEY", std::nullopt);
+    });
+    EXPECT_THAT(report, HasSubstr("cpu avg 45.5"));
+    EXPECT_THAT(report, Not(HasSubstr("NO CPU")));
+}
+
+TEST(SMCDiagnostics, WritesNumbersInFullAndNoDigitTooMany) {
     using SMCDiagnostics::decimalText;
-    EXPECT_EQ(decimalText(0.1F), "0.1");
+    for (const auto& [bits, text] : {
+             std::pair(0x3dcccccdU, "0.1"),
+             {0x44e10000U, "1800.0"},
+             {0x52e6b438U, "495433020000.0"}, // exactly 495433023488
+             {0x7f7fffffU, "340282350000000000000000000000000000000.0"},
+             {0x00000001U, "0.000000000000000000000000000000000000000000001"},
+             {0x80000000U, "-0.0"},
+             {0xff800000U, "-inf"},
+             {0x7fc00000U, "nan"},
+         })
+        EXPECT_EQ(decimalText(std::bit_cast<float>(bits)), text);
     EXPECT_EQ(decimalText(1e-5), "0.00001");
-    EXPECT_EQ(decimalText(100000.0), "100000.0");
-    EXPECT_EQ(decimalText(std::numeric_limits<float>::quiet_NaN()), "nan");
+    EXPECT_EQ(decimalText(1e22), "10000000000000000000000.0");
+    EXPECT_EQ(decimalText(0.1 + 0.2), "0.30000000000000004");
 }
 
 } // namespace
