@@ -86,7 +86,8 @@ void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
     setRequestedPercents(requested);
     qCDebug(engineLog).noquote().nospace()
         << "push: preset=" << (preset ? preset->name : u"none"_s)
-        << " temperature=" << m_smoothedTemperature << " percents=" << listText(requested);
+        << " temperature=" << QString::number(m_smoothedTemperature, 'f', 6)
+        << " percents=" << listText(requested);
 
     const bool isAnythingRequested =
         std::ranges::any_of(requested, [](double percent) { return percent > 0; });
