@@ -3,6 +3,8 @@
 #include "Platform/UserDefaults.h"
 #include "UI/MainWindow/MainWindowFrame.h"
 
+#include <limits>
+
 namespace kestrowind {
 
 using namespace Qt::StringLiterals;
@@ -85,12 +87,14 @@ void MainWindowScene::release() {
 }
 
 void MainWindowScene::closeLaterIfRequested() {
-    const double seconds = m_userDefaults.number(u"CloseMainWindowAfterSeconds"_s);
-    if (!(seconds > 0))
-        return;
-    const std::chrono::duration<double> delay(seconds);
-    QTimer::singleShot(std::chrono::duration_cast<std::chrono::milliseconds>(delay), this,
-                       &MainWindowScene::close);
+    const std::chrono::duration<double> delay(
+        m_userDefaults.number(u"CloseMainWindowAfterSeconds"_s));
+    // The toolkit's timers count the milliseconds in an int, which holds 24 days.
+    constexpr std::chrono::milliseconds longestDelay(std::numeric_limits<int>::max());
+    if (delay.count() > 0 && delay <= longestDelay) {
+        QTimer::singleShot(std::chrono::duration_cast<std::chrono::milliseconds>(delay),
+                           Qt::PreciseTimer, this, &MainWindowScene::close);
+    }
 }
 
 } // namespace kestrowind

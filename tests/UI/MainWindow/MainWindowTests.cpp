@@ -244,6 +244,11 @@ TEST_F(MainWindowTest, OpensAsTheOptionsSay) {
         EXPECT_EQ(section(), opened);
     }
 
+    launch({u"-CloseMainWindowAfterSeconds"_s, u"1e300"_s});
+    QSignalSpy never(scene.get(), &MainWindowScene::closed);
+    scene->show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(never.count(), 0);
     launch({u"-CloseMainWindowAfterSeconds"_s, u"0.05"_s});
     QSignalSpy closed(scene.get(), &MainWindowScene::closed);
     scene->show();
