@@ -56,7 +56,7 @@ void AppDelegate::replaceAnyOtherRunningInstance() {
     qCInfo(shellLog) << "asking" << m_olderCopies.size() << "older copies to end";
     for (const auto& copy : m_olderCopies)
         copy->terminate();
-    QTimer::singleShot(politeWait, this, [this] {
+    QTimer::singleShot(politeWait, Qt::PreciseTimer, this, [this] {
         for (const auto& copy : m_olderCopies) {
             if (!copy->isTerminated())
                 copy->forceTerminate();
