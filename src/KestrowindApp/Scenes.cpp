@@ -80,7 +80,11 @@ Scenes::Scenes(AppState& appState, Platform& platform)
 
     m_trayWait.setSingleShot(true);
     m_trayWait.setInterval(trayWait);
-    connect(&m_trayWait, &QTimer::timeout, &m_mainWindow, &MainWindowScene::show);
+    connect(&m_trayWait, &QTimer::timeout, this, [this] {
+        m_menuBarExtra.lookForTray();
+        if (!m_menuBarExtra.isAvailable())
+            m_mainWindow.show();
+    });
     connect(&m_menuBarExtra, &MenuBarExtra::availableChanged, &m_trayWait, &QTimer::stop);
 }
 

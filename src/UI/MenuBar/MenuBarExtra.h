@@ -29,6 +29,8 @@ public:
 
     /// Whether the icon is shown.
     [[nodiscard]] bool isAvailable() const { return m_trayIcon != nullptr; }
+    /// Looks for a tray that has come since the last look, for who cannot wait for the next.
+    void lookForTray() { m_trayWatch.lookNow(); }
     /// A balloon beside the icon, for a desktop that shows no notifications; nothing without a
     /// tray.
     void showMessage(const Notification& notification);

@@ -16,6 +16,11 @@ SystemTrayWatch::SystemTrayWatch(QObject* parent)
 
 SystemTrayWatch::~SystemTrayWatch() = default;
 
+void SystemTrayWatch::lookNow() {
+    if (m_nextLook.isActive())
+        look();
+}
+
 void SystemTrayWatch::look() {
     static constexpr std::array<std::chrono::milliseconds, 4> waits = {firstWait, 5000ms, 15000ms,
                                                                        30000ms};

@@ -19,6 +19,8 @@ public:
 
     /// Emits `found` once, perhaps before it returns, or `missing` once and goes on looking.
     void start();
+    /// Brings the next of its looks forward, where there is still one to come.
+    void lookNow();
 
 Q_SIGNALS:
     void found();
