@@ -32,7 +32,7 @@ KestrowindApp::~KestrowindApp() = default;
 int KestrowindApp::run() {
     m_platform.application->setDelegate(m_delegate);
     // Only from here on is there a loop that hears of them; a dump simply ends.
-    m_terminationSignals.emplace();
+    m_terminationSignals.emplace(terminationPatience);
     m_terminationNotifier = std::make_unique<QSocketNotifier>(m_terminationSignals->descriptor(),
                                                               QSocketNotifier::Read);
     connect(m_terminationNotifier.get(), &QSocketNotifier::activated, this, [this] {

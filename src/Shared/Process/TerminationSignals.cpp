@@ -16,6 +16,8 @@ constexpr std::array signalNumbers{SIGTERM, SIGINT, SIGHUP};
 
 std::atomic<int> wakeUpDescriptor = -1;
 static_assert(std::atomic<int>::is_always_lock_free);
+std::atomic<unsigned> patienceSeconds = 0; ///< zero also once the alarm is set
+static_assert(std::atomic<unsigned>::is_always_lock_free);
 
 // A signal handler may do next to nothing: a few bytes down the pipe wake the event loop.
 void wakeUp(int number, siginfo_t* information, void* /*context*/) {
@@ -23,7 +25,13 @@ void wakeUp(int number, siginfo_t* information, void* /*context*/) {
     const TerminationSignals::Signal signal{.number = number, .code = information->si_code};
     [[maybe_unused]] const ssize_t written =
         ::write(wakeUpDescriptor.load(), &signal, sizeof signal);
+    if (const unsigned seconds = patienceSeconds.exchange(0); seconds > 0)
+        ::alarm(seconds);
     errno = savedError;
+}
+
+void giveUp(int /*number*/) {
+    ::_exit(EXIT_FAILURE);
 }
 
 /// False when the system has none left.
@@ -48,12 +56,16 @@ void setAction(const struct sigaction& action) {
 
 } // namespace
 
-TerminationSignals::TerminationSignals() {
+TerminationSignals::TerminationSignals(std::chrono::seconds patience) {
     if (!openPipe(m_pipe)) {
         std::perror("no pipe for termination signals");
         std::abort();
     }
     wakeUpDescriptor = m_pipe[1];
+    if (patience.count() > 0) {
+        patienceSeconds = static_cast<unsigned>(patience.count());
+        std::signal(SIGALRM, &giveUp);
+    }
     struct sigaction action {};
     action.sa_sigaction = &wakeUp;
     action.sa_flags = SA_RESTART | SA_SIGINFO;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 
 namespace kestrowind {
@@ -14,7 +15,9 @@ public:
         int code = 0; ///< the system's `si_code`: what sent it
     };
 
-    TerminationSignals();
+    /// A process that has not ended so long after the first of them, as its event loop hangs, is
+    /// ended without it, with the status 1, by the process's alarm. Zero leaves it alone.
+    explicit TerminationSignals(std::chrono::seconds patience = {});
     ~TerminationSignals();
     TerminationSignals(const TerminationSignals&) = delete;
     TerminationSignals& operator=(const TerminationSignals&) = delete;
