@@ -1,3 +1,4 @@
+#include "Support/SilentSocket.h"
 #include "System/RunningApp.h"
 
 #include <QElapsedTimer>
@@ -95,6 +96,19 @@ TEST(MainLoop, GoesOnWithoutHelperFansOrSMC) {
     EXPECT_FALSE(blind.waitFor([](const json&) { return true; }, 500ms));
     blind.send(SIGINT);
     EXPECT_EQ(blind.waitForEnd(2s), 0);
+}
+
+TEST(MainLoop, StartsAndEndsThoughTheSessionBusIsSilent) {
+    const BootedMac mac(quickMac);
+    const SilentSocket bus;
+    constexpr char variable[] = "DBUS_SESSION_BUS_ADDRESS";
+    const QByteArray outer = qgetenv(variable);
+    qputenv(variable, bus.busAddress());
+    RunningApp app(mac, fullSpeed);
+    qputenv(variable, outer);
+    ASSERT_TRUE(app.waitForPhase("controlling"));
+    app.send(SIGTERM);
+    EXPECT_EQ(app.waitForEnd(2s), 0);
 }
 
 TEST(SingleInstance, TheNewestCopyWins) {

@@ -1,5 +1,7 @@
 #include "Platform/Linux/BusNotifications.h"
 
+#include "Platform/Linux/SessionBus.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -28,8 +30,8 @@ BusNotifications::BusNotifications(QDBusConnection bus, QObject* parent)
     : Notifications(parent)
     , m_bus(std::move(bus)) {
     if (m_bus.isConnected())
-        m_bus.connect(busService, busPath, busInterface, u"ActionInvoked"_s, this,
-                      SLOT(noteAction(uint, QString)));
+        SessionBus::follow(m_bus, {busService, busPath, busInterface, u"ActionInvoked"_s}, this,
+                           SLOT(noteAction(uint, QString)));
 }
 
 void BusNotifications::show(const Notification& notification) {

@@ -8,6 +8,7 @@
 #include "Platform/Linux/LinuxSystemInformation.h"
 #include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/RememberedActivationPolicy.h"
+#include "Platform/Linux/SessionBus.h"
 #include "Platform/Linux/SettingsFile.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
@@ -57,6 +58,7 @@ void prepareDesktop() {
         qCInfo(platformLog) << "no display: nothing is shown";
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    SessionBus::leaveASilentOne();
 }
 
 Platform makePlatform(const QStringList& arguments) {

@@ -1,9 +1,14 @@
 #include "Platform/Linux/PortalAppearance.h"
 
+#include "Platform/Linux/SessionBus.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
+
+#include <limits>
 
 namespace kestrowind {
 namespace {
@@ -42,8 +47,15 @@ PortalAppearance::PortalAppearance(QDBusConnection bus, QObject* parent)
     , m_bus(std::move(bus)) {
     if (!m_bus.isConnected())
         return;
-    m_bus.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, this,
-                  SLOT(noteSetting(QString, QString, QDBusVariant)));
+    // The library looks the slot's types up by their names, and knows this one of its own only once
+    // somebody has used it.
+    qRegisterMetaType<QDBusVariant>();
+    SessionBus::follow(m_bus, {portalService, portalPath, settingsInterface, u"SettingChanged"_s},
+                       this, SLOT(noteSetting(QString, QString, QDBusVariant)));
+    // At login it may come up later than we do; one that was replaced may know another answer.
+    auto* const portals = new QDBusServiceWatcher(portalService, m_bus,
+                                                  QDBusServiceWatcher::WatchForRegistration, this);
+    connect(portals, &QDBusServiceWatcher::serviceRegistered, this, &PortalAppearance::ask);
     ask();
 }
 
@@ -51,7 +63,9 @@ void PortalAppearance::ask() {
     QDBusMessage call =
         QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, u"Read"_s);
     call << appearanceGroup << colorSchemeKey;
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
+    // However late it answers: the bus itself tells of a portal that went without an answer.
+    constexpr int withoutEnd = std::numeric_limits<int>::max();
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, withoutEnd), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         watcher->deleteLater();

@@ -4,7 +4,6 @@
 
 #include <QDBusConnection>
 
-class QDBusMessage;
 class QDBusVariant;
 
 namespace kestrowind {

@@ -7,8 +7,10 @@ using namespace Qt::StringLiterals;
 ConnectionWatch::ConnectionWatch(QDBusConnection connection, QObject* parent)
     : QObject(parent)
     , m_name(connection.name()) {
-    connection.connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
-                       u"Disconnected"_s, this, SLOT(reportLoss()));
+    if (!connection.connect(QString(), u"/org/freedesktop/DBus/Local"_s,
+                            u"org.freedesktop.DBus.Local"_s, u"Disconnected"_s, this,
+                            SLOT(reportLoss())))
+        qWarning() << "cannot tell when a caller goes";
 }
 
 void ConnectionWatch::reportLoss() {

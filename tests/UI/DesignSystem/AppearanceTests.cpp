@@ -1,6 +1,5 @@
 #include "UI/DesignSystem/Scene.h"
 
-#include "Platform/Linux/PortalAppearance.h"
 #include "UI/DesignSystem/Palette.h"
 
 #include <QGuiApplication>
@@ -82,11 +81,6 @@ TEST(SceneAppearanceTests, BindingsFollowTheSceneAndOtherScenesDoNot) {
     };
     EXPECT_EQ(colors(first), expected(ColorScheme::dark));
     EXPECT_EQ(colors(second), expected(ColorScheme::light));
-}
-
-TEST(PortalAppearanceTests, ABusThatCannotBeReachedLeavesTheSchemeAbsent) {
-    const PortalAppearance appearance(QDBusConnection(QStringLiteral("no such connection")));
-    EXPECT_EQ(appearance.colorScheme(), std::nullopt);
 }
 
 } // namespace

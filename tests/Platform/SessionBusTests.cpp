@@ -1,7 +1,11 @@
 #include "Platform/Linux/BusNotifications.h"
+#include "Platform/Linux/PortalAppearance.h"
+#include "Platform/Linux/SessionBus.h"
 #include "Support/QtPrinters.h"
+#include "Support/SilentSocket.h"
 
 #include <QDBusMessage>
+#include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QProcess>
 #include <QSignalSpy>
@@ -38,6 +42,7 @@ public:
         m_names.append(name);
         return QDBusConnection::connectToBus(m_address, name);
     }
+    [[nodiscard]] const QString& address() const { return m_address; }
 
 private:
     QProcess m_daemon;
@@ -126,6 +131,66 @@ TEST(BusNotifications, SaysWhenNobodyShowsThem) {
     busless.show(fan);
     ASSERT_EQ(atOnce.size(), 1);
     EXPECT_EQ(atOnce.front().front().value<Notification>(), fan);
+}
+
+/// The desktop's settings, which say dark at first.
+class FakePortal final : public QDBusVirtualObject {
+public:
+    explicit FakePortal(QDBusConnection bus)
+        : m_bus(std::move(bus)) {
+        m_bus.registerVirtualObject(m_path, this);
+        m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
+    }
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        return bus.send(message.createReply(scheme(QVariant::fromValue(QDBusVariant(1U)))));
+    }
+    void change(const QString& group, uint value) {
+        QDBusMessage signal = QDBusMessage::createSignal(
+            m_path, u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s);
+        m_bus.send(signal << group << u"color-scheme"_s << scheme(value));
+    }
+
+private:
+    static QVariant scheme(const QVariant& value) {
+        return QVariant::fromValue(QDBusVariant(value));
+    }
+
+    const QString m_path = u"/org/freedesktop/portal/desktop"_s;
+    QDBusConnection m_bus;
+};
+
+TEST(PortalAppearance, FollowsAPortalThatComesLate) {
+    PrivateBus bus;
+    const PortalAppearance appearance(bus.connect(u"application"_s));
+    QSignalSpy changed(&appearance, &SystemAppearance::colorSchemeChanged);
+    FakePortal portal(bus.connect(u"desktop"_s));
+    ASSERT_TRUE(changed.wait());
+    EXPECT_EQ(appearance.colorScheme(), ColorScheme::dark);
+    portal.change(u"org.gnome.fonts"_s, 0);
+    portal.change(u"org.freedesktop.appearance"_s, 2);
+    ASSERT_TRUE(changed.wait());
+    EXPECT_EQ(appearance.colorScheme(), ColorScheme::light);
+    portal.change(u"org.freedesktop.appearance"_s, 0);
+    ASSERT_TRUE(changed.wait());
+    EXPECT_EQ(appearance.colorScheme(), std::nullopt) << "no preference";
+
+    const PortalAppearance busless(QDBusConnection(u"no such connection"_s));
+    EXPECT_EQ(busless.colorScheme(), std::nullopt);
+}
+
+TEST(SessionBus, IsSilentWhenItTakesConnectionsAndSaysNothing) {
+    using namespace std::chrono_literals;
+    const SilentSocket socket;
+    const QByteArray& silent = socket.busAddress();
+    const PrivateBus bus;
+    const QByteArray alive = bus.address().toLatin1();
+    for (const QByteArray& addresses : {silent, "unix:path=/no%20where;" + silent + ';' + alive})
+        EXPECT_TRUE(SessionBus::isSilent(addresses, 1ms)) << addresses.constData();
+    for (const QByteArray& addresses :
+         {alive, alive + ';' + silent, QByteArray("unix:path=/nowhere"), QByteArray("autolaunch:"),
+          QByteArray("nonsense")})
+        EXPECT_FALSE(SessionBus::isSilent(addresses, 20s)) << addresses.constData();
 }
 
 } // namespace
