@@ -152,6 +152,7 @@ TEST(CommandLine, SaysWhatItCannotDo) {
     EXPECT_EQ(dump.status, 0);
     EXPECT_THAT(dump.output,
                 HasSubstr("FATAL: could not open the SMC: AppleSMC service not found"));
+    EXPECT_THAT(dump.errors, HasSubstr("./run"));
 }
 
 } // namespace

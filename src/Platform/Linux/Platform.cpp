@@ -41,8 +41,11 @@ public:
 
 SMCUserClientFactory machineSMC() {
     const auto root = SimulatedMac::root();
-    if (!root)
+    if (!root) {
+        qCWarning(platformLog)
+            << "this computer is no Mac: ./run starts Kestrowind in a simulated one";
         return [] { return std::make_shared<NoSMC>(); };
+    }
     return [socket = SimulatedMac::smcSocket(*root)] { return std::make_shared<SMCLink>(socket); };
 }
 
