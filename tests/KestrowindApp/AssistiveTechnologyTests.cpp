@@ -2,7 +2,6 @@
 #include "KestrowindApp/Scenes.h"
 #include "Platform/Linux/RememberedActivationPolicy.h"
 #include "Platform/Platform.h"
-#include "Support/QmlComplaints.h"
 #include "Support/QtPrinters.h"
 #include "Support/ScreenReader.h"
 #include "UI/MenuBar/MenuBarPanel.h"
@@ -53,7 +52,6 @@ protected:
         scenes = std::make_unique<Scenes>(*state.appState, platform);
         scenes->present();
         reader.look(*QGuiApplication::topLevelWindows().first());
-        complaints.emplace(); // the platform of the tests has neither tray nor stacking
     }
 
     void go(const QString& section) {
@@ -65,7 +63,6 @@ protected:
     TestState state;
     Platform platform;
     std::unique_ptr<Scenes> scenes;
-    std::optional<QmlComplaints> complaints;
 };
 
 TEST_F(AssistiveTechnologyTest, SwitchesPresetsByPillCardAndChip) {
