@@ -20,7 +20,7 @@ CurvePointItem {
     y: centreY - height / 2
     width: chart.isEditable ? 13 : 9
     height: width
-    scale: isDragged ? 1.4 : isHovered ? 1.18 : 1
+    scale: isDragged ? 1.4 : isHovered ? 1.1 : 1
     activeFocusOnTab: index === chart.currentPoint || activeFocus
     Accessible.role: Accessible.Slider
     Accessible.name: spokenLabel
