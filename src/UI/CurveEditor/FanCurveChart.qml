@@ -100,8 +100,8 @@ FocusScope {
             const handle = handles.itemAt(index)
             menu.point = index
             menu.isByKeyboard = !root.model.isLedByPointer
-            menu.popup(plot, handle.x + handle.width, handle.y + handle.height)
-            menu.currentIndex = menu.isByKeyboard ? 0 : -1
+            menu.title = handle.Accessible.name
+            menu.openAt(plot, Qt.point(handle.x + handle.width, handle.y + handle.height))
         }
         function onCurrentPointChanged() {
             if (root.activeFocus)
