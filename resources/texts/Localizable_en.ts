@@ -359,6 +359,9 @@
     <message id="menuBar.openSettingsButton">
         <translation>Set Up Fan Control…</translation>
     </message>
+    <message id="menuBar.panel.title">
+        <translation>Kestrowind Quick Controls</translation>
+    </message>
     <message id="menuBar.preset.caption">
         <translation>Preset</translation>
     </message>
@@ -415,8 +418,14 @@
     <message id="presets.card.limitReached">
         <translation>No Room for More</translation>
     </message>
+    <message id="presets.card.menuButton">
+        <translation>Commands for %1</translation>
+    </message>
     <message id="presets.card.newPreset">
         <translation>New Preset</translation>
+    </message>
+    <message id="presets.card.spokenCaption">
+        <translation>%1, %2 of %3</translation>
     </message>
     <message id="presets.contextMenu.activate">
         <translation>Activate</translation>

@@ -48,7 +48,7 @@ T.Menu {
     overlap: 1
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     delegate: PopupMenuItem {}
-    // The menu itself cannot be told apart by assistive technology, but what it is shown as.
+    // A menu is no item: what it is shown as bears its name.
     Component.onCompleted: contentItem.parent.Accessible.name = Qt.binding(() => title)
     onAboutToShow: {
         fit()

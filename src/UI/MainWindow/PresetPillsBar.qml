@@ -45,6 +45,7 @@ FocusScope {
 
         delegate: PresetPill {
             height: pills.height
+            Accessible.description: root.model.hindrance
             onChosen: root.model.activateShown(index)
         }
 
@@ -63,6 +64,7 @@ FocusScope {
         height: pills.height
         model: root.model.overflow
         containsActive: root.model.isActiveInOverflow
+        Accessible.description: root.model.hindrance
         opacity: root.enabled ? 1 : 0.7
         visible: count > 0
         onChosen: index => root.model.activateOverflow(index)

@@ -7,17 +7,25 @@
 #include <algorithm>
 
 namespace kestrowind {
+namespace {
+
+QString currentHindrance(const AppState& appState) {
+    const PresetControlState state = ActivePresetState::current(appState);
+    return state.kind == PresetControlState::Kind::switchable ? QString()
+                                                              : state.status->text.string();
+}
+
+} // namespace
 
 PresetPillsModel::PresetPillsModel(AppState& appState, QObject* parent)
     : QObject(parent)
     , m_appState(appState)
-    , m_isSwitchable(ActivePresetState::current(appState).kind ==
-                     PresetControlState::Kind::switchable) {
+    , m_hindrance(currentHindrance(appState)) {
     const PresetStore& presets = appState.presets();
     connect(&presets, &PresetStore::presetsChanged, this, &PresetPillsModel::updatePills);
     connect(&presets, &PresetStore::slotOrderChanged, this, &PresetPillsModel::updatePills);
     connect(&presets, &PresetStore::activePresetIDChanged, this, &PresetPillsModel::updatePills);
-    observeControlState(appState, *this, &PresetPillsModel::updateSwitchable);
+    observeControlState(appState, *this, &PresetPillsModel::updateHindrance);
 }
 
 void PresetPillsModel::setAvailableWidth(double width) {
@@ -59,15 +67,13 @@ void PresetPillsModel::updatePills() {
         Q_EMIT isActiveInOverflowChanged();
 }
 
-void PresetPillsModel::updateSwitchable() {
-    const bool isSwitchable =
-        ActivePresetState::current(m_appState).kind == PresetControlState::Kind::switchable;
-    if (assignIfChanged(m_isSwitchable, isSwitchable))
-        Q_EMIT isSwitchableChanged();
+void PresetPillsModel::updateHindrance() {
+    if (assignIfChanged(m_hindrance, currentHindrance(m_appState)))
+        Q_EMIT hindranceChanged();
 }
 
 void PresetPillsModel::activate(const PillListModel& list, int row) {
-    if (!m_isSwitchable || row < 0 || row >= list.count())
+    if (!isSwitchable() || row < 0 || row >= list.count())
         return;
     // A copy: the activation changes the list.
     const PresetSlot slot = list.pills().at(row).slot;

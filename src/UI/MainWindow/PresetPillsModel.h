@@ -20,7 +20,8 @@ class PresetPillsModel final : public QObject {
     Q_PROPERTY(double spacing READ spacing CONSTANT FINAL)
     Q_PROPERTY(double overflowWidth READ overflowWidth CONSTANT FINAL)
     Q_PROPERTY(int activeRow READ activeRow NOTIFY activeRowChanged FINAL)
-    Q_PROPERTY(bool isSwitchable READ isSwitchable NOTIFY isSwitchableChanged FINAL)
+    Q_PROPERTY(bool isSwitchable READ isSwitchable NOTIFY hindranceChanged FINAL)
+    Q_PROPERTY(QString hindrance READ hindrance NOTIFY hindranceChanged FINAL)
     Q_PROPERTY(
         bool isActiveInOverflow READ isActiveInOverflow NOTIFY isActiveInOverflowChanged FINAL)
     QML_ELEMENT
@@ -40,7 +41,9 @@ public:
     [[nodiscard]] static double overflowWidth() { return PresetPills::overflowWidth; }
     /// Of the active pill among the shown ones; 0 when the active slot has none.
     [[nodiscard]] int activeRow() const { return m_activeRow; }
-    [[nodiscard]] bool isSwitchable() const { return m_isSwitchable; }
+    [[nodiscard]] bool isSwitchable() const { return m_hindrance.isEmpty(); }
+    /// Why no preset can be chosen now; empty while one can.
+    [[nodiscard]] QString hindrance() const { return m_hindrance; }
     /// The active slot has no pill of its own now.
     [[nodiscard]] bool isActiveInOverflow() const { return m_isActiveInOverflow; }
 
@@ -51,12 +54,12 @@ Q_SIGNALS:
     void availableWidthChanged();
     void rowWidthChanged();
     void activeRowChanged();
-    void isSwitchableChanged();
+    void hindranceChanged();
     void isActiveInOverflowChanged();
 
 private:
     void updatePills();
-    void updateSwitchable();
+    void updateHindrance();
     void activate(const PillListModel& list, int row);
 
     AppState& m_appState;
@@ -65,7 +68,7 @@ private:
     double m_availableWidth = 0;
     double m_rowWidth = 0;
     int m_activeRow = 0;
-    bool m_isSwitchable;
+    QString m_hindrance;
     bool m_isActiveInOverflow = false;
 };
 

@@ -90,6 +90,8 @@ void MenuBarPanel::open(const QRect& icon) {
     }
     place();
     m_wasActive = false;
+    // The keyboard starts on the panel itself, which tells assistive technology what came up.
+    m_view->rootObject()->forceActiveFocus(Qt::PopupFocusReason);
     m_view->show();
     m_view->requestActivate();
 }
@@ -116,7 +118,7 @@ bool MenuBarPanel::makeScene() {
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
     SceneAppearance::of(*m_engine).setSystemAppearance(m_appearance);
     m_view = std::make_unique<QQuickView>(m_engine.get(), nullptr);
-    m_view->setTitle(localized("app.window.mainTitle"));
+    m_view->setTitle(localized("menuBar.panel.title"));
     m_view->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                      Qt::NoDropShadowWindowHint);
     updateBackground();

@@ -10,6 +10,10 @@ Item {
     // What the screen has room for; more than that scrolls.
     property real maximumHeight: 10000
 
+    Accessible.role: Accessible.Dialog
+    Accessible.name: qsTrId("menuBar.panel.title")
+    Accessible.focusable: true
+
     width: 300
     height: Math.min(content.height + 36, maximumHeight)
 

@@ -111,7 +111,7 @@ TEST(PresetPillsModelTest, SwitchesOnlyWhileTheHelperCan) {
     TestState state;
     PresetPillsModel model(*state.appState);
     model.setAvailableWidth(2000);
-    QSignalSpy changed(&model, &PresetPillsModel::isSwitchableChanged);
+    QSignalSpy changed(&model, &PresetPillsModel::hindranceChanged);
     state.setPhase(HelperControlPhase::unlocking);
     EXPECT_FALSE(model.isSwitchable());
     model.activateShown(1);

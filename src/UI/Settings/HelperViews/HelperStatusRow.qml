@@ -69,7 +69,7 @@ Item {
         y: Math.round((root.height - height) / 2)
         diameter: 18
         color: AppColors.secondaryText
-        Accessible.role: Accessible.Indicator
+        Accessible.role: Accessible.ProgressBar
         Accessible.name: qsTrId("settings.helper.workingSpinner")
     }
 
