@@ -66,7 +66,9 @@ protected:
 };
 
 TEST_F(AssistiveTechnologyTest, SwitchesPresetsByPillCardAndChip) {
-    const QString card = u"Cool: "_s + localized("presets.card.coolCaption");
+    const QString card =
+        u"Cool: "_s + localized("presets.card.spokenCaption")
+                          .arg(localized("presets.card.coolCaption"), u"2"_s, u"3"_s);
     MenuBarPanel panel(*state.appState, nullptr);
     panel.open({300, 0, 22, 22});
     for (const auto& [section, name] :
@@ -88,6 +90,54 @@ TEST_F(AssistiveTechnologyTest, SwitchesPresetsByPillCardAndChip) {
         state.presets().setActivePresetID(std::nullopt);
         EXPECT_FALSE(reader.state(name, RadioButton).checked);
     }
+}
+
+TEST_F(AssistiveTechnologyTest, CreatesRenamesAndDeletesAPreset) {
+    const auto names = [this] {
+        QStringList list;
+        for (const FanPreset& preset : state.presets().presets())
+            list.append(preset.name);
+        return list;
+    };
+    const auto choose = [this](const char* command) {
+        const QString menu = localized("presets.card.menuButton").arg(u"Night"_s);
+        reader.act(menu, Button);
+        EXPECT_NE(reader.awaited(menu, QAccessible::PopupMenu), nullptr);
+        reader.act(localized(command), MenuItem);
+        EXPECT_TRUE(reader.isGone(menu, QAccessible::PopupMenu));
+    };
+    const auto rename = [this](const QString& name) {
+        QAccessibleInterface* field =
+            reader.awaited(localized("presets.rename.fieldLabel"), QAccessible::EditableText);
+        ASSERT_NE(field, nullptr);
+        field->setText(QAccessible::Value, name);
+        reader.act(localized("presets.rename.confirm"), Button);
+        EXPECT_TRUE(reader.isGone(localized("presets.rename.confirm")));
+    };
+    go(u"Presets"_s);
+    reader.act(localized("presets.card.newPreset"), Button);
+    rename(u"Night"_s);
+    EXPECT_EQ(names().last(), u"Night"_s);
+    EXPECT_NE(reader.awaited(u"Night"_s, RadioButton), nullptr);
+    choose("presets.contextMenu.rename");
+    rename(u" Night "_s);
+    choose("presets.contextMenu.delete");
+    reader.act(localized("presets.delete.confirm"), Button);
+    EXPECT_FALSE(names().contains(u"Night"_s));
+    EXPECT_TRUE(reader.isGone(u"Night"_s));
+}
+
+TEST_F(AssistiveTechnologyTest, SaysWhyNoPillCanBePressedAndWhereACardWent) {
+    state.helper->setState(HelperState::notInstalled);
+    const QString hindrance = localized("mainWindow.presetBar.helperMissing");
+    reader.act(u"Cool: "_s + hindrance, RadioButton);
+    EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
+    EXPECT_FALSE(reader.state(u"Cool"_s, RadioButton).checked);
+
+    go(u"Presets"_s);
+    const auto moves = reader.heard(QAccessible::DescriptionChanged, u"Cool"_s);
+    state.presets().moveSlot(PresetSlot::preset(FanPreset::coolID), PresetSlot::automatic());
+    EXPECT_GT(reader.heard(QAccessible::DescriptionChanged, u"Cool"_s), moves);
 }
 
 TEST_F(AssistiveTechnologyTest, ChangesTheSettingsAndInstallsTheHelper) {

@@ -52,7 +52,7 @@ Item {
             isKeyboardInUse: cards.isKeyboardInUse
             onPressed: cards.isKeyboardInUse = false
             onKeyboardUsed: cards.isKeyboardInUse = true
-            onContextMenuRequested: at => menu.show(this, slotID, isEditable, at)
+            onContextMenuRequested: at => menu.show(this, name, slotID, isEditable, at)
             // qmllint enable unqualified
         }
 

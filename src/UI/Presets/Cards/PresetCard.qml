@@ -23,7 +23,8 @@ ChoiceButton {
     // Grows to 1 as the card enters the grid.
     property real entrance: 1
     property real lift: isLifted ? 1.02 : 1
-    readonly property bool isLifted: hovered && !drag.isDragging
+    readonly property bool isPointedAt: hovered || menuButton.hovered
+    readonly property bool isLifted: isPointedAt && !drag.isDragging
 
     signal contextMenuRequested(point at)
     signal keyboardUsed()
@@ -47,10 +48,12 @@ ChoiceButton {
     text: name
     scale: entrance * lift
     opacity: 1
-    z: hovered ? 1 : 0
+    z: isPointedAt ? 1 : 0
     focusPolicy: Qt.ClickFocus
     isChosen: isActive
-    Accessible.description: caption
+    // With its place, which is how a move by the keyboard is heard.
+    Accessible.description: qsTrId("presets.card.spokenCaption").arg(caption).arg(index + 1)
+                                                                .arg(GridView.view?.count ?? 0)
     Accessible.focusable: true
     onActiveFocusChanged: if (activeFocus) GridView.view.currentIndex = index
     onVisualFocusChanged: if (visualFocus) keyboardUsed()
@@ -122,6 +125,17 @@ ChoiceButton {
     }
 
     CardDrag { id: drag }
+
+    CardMenuButton {
+        id: menuButton
+
+        anchors { right: parent.right; rightMargin: Spacing.medium }
+        y: 66
+        visible: !root.isAutomatic
+        cardName: root.name
+        shown: root.isLifted || (root.activeFocus && root.isKeyboardInUse)
+        onClicked: root.requestMenu(Qt.point(x, y + height))
+    }
 
     Tooltip {
         text: root.help.length > 0 ? root.help : layout.isNameTruncated ? root.name : ""

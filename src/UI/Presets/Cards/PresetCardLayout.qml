@@ -12,6 +12,8 @@ Item {
     required property thumbnailCurve curve
     required property bool isAutomatic
     required property bool isActive
+    // Beside the name, for the button of the card's menu.
+    readonly property real menuWidth: 24
     readonly property bool isNameTruncated: nameText.truncated
 
     // Names may be written in letters of any height.
@@ -43,7 +45,7 @@ Item {
         Text {
             id: nameText
 
-            width: parent.width
+            width: parent.width - root.menuWidth
             height: 17
             verticalAlignment: Text.AlignVCenter
             horizontalAlignment: Text.AlignLeft

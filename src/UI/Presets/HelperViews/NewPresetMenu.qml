@@ -9,6 +9,8 @@ PopupMenu {
 
     required property PresetsModel screen
 
+    title: qsTrId("presets.card.newPreset")
+
     function show(card: Item, at: point): void {
         openAt(card, at)
     }

@@ -11,7 +11,8 @@ PopupMenu {
     property string slotID
     property bool isEditable: false
 
-    function show(card: Item, id: string, editable: bool, at: point): void {
+    function show(card: Item, name: string, id: string, editable: bool, at: point): void {
+        title = qsTrId("presets.card.menuButton").arg(name)
         slotID = id
         isEditable = editable
         openAt(card, at)
