@@ -2,6 +2,7 @@
 
 #include "Core/AlertNotifier.h"
 #include "Core/SMCDiagnostics.h"
+#include "Shared/HelperShared/HelperConstants.h"
 
 #include <QCoreApplication>
 
@@ -10,6 +11,14 @@
 namespace kestrowind {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// The quit path waits for two calls to the helper.
+constexpr std::chrono::seconds terminationPatience = 2 * HelperConstants::callTimeout + 4s;
+
+} // namespace
 
 KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& options)
     : m_platform(makePlatform(arguments))
