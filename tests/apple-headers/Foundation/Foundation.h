@@ -68,6 +68,7 @@ typedef struct {
 
 @interface NSArray<__covariant ObjectType> : NSObject <NSFastEnumeration>
 @property(readonly) NSUInteger count;
++ (instancetype)arrayWithObjects:(const ObjectType[])objects count:(NSUInteger)count; // @[ ]
 @end
 
 @interface NSMutableArray<ObjectType> : NSArray <ObjectType>
