@@ -11,7 +11,6 @@
 #include <QObject>
 #include <QSocketNotifier>
 
-#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -23,9 +22,6 @@ class KestrowindApp final : public QObject {
     Q_OBJECT
 
 public:
-    /// How long the quit path may take, which waits for two calls to the helper of three seconds.
-    static constexpr std::chrono::seconds terminationPatience{8};
-
     /// `arguments` without the program's name.
     KestrowindApp(const QStringList& arguments, const LaunchOptions& options);
     ~KestrowindApp() override;
