@@ -14,6 +14,7 @@ IconButton {
     padding: 0
     symbolName: "ellipsis"
     text: qsTrId("presets.card.menuButton").arg(cardName)
+    toolTip: "" // it would lie under the menu
     color: shown ? AppColors.secondaryText : "transparent"
     focusPolicy: Qt.NoFocus
 }
