@@ -22,10 +22,20 @@ using namespace Qt::StringLiterals;
 const QString activePresetKey = u"activePresetID"_s;
 const QString slotOrderKey = u"presetSlotOrder"_s;
 
-// Of what somebody else wrote. Every preset and every slot is a pill, a card and a line of a menu:
-// thousands of them would hold up the readings, and with them the fans, for minutes.
+// Of what somebody else wrote. Every preset and every slot is a pill, a card and a line of a menu,
+// every point a handle: thousands of them would hold up the readings, and with them the fans.
 constexpr qsizetype mostReadPresets = 100;
 constexpr qsizetype mostReadSlots = 2 * mostReadPresets;
+constexpr qsizetype mostReadPoints = 1000; ///< of a curve
+
+bool canBeShown(const QList<FanPreset>& presets) {
+    return presets.size() <= mostReadPresets &&
+           std::ranges::all_of(presets, [](const FanPreset& preset) {
+               return std::ranges::all_of(preset.curves, [](const FanCurve& curve) {
+                   return curve.points().size() <= mostReadPoints;
+               });
+           });
+}
 
 } // namespace
 
@@ -57,8 +67,8 @@ QList<FanPreset> PresetStore::loadUserPresets() {
     auto presets = decodePresets(*content);
     if (!presets)
         return unreadable(presets.error());
-    if (presets->size() > mostReadPresets)
-        return unreadable(u"%1 presets"_s.arg(presets->size()));
+    if (!canBeShown(*presets))
+        return unreadable(u"more presets or points than can be shown"_s);
     presets->removeIf([](const FanPreset& preset) { return preset.isBuiltIn; });
     return *presets;
 }

@@ -19,9 +19,9 @@ class UserDefaults;
 ///
 /// User presets are kept in "presets.json", the active one and the order in the user defaults.
 /// Failures to read or write are silent to the user and logged, a change that is not kept as a
-/// warning. A file that cannot be decoded, or has more than a hundred presets, gives no user
-/// presets and is left alone; before the first save would replace it, it is moved aside to
-/// "presets.json.unreadable", so that no curve is ever lost.
+/// warning. A file that cannot be decoded, is larger than largestPresetsFile, or has more presets
+/// or points than can be shown, gives no user presets and is left alone; before the first save
+/// would replace it, it is moved aside to "presets.json.unreadable", so that no curve is ever lost.
 class PresetStore final : public QObject {
     Q_OBJECT
 

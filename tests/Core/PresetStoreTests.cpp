@@ -139,8 +139,10 @@ TEST_F(PresetStoreTest, SetsAsideWhateverItCannotRead) {
 }
 
 TEST_F(PresetStoreTest, StartsAtOnceWhateverAmountItFinds) {
-    const auto presets = [](int count) {
-        return *encodePresets(QList<FanPreset>(count, {.id = QUuid::createUuid()}));
+    const auto presets = [](int count, int points) {
+        const FanPreset preset{.id = QUuid::createUuid(),
+                               .curves = {FanCurve(QList<FanCurvePoint>(points))}};
+        return *encodePresets(QList<FanPreset>(count, preset));
     };
     struct Row {
         QByteArray content;
@@ -148,7 +150,8 @@ TEST_F(PresetStoreTest, StartsAtOnceWhateverAmountItFinds) {
     };
     defaults->setStringArray(u"presetSlotOrder"_s, QStringList(100'000, u"automatic"_s));
     for (const auto& [content, taken] :
-         {Row{presets(100), 100}, Row{presets(101), 0},
+         {Row{presets(100, 0), 100}, Row{presets(101, 0), 0}, Row{presets(1, 1000), 1},
+          Row{presets(1, 1001), 0},
           Row{QByteArray(",{}").repeated(300'000).replace(0, 1, "["), 0}}) {
         home.write(file, content);
         QElapsedTimer start;
