@@ -224,27 +224,27 @@ void PresetStore::persistSlotOrder() {
 }
 
 void PresetStore::save() {
-    const auto notSaved = [](const char* what, const QString& reason) {
-        qCWarning(presetsLog).noquote() << "presets not saved:" << what << reason;
+    const auto notSaved = [](const QString& reason) {
+        qCWarning(presetsLog).noquote() << "presets not saved:" << reason;
     };
     const auto content = encodePresets(userPresets());
     if (!content)
-        return notSaved("", content.error());
+        return notSaved(content.error());
     // The next start would take it for none of ours, and all presets with it.
     if (content->size() > largestPresetsFile)
-        return notSaved("too large:", QString::number(content->size()));
+        return notSaved(u"%1 bytes are too many"_s.arg(content->size()));
     const QFileInfo file(m_filePath);
     if (!QDir().mkpath(file.absolutePath()))
-        return notSaved("cannot make", file.absolutePath());
+        return notSaved(u"cannot make "_s + file.absolutePath());
     if (m_hasUnreadableFile) {
         const auto kept = DurableFile::setAside(m_filePath, file.fileName() + u".unreadable"_s);
         if (!kept)
-            return notSaved("cannot set the old file aside:", kept.error());
+            return notSaved(u"cannot set the old file aside: "_s + kept.error());
         qCInfo(presetsLog) << "kept the unreadable presets as" << *kept;
         m_hasUnreadableFile = false;
     }
     if (const auto written = DurableFile::write(m_filePath, *content); !written)
-        notSaved("", written.error());
+        notSaved(written.error());
 }
 
 QList<PresetSlot> PresetStore::reconciledSlotOrder(const QList<FanPreset>& presets,
