@@ -1,6 +1,7 @@
 #include "UI/DesignSystem/Palette.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kestrowind::Palette {
 namespace {
@@ -15,6 +16,18 @@ QColor hsb(double hue, double saturation, double brightness) {
                             static_cast<float>(brightness));
 }
 
+/// Of the light that a screen gives, 0 to 1.
+double luminance(const QColor& color) {
+    const auto linear = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+/// Readable as text (WCAG 2, level AA).
+constexpr double leastContrast = 4.5;
+
 QColor darkColor(Role role) {
     switch (role) {
     case Role::windowBackground:
@@ -23,6 +36,8 @@ QColor darkColor(Role role) {
         return grey(1, 0.06);
     case Role::popupBackground:
         return QColor(0x2c, 0x2c, 0x30);
+    case Role::panelBackground:
+        return QColor(0x18, 0x18, 0x1b);
     case Role::separator:
         return grey(1, 0.10);
     case Role::primaryText:
@@ -61,6 +76,8 @@ QColor darkColor(Role role) {
         return QColor(0xff, 0x69, 0x61);
     case Role::dangerFill:
         return QColor(0xd2, 0x2d, 0x32);
+    case Role::onDanger:
+        return grey(1);
     case Role::success:
         return QColor(0x30, 0xd1, 0x58);
     case Role::shadow:
@@ -82,6 +99,7 @@ QColor lightColor(Role role) {
     case Role::cardFill:
         return grey(1, 0.78);
     case Role::popupBackground:
+    case Role::panelBackground:
         return QColor(0xfb, 0xfb, 0xfd);
     case Role::separator:
         return grey(0, 0.10);
@@ -119,6 +137,8 @@ QColor lightColor(Role role) {
     case Role::danger:
     case Role::dangerFill:
         return QColor(0xc8, 0x14, 0x1e);
+    case Role::onDanger:
+        return grey(1);
     case Role::success:
         return QColor(0x1c, 0x77, 0x33);
     case Role::shadow:
@@ -133,10 +153,45 @@ QColor lightColor(Role role) {
     Q_UNREACHABLE();
 }
 
+QColor ownColor(Role role, ColorScheme scheme) {
+    return scheme == ColorScheme::dark ? darkColor(role) : lightColor(role);
+}
+
+/// As near to the accent as can be read on every surface.
+QColor readable(const QColor& accent, ColorScheme scheme) {
+    const bool isDark = scheme == ColorScheme::dark;
+    // The lightest of the dark surfaces, the darkest of the light ones.
+    const QColor surface =
+        ownColor(isDark ? Role::popupBackground : Role::windowBackground, scheme);
+    for (double share = 0; share < 1; share += 0.05) {
+        const QColor shade = composited(grey(isDark ? 1 : 0, share), accent);
+        if (contrast(shade, surface) >= leastContrast)
+            return shade;
+    }
+    return grey(isDark ? 1 : 0);
+}
+
 } // namespace
 
-QColor color(Role role, ColorScheme scheme) {
-    return scheme == ColorScheme::dark ? darkColor(role) : lightColor(role);
+QColor color(Role role, ColorScheme scheme, const std::optional<QColor>& accent) {
+    const QColor own = ownColor(role, scheme);
+    if (!accent)
+        return own;
+    switch (role) {
+    case Role::accent:
+        return readable(*accent, scheme);
+    case Role::accentFill:
+        return *accent;
+    case Role::onAccent:
+        return grey(contrast(grey(1), *accent) >= leastContrast ? 1 : 0);
+    case Role::focusRing: {
+        QColor ring = readable(*accent, scheme);
+        ring.setAlphaF(own.alphaF());
+        return ring;
+    }
+    default:
+        return own;
+    }
 }
 
 QGradientStops fanGradientStops() {
@@ -161,6 +216,11 @@ QColor temperatureColor(double celsius, ColorScheme scheme) {
 
 QGradientStops cardBorderStops() {
     return {{0.0, grey(1, 0.18)}, {0.5, grey(1, 0)}, {1.0, grey(0, 0.12)}};
+}
+
+double contrast(const QColor& first, const QColor& second) {
+    const auto [low, high] = std::minmax({luminance(first), luminance(second)});
+    return (high + 0.05) / (low + 0.05);
 }
 
 QColor composited(const QColor& above, const QColor& below) {

@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QGradient>
 
+#include <optional>
+
 /// Every colour of the interface as a pure function of the colour scheme.
 namespace kestrowind::Palette {
 
@@ -12,6 +14,7 @@ enum class Role {
     windowBackground,
     cardFill, ///< translucent, over windowBackground
     popupBackground,
+    panelBackground, ///< dark enough for the temperatures' colours to be read on it
     separator,
     primaryText,
     secondaryText,
@@ -19,8 +22,8 @@ enum class Role {
     quaternaryFill, ///< muted tracks and outlines
     accent,         ///< readable as text and as a mark
     accentFill,     ///< under onAccent
-    onAccent,
-    controlFill, ///< a resting control, over a card
+    onAccent,       ///< on an accentFill: white, or black where that alone is readable
+    controlFill,    ///< a resting control, over a card
     controlBorder,
     hoverFill,
     pressedFill,
@@ -30,7 +33,8 @@ enum class Role {
     knob,
     warning,
     danger,
-    dangerFill, ///< under onAccent
+    dangerFill, ///< under onDanger
+    onDanger,
     success,
     shadow,
     scrim,     ///< over what a dialog leaves out of reach
@@ -38,7 +42,8 @@ enum class Role {
     popupBorder,
 };
 
-[[nodiscard]] QColor color(Role role, ColorScheme scheme);
+/// `accent` is the user's, which the roles of that name follow; without one they are blue.
+[[nodiscard]] QColor color(Role role, ColorScheme scheme, const std::optional<QColor>& accent = {});
 
 /// Air: cyan to blue, the same in both schemes.
 [[nodiscard]] QGradientStops fanGradientStops();
@@ -51,6 +56,9 @@ enum class Role {
 
 /// The inner border of a card from top to bottom: lit above, shaded below.
 [[nodiscard]] QGradientStops cardBorderStops();
+
+/// How well one opaque colour is read on another: 1 to 21 (WCAG 2).
+[[nodiscard]] double contrast(const QColor& first, const QColor& second);
 
 /// What is seen of a translucent colour over an opaque one.
 [[nodiscard]] QColor composited(const QColor& above, const QColor& below);

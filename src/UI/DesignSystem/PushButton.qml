@@ -34,7 +34,7 @@ ActionButton {
         text: root.text
         symbolName: root.symbolName
         font: root.font
-        color: root.prominent ? AppColors.onAccent
+        color: root.prominent ? (root.destructive ? AppColors.onDanger : AppColors.onAccent)
              : root.destructive ? AppColors.danger : AppColors.primaryText
     }
 

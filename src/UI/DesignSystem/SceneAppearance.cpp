@@ -1,5 +1,7 @@
 #include "UI/DesignSystem/SceneAppearance.h"
 
+#include "Core/AssignIfChanged.h"
+
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPalette>
@@ -23,7 +25,8 @@ SceneAppearance& SceneAppearance::of(QQmlEngine& engine) {
 
 SceneAppearance::SceneAppearance(QQmlEngine& engine)
     : QObject(&engine)
-    , m_colorScheme(paletteScheme()) {
+    , m_colorScheme(paletteScheme())
+    , m_accentColor(toolkitAccent()) {
     qGuiApp->installEventFilter(this);
 }
 
@@ -33,6 +36,8 @@ void SceneAppearance::setSystemAppearance(SystemAppearance* appearance) {
     m_systemAppearance = appearance;
     if (appearance) {
         connect(appearance, &SystemAppearance::colorSchemeChanged, this,
+                &SceneAppearance::reconsider);
+        connect(appearance, &SystemAppearance::accentColorChanged, this,
                 &SceneAppearance::reconsider);
     }
     reconsider();
@@ -53,11 +58,17 @@ void SceneAppearance::reconsider() {
     std::optional<ColorScheme> scheme = m_forcedScheme;
     if (!scheme && m_systemAppearance)
         scheme = m_systemAppearance->colorScheme();
-    const ColorScheme effective = scheme.value_or(paletteScheme());
-    if (effective == m_colorScheme)
-        return;
-    m_colorScheme = effective;
-    Q_EMIT colorSchemeChanged();
+    if (assignIfChanged(m_colorScheme, scheme.value_or(paletteScheme())))
+        Q_EMIT colorSchemeChanged();
+
+    std::optional<QColor> accent = toolkitAccent();
+    const auto chosen = m_systemAppearance ? m_systemAppearance->accentColor() : std::nullopt;
+    if (chosen)
+        accent =
+            QColor::fromRgbF(static_cast<float>(chosen->red), static_cast<float>(chosen->green),
+                             static_cast<float>(chosen->blue));
+    if (assignIfChanged(m_accentColor, accent))
+        Q_EMIT accentColorChanged();
 }
 
 } // namespace kestrowind

@@ -2,6 +2,7 @@
 
 #include "Platform/SystemAppearance.h"
 
+#include <QColor>
 #include <QObject>
 #include <QPointer>
 
@@ -12,7 +13,8 @@ class QQmlEngine;
 namespace kestrowind {
 
 /// The colour scheme of one scene, that is of one QML engine: what the scene forces, else what the
-/// system says, else what the toolkit's palette looks like.
+/// system says, else what the toolkit's palette looks like; and the accent that the user has chosen
+/// for the whole system.
 class SceneAppearance final : public QObject {
     Q_OBJECT
 
@@ -22,6 +24,8 @@ public:
 
     [[nodiscard]] ColorScheme colorScheme() const { return m_colorScheme; }
     [[nodiscard]] bool isDark() const { return m_colorScheme == ColorScheme::dark; }
+    /// Absent where the system has none.
+    [[nodiscard]] const std::optional<QColor>& accentColor() const { return m_accentColor; }
 
     /// The appearance stays the caller's; it may go before the engine does.
     void setSystemAppearance(SystemAppearance* appearance);
@@ -31,14 +35,18 @@ public:
 
 Q_SIGNALS:
     void colorSchemeChanged();
+    void accentColorChanged();
 
 private:
     explicit SceneAppearance(QQmlEngine& engine);
     void reconsider();
+    /// What the toolkit's palette says, where it follows the system.
+    [[nodiscard]] static std::optional<QColor> toolkitAccent();
 
     QPointer<SystemAppearance> m_systemAppearance;
     std::optional<ColorScheme> m_forcedScheme;
     ColorScheme m_colorScheme;
+    std::optional<QColor> m_accentColor;
 };
 
 } // namespace kestrowind

@@ -9,10 +9,14 @@ namespace kestrowind {
 void ScenePalette::classBegin() {
     const SceneAppearance& appearance = SceneAppearance::of(*qmlEngine(this));
     m_scheme = appearance.colorScheme();
-    connect(&appearance, &SceneAppearance::colorSchemeChanged, this, [this, &appearance] {
+    m_accent = appearance.accentColor();
+    const auto take = [this, &appearance] {
         m_scheme = appearance.colorScheme();
+        m_accent = appearance.accentColor();
         Q_EMIT changed();
-    });
+    };
+    connect(&appearance, &SceneAppearance::colorSchemeChanged, this, take);
+    connect(&appearance, &SceneAppearance::accentColorChanged, this, take);
 }
 
 QColor ScenePalette::temperatureColorFor(double celsius, bool dark) {

@@ -10,8 +10,8 @@ namespace kestrowind {
 
 class SceneAppearance;
 
-/// The palette in the scene's colour scheme: the base of the singleton AppColors, which adds what
-/// only a QML function can be, a lookup that bindings follow.
+/// The palette in the scene's colour scheme and accent: the base of the singleton AppColors, which
+/// adds what only a QML function can be, a lookup that bindings follow.
 class ScenePalette : public QObject, public QQmlParserStatus {
     Q_OBJECT
     Q_INTERFACES(QQmlParserStatus)
@@ -19,6 +19,7 @@ class ScenePalette : public QObject, public QQmlParserStatus {
     Q_PROPERTY(QColor windowBackground READ windowBackground NOTIFY changed FINAL)
     Q_PROPERTY(QColor cardFill READ cardFill NOTIFY changed FINAL)
     Q_PROPERTY(QColor popupBackground READ popupBackground NOTIFY changed FINAL)
+    Q_PROPERTY(QColor panelBackground READ panelBackground NOTIFY changed FINAL)
     Q_PROPERTY(QColor separator READ separator NOTIFY changed FINAL)
     Q_PROPERTY(QColor primaryText READ primaryText NOTIFY changed FINAL)
     Q_PROPERTY(QColor secondaryText READ secondaryText NOTIFY changed FINAL)
@@ -38,6 +39,7 @@ class ScenePalette : public QObject, public QQmlParserStatus {
     Q_PROPERTY(QColor warning READ warning NOTIFY changed FINAL)
     Q_PROPERTY(QColor danger READ danger NOTIFY changed FINAL)
     Q_PROPERTY(QColor dangerFill READ dangerFill NOTIFY changed FINAL)
+    Q_PROPERTY(QColor onDanger READ onDanger NOTIFY changed FINAL)
     Q_PROPERTY(QColor success READ success NOTIFY changed FINAL)
     Q_PROPERTY(QColor shadow READ shadow NOTIFY changed FINAL)
     Q_PROPERTY(QColor scrim READ scrim NOTIFY changed FINAL)
@@ -59,6 +61,7 @@ public:
     [[nodiscard]] QColor windowBackground() const { return color(Palette::Role::windowBackground); }
     [[nodiscard]] QColor cardFill() const { return color(Palette::Role::cardFill); }
     [[nodiscard]] QColor popupBackground() const { return color(Palette::Role::popupBackground); }
+    [[nodiscard]] QColor panelBackground() const { return color(Palette::Role::panelBackground); }
     [[nodiscard]] QColor separator() const { return color(Palette::Role::separator); }
     [[nodiscard]] QColor primaryText() const { return color(Palette::Role::primaryText); }
     [[nodiscard]] QColor secondaryText() const { return color(Palette::Role::secondaryText); }
@@ -78,6 +81,7 @@ public:
     [[nodiscard]] QColor warning() const { return color(Palette::Role::warning); }
     [[nodiscard]] QColor danger() const { return color(Palette::Role::danger); }
     [[nodiscard]] QColor dangerFill() const { return color(Palette::Role::dangerFill); }
+    [[nodiscard]] QColor onDanger() const { return color(Palette::Role::onDanger); }
     [[nodiscard]] QColor success() const { return color(Palette::Role::success); }
     [[nodiscard]] QColor shadow() const { return color(Palette::Role::shadow); }
     [[nodiscard]] QColor scrim() const { return color(Palette::Role::scrim); }
@@ -94,9 +98,12 @@ Q_SIGNALS:
     void changed();
 
 private:
-    [[nodiscard]] QColor color(Palette::Role role) const { return Palette::color(role, m_scheme); }
+    [[nodiscard]] QColor color(Palette::Role role) const {
+        return Palette::color(role, m_scheme, m_accent);
+    }
 
     ColorScheme m_scheme = ColorScheme::light;
+    std::optional<QColor> m_accent;
 };
 
 } // namespace kestrowind

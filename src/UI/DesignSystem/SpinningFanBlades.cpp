@@ -32,7 +32,7 @@ QBrush paint(const SpinningFanBlades::RenderedLook& look) {
         return gradient;
     }
     case SpinningFanBlades::Fill::Accent:
-        return Palette::color(Palette::Role::accent, scheme);
+        return Palette::color(Palette::Role::accent, scheme, look.accent);
     case SpinningFanBlades::Fill::Parked:
         return Palette::color(Palette::Role::tertiaryText, scheme);
     }
@@ -134,7 +134,10 @@ QImage SpinningFanBlades::bladesImage(const RenderedLook& look) {
 void SpinningFanBlades::componentComplete() {
     QQuickItem::componentComplete();
     if (QQmlEngine* engine = qmlEngine(this)) {
-        connect(&SceneAppearance::of(*engine), &SceneAppearance::colorSchemeChanged, this,
+        const SceneAppearance& appearance = SceneAppearance::of(*engine);
+        connect(&appearance, &SceneAppearance::colorSchemeChanged, this,
+                &SpinningFanBlades::lookChanged);
+        connect(&appearance, &SceneAppearance::accentColorChanged, this,
                 &SpinningFanBlades::lookChanged);
     }
     lookChanged();
@@ -154,6 +157,7 @@ void SpinningFanBlades::updatePolish() {
         .fill = m_fill,
         .scale = window() ? window()->effectiveDevicePixelRatio() : scaleWithoutWindow,
         .isDarkAppearance = engine && SceneAppearance::of(*engine).isDark(),
+        .accent = engine ? SceneAppearance::of(*engine).accentColor() : std::nullopt,
     };
     if (look == m_renderedLook || look.diameter <= 0)
         return;

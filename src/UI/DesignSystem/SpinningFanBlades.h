@@ -38,6 +38,7 @@ public:
         Fill fill = Fill::Airflow;
         double scale = 0; ///< device pixels a point
         bool isDarkAppearance = false;
+        std::optional<QColor> accent = {}; ///< the user's
 
         bool operator==(const RenderedLook&) const = default;
     };

@@ -167,7 +167,7 @@ void MenuBarPanel::updateBackground() {
     // the hairline instead, and the mask cuts off the rest.
     const ColorScheme scheme = SceneAppearance::of(*m_engine).colorScheme();
     m_view->setColor(Palette::composited(Palette::color(Palette::Role::controlBorder, scheme),
-                                         Palette::color(Palette::Role::popupBackground, scheme)));
+                                         Palette::color(Palette::Role::panelBackground, scheme)));
 }
 
 void MenuBarPanel::shape() {

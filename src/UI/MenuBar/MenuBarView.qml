@@ -23,7 +23,7 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: 12
-        color: AppColors.popupBackground
+        color: AppColors.panelBackground
     }
 
     // Above the fill: on its own it would let the desktop through, which is black without compositing.

@@ -13,6 +13,11 @@ namespace {
 class SystemAppearanceFake final : public SystemAppearance {
 public:
     [[nodiscard]] std::optional<ColorScheme> colorScheme() const override { return m_scheme; }
+    [[nodiscard]] std::optional<AccentColor> accentColor() const override { return m_accent; }
+    void setAccent(std::optional<AccentColor> accent) {
+        m_accent = accent;
+        Q_EMIT accentColorChanged();
+    }
     void set(std::optional<ColorScheme> scheme) {
         m_scheme = scheme;
         Q_EMIT colorSchemeChanged();
@@ -20,6 +25,7 @@ public:
 
 private:
     std::optional<ColorScheme> m_scheme;
+    std::optional<AccentColor> m_accent;
 };
 
 void setApplicationBackground(const QColor& color) {
@@ -81,6 +87,18 @@ TEST(SceneAppearanceTests, BindingsFollowTheSceneAndOtherScenesDoNot) {
     };
     EXPECT_EQ(colors(first), expected(ColorScheme::dark));
     EXPECT_EQ(colors(second), expected(ColorScheme::light));
+}
+
+TEST(SceneAppearanceTests, BindingsFollowTheAccentOfTheSystem) {
+    SystemAppearanceFake system;
+    Scene scene("Rectangle { color: AppColors.accentFill }");
+    scene.appearance().setSystemAppearance(&system);
+    const auto color = [&] { return scene.item().property("color").value<QColor>(); };
+    const QColor own = color();
+    system.setAccent(AccentColor{.red = 1, .green = 0.5});
+    EXPECT_EQ(color(), QColor::fromRgbF(1, 0.5, 0));
+    system.setAccent(std::nullopt);
+    EXPECT_EQ(color(), own);
 }
 
 } // namespace

@@ -5,7 +5,7 @@ Rectangle {
     implicitWidth: label.implicitWidth + 20
     implicitHeight: label.implicitHeight + 10
     radius: height / 2
-    color: Qt.alpha(AppColors.accent, 0.16)
+    color: AppColors.accentFill
 
     SymbolLabel {
         id: label
@@ -15,6 +15,6 @@ Rectangle {
         symbolName: "checkmark"
         text: qsTrId("presets.card.activeBadge")
         font: Typography.weighted(Typography.caption, Font.DemiBold)
-        color: AppColors.accent
+        color: AppColors.onAccent
     }
 }

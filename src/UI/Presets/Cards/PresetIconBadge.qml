@@ -11,13 +11,13 @@ GradientDisc {
 
     implicitWidth: 42
     implicitHeight: 42
-    topColor: isActive ? AppColors.accent : "#8593a6"
-    bottomColor: isActive ? AppColors.accent : "#5f6c80"
+    topColor: isActive ? AppColors.accentFill : "#8593a6"
+    bottomColor: isActive ? AppColors.accentFill : "#5f6c80"
 
     Symbol {
         anchors.centerIn: parent
         name: root.symbolName
         size: 22
-        color: AppColors.onAccent
+        color: root.isActive ? AppColors.onAccent : "white"
     }
 }
