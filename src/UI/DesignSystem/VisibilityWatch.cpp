@@ -1,6 +1,7 @@
 #include "UI/DesignSystem/VisibilityWatch.h"
 
 #include "Core/AssignIfChanged.h"
+#include "UI/DesignSystem/WindowCover.h"
 
 #include <QEvent>
 #include <QQuickItem>
@@ -38,18 +39,22 @@ void VisibilityWatch::follow(QQuickWindow* window) {
     if (m_window) {
         m_window->removeEventFilter(this);
         m_window->disconnect(this);
+        WindowCover::of(*m_window).disconnect(this);
     }
     m_window = window;
     if (window) {
         window->installEventFilter(this);
         connect(window, &QWindow::visibilityChanged, this, &VisibilityWatch::reconsider);
+        connect(&WindowCover::of(*window), &WindowCover::isCoveredChanged, this,
+                &VisibilityWatch::reconsider);
     }
     reconsider();
 }
 
 void VisibilityWatch::reconsider() {
     takeSeen(m_item && m_item->isVisible() && m_window && m_window->isExposed() &&
-             m_window->isVisible() && m_window->visibility() != QWindow::Minimized);
+             m_window->isVisible() && m_window->visibility() != QWindow::Minimized &&
+             !WindowCover::of(*m_window).isCovered());
 }
 
 void VisibilityWatch::takeSeen(bool isSeen) {

@@ -4,6 +4,7 @@
 #include "Core/Logging.h"
 #include "UI/DesignSystem/Palette.h"
 #include "UI/DesignSystem/SceneAppearance.h"
+#include "UI/MenuBar/DesktopCompositing.h"
 #include "UI/MenuBar/MenuBarPanelPlacement.h"
 
 #include <QBitmap>
@@ -21,8 +22,7 @@ using namespace Qt::StringLiterals;
 /// The corners of the panel, as MenuBarView draws them.
 constexpr double cornerRadius = 12;
 
-/// Clicks on the desktop and on panels move no focus: X11 tells of them only who holds the pointer,
-/// and it shows nothing through the corners of a window by itself.
+/// Clicks on the desktop and on panels move no focus: X11 tells of them only who holds the pointer.
 bool isX11() {
     return QGuiApplication::platformName() == "xcb"_L1;
 }
@@ -114,6 +114,7 @@ void MenuBarPanel::closeFromOutside() {
 }
 
 bool MenuBarPanel::makeScene() {
+    m_isComposited = isDesktopComposited();
     m_engine = std::make_unique<QQmlEngine>();
     m_engine->addImportPath(u"qrc:/qt/qml"_s);
     SceneAppearance::of(*m_engine).setSystemAppearance(m_appearance);
@@ -159,11 +160,11 @@ void MenuBarPanel::place() {
 }
 
 void MenuBarPanel::updateBackground() {
-    if (!isX11()) {
+    if (m_isComposited) {
         m_view->setColor(Qt::transparent);
         return;
     }
-    // Without compositing what is transparent is black: the smooth edge of the corners blends into
+    // What is transparent is black: the smooth edge of the corners blends into
     // the hairline instead, and the mask cuts off the rest.
     const ColorScheme scheme = SceneAppearance::of(*m_engine).colorScheme();
     m_view->setColor(Palette::composited(Palette::color(Palette::Role::controlBorder, scheme),
@@ -171,7 +172,7 @@ void MenuBarPanel::updateBackground() {
 }
 
 void MenuBarPanel::shape() {
-    if (isX11())
+    if (!m_isComposited)
         m_view->setMask(roundedRegion(m_view->size()));
 }
 

@@ -66,6 +66,7 @@ private:
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickView> m_view;
     QRect m_icon;
+    bool m_isComposited = true; ///< the desktop, when the scene was made
     bool m_wasActive = false;
     QElapsedTimer m_sinceClosedFromOutside;
     QTimer m_releaseTimer;
