@@ -23,21 +23,38 @@ DashboardCard {
             Accessible.name: text
         }
 
-        Flow {
+        // As many in each line as evenly fit, every line in the middle.
+        Item {
             id: gauges
 
-            readonly property int perLine: Math.max(1, Math.floor((parent.width + spacing) / (110 + spacing)))
-            readonly property int inLine: Math.min(perLine, repeater.count)
+            readonly property real diameter: 110
+            readonly property real pitch: diameter + 64
+            readonly property int mostInLine: Math.max(1, Math.floor((width - diameter) / pitch) + 1)
+            readonly property int lines: Math.ceil(repeater.count / mostInLine)
+            readonly property int inLine: Math.ceil(repeater.count / Math.max(1, lines))
 
-            anchors.horizontalCenter: parent.horizontalCenter
-            width: inLine * 110 + Math.max(0, inLine - 1) * spacing
-            spacing: 64
+            width: parent.width
+            height: childrenRect.height
 
             Repeater {
                 id: repeater
 
                 model: root.fans
-                delegate: FanGaugeView { showsName: root.fans.hasSeveral }
+                delegate: FanGaugeView {
+                    required property int index
+                    // The delegate lives inside its root: Qt 6.4 has no way to say so to the linter.
+                    // qmllint disable unqualified
+                    readonly property int line: Math.floor(index / gauges.inLine)
+                    readonly property int besides: Math.min(gauges.inLine, repeater.count - line * gauges.inLine) - 1
+
+                    x: Math.round((gauges.width - width - besides * gauges.pitch) / 2)
+                       + (index - line * gauges.inLine) * gauges.pitch
+                    y: line * (height + Spacing.large)
+                    width: gauges.diameter
+                    height: implicitHeight
+                    showsName: root.fans.hasSeveral
+                    // qmllint enable unqualified
+                }
             }
         }
 
