@@ -36,7 +36,7 @@
         <translation>“%1” is built in and cannot be changed. Customize it to get a copy of your own.</translation>
     </message>
     <message id="curves.caption.safety">
-        <translation>Whatever the curve says, the helper never lets the Mac get too hot.</translation>
+        <translation>Whatever the curve says, the helper keeps each fan above a minimum that rises with the temperature.</translation>
     </message>
     <message id="curves.chart.addPoint">
         <translation>Add Point</translation>
@@ -101,7 +101,7 @@
         <translation>No Presets</translation>
     </message>
     <message id="curves.hint.howToEdit">
-        <translation>Drag points to shape the curve, click to add one, double-click to delete one. It drives every fan and is saved at once.</translation>
+        <translation>Drag points to shape the curve, click to add one, double-click to delete one. Changes are saved at once. While its preset is active, the curve drives every fan.</translation>
     </message>
     <message id="curves.newPresetName.base">
         <translation>New Preset</translation>
@@ -247,7 +247,7 @@
         <translation>Last %1 minutes</translation>
     </message>
     <message id="dashboard.loading.subtitle">
-        <translation>Fans and temperatures appear here in a moment.</translation>
+        <translation>Fans and temperatures appear here with the first reading.</translation>
     </message>
     <message id="dashboard.loading.title">
         <translation>Reading the sensors…</translation>
@@ -329,7 +329,7 @@
         <translation>Parked</translation>
     </message>
     <message id="menuBar.fan.rpmUnit">
-        <translation>RPM</translation>
+        <translation>rpm</translation>
     </message>
     <message id="menuBar.fan.spoken">
         <extracomment>spoken; %1: the fan, %2: its speed, or that it is parked</extracomment>
@@ -340,7 +340,7 @@
         <translation>%1 revolutions per minute</translation>
     </message>
     <message id="menuBar.helperMissing.body">
-        <translation>Presets and the quick boost need the helper, which is installed once from the main window.</translation>
+        <translation>Presets and the quick boost need the helper. Install it in the main window, under Settings.</translation>
     </message>
     <message id="menuBar.helperMissing.title">
         <translation>Fan control is off</translation>
@@ -401,7 +401,7 @@
         <translation>The Mac controls its fans itself</translation>
     </message>
     <message id="presets.card.automaticHelp">
-        <translation>Kestrowind leaves the fans alone, as if it were not running</translation>
+        <translation>Kestrowind leaves the fans to the Mac, except while you boost them</translation>
     </message>
     <message id="presets.card.builtInCurveCaption">
         <translation>Built-in curve</translation>
@@ -452,7 +452,7 @@
         <translation>Delete</translation>
     </message>
     <message id="presets.delete.message">
-        <translation>Its curves cannot be brought back.</translation>
+        <translation>This cannot be undone.</translation>
     </message>
     <message id="presets.delete.titleFallback">
         <translation>Delete this preset?</translation>
@@ -523,7 +523,7 @@
         <translation>New Preset</translation>
     </message>
     <message id="presets.newPresetHelp">
-        <translation>Its menu imports a preset from a file</translation>
+        <translation>Right-click to import a preset from a file</translation>
     </message>
     <message id="presets.rename.confirm">
         <translation>Rename</translation>
@@ -541,7 +541,7 @@
         <translation>Helper version</translation>
     </message>
     <message id="settings.about.optimisedForCaption">
-        <translation>Optimised for Mac computers</translation>
+        <translation>Made for Mac computers</translation>
     </message>
     <message id="settings.about.sectionTitle">
         <translation>About</translation>
@@ -559,19 +559,19 @@
         <translation>Hottest core</translation>
     </message>
     <message id="settings.fanBoost.temperatureSource.subtitle">
-        <translation>“Average” keeps the fans calm; “Hottest core” reacts sooner to short peaks.</translation>
+        <translation>With “Average” the fans run more evenly; “Hottest core” reacts sooner to short peaks.</translation>
     </message>
     <message id="settings.fanBoost.temperatureSource.title">
         <translation>Temperature that drives the fans</translation>
     </message>
     <message id="settings.general.hideDockIcon.subtitle">
-        <translation>Kestrowind lives on in the menu bar.</translation>
+        <translation>Kestrowind keeps running in the menu bar.</translation>
     </message>
     <message id="settings.general.hideDockIcon.title">
         <translation>Hide the Dock icon while the window is closed</translation>
     </message>
     <message id="settings.general.launchAtLogin.subtitle">
-        <translation>Starts quietly in the menu bar, without a window.</translation>
+        <translation>Kestrowind starts by itself when you log in.</translation>
     </message>
     <message id="settings.general.launchAtLogin.title">
         <translation>Launch at login</translation>
@@ -647,25 +647,22 @@
         <translation>Waiting for the administrator script</translation>
     </message>
     <message id="settings.notifications.helperFailure.subtitle">
-        <translation>The helper could not take or keep control of them.</translation>
+        <translation>The helper reports a failure, or does not do what it is asked.</translation>
     </message>
     <message id="settings.notifications.helperFailure.title">
-        <translation>The fans cannot be controlled</translation>
+        <translation>Notify when the fans cannot be controlled</translation>
     </message>
     <message id="settings.notifications.overheating.subtitle">
-        <translation>The hottest sensor stays above 100 °C for ten seconds.</translation>
+        <translation>The hottest sensor has been above 100 °C for ten seconds.</translation>
     </message>
     <message id="settings.notifications.overheating.title">
-        <translation>The Mac is very hot</translation>
-    </message>
-    <message id="settings.notifications.sectionTitle">
-        <translation>Notifications</translation>
+        <translation>Notify when the Mac is very hot</translation>
     </message>
     <message id="settings.notifications.standingFan.subtitle">
-        <translation>It was told to turn and has not for ten seconds.</translation>
+        <translation>It should be turning and has not for ten seconds.</translation>
     </message>
     <message id="settings.notifications.standingFan.title">
-        <translation>A fan stands still</translation>
+        <translation>Notify when a fan stands still</translation>
     </message>
     <message id="shared.dialog.ok">
         <translation>OK</translation>

@@ -11,12 +11,14 @@ Item {
     property color color: AppColors.primaryText
     property color symbolColor: color
     property real symbolSize: Math.round(font.pixelSize * 1.3)
+    // Of the column that it stands in the middle of.
+    property real symbolWidth: symbolSize
     property real spacing: 6
 
     property bool centered: false
 
     readonly property bool hasSymbol: symbolName.length > 0
-    readonly property real textLeft: hasSymbol ? symbolSize + (text.length > 0 ? spacing : 0) : 0
+    readonly property real textLeft: hasSymbol ? symbolWidth + (text.length > 0 ? spacing : 0) : 0
 
     implicitWidth: textLeft + label.implicitWidth
     implicitHeight: Math.max(label.implicitHeight, hasSymbol ? symbolSize : 0)
@@ -28,6 +30,7 @@ Item {
 
         Symbol {
             visible: root.hasSymbol
+            x: Math.round((root.symbolWidth - width) / 2)
             y: Math.round((root.height - height) / 2)
             name: root.symbolName
             size: root.symbolSize

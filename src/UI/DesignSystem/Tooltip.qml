@@ -9,6 +9,7 @@ T.ToolTip {
     required property bool shown
     // Between its parent and itself, points.
     property real gap: 6
+    property real widest: 280
 
     visible: shown && text.length > 0
     delay: 700
@@ -20,7 +21,7 @@ T.ToolTip {
     topPadding: 4
     bottomPadding: 4
     margins: 4
-    implicitWidth: Math.min(contentItem.implicitWidth, 280) + leftPadding + rightPadding
+    implicitWidth: Math.min(contentItem.implicitWidth, widest) + leftPadding + rightPadding
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 

@@ -37,6 +37,7 @@ Column {
         height: slider.height
 
         Symbol {
+            x: 2
             anchors.verticalCenter: parent.verticalCenter
             name: "wind"
             size: 16
@@ -46,7 +47,7 @@ Column {
         Slider {
             id: slider
 
-            x: 24
+            x: 28
             width: parent.width - x
             label: caption.text
             from: 0

@@ -30,8 +30,17 @@ ActionButton {
         symbolName: root.symbolName
         symbolColor: root.tint
         font: Typography.weighted(Typography.subheadline, Font.Medium)
+        symbolWidth: 20
         spacing: 8
     }
 
-    Tooltip { text: root.toolTip; shown: root.hovered }
+    // Beside the text: below there is no room, and above is another command. The pointer goes through.
+    Tooltip {
+        text: root.toolTip
+        shown: root.hovered
+        enabled: false
+        widest: root.width - root.implicitContentWidth - Spacing.regular
+        x: root.width - implicitWidth + 8
+        y: Math.round((root.height - implicitHeight) / 2)
+    }
 }

@@ -37,7 +37,7 @@ Column {
         Accessible.role: Accessible.StaticText
         Accessible.name: waiting.text
 
-        SpinningFanMark { diameter: 16; anchors.verticalCenter: parent.verticalCenter }
+        Spinner { anchors.verticalCenter: parent.verticalCenter; color: AppColors.secondaryText }
 
         Text {
             id: waiting
