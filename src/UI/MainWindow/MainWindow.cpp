@@ -28,6 +28,13 @@ std::optional<ColorScheme> forcedColorScheme(const UserDefaults& userDefaults) {
     return std::nullopt;
 }
 
+/// Now rather than with the first frame: a row or column has no height before.
+void layOut(QQuickItem& item) {
+    for (QQuickItem* child : item.childItems())
+        layOut(*child);
+    item.ensurePolished();
+}
+
 } // namespace
 
 MainWindow::MainWindow(const MainWindowServices& services, const MainWindowState& state)
@@ -118,14 +125,10 @@ void MainWindow::buildView() {
     m_sectionHost = view->findChild<SectionHost*>();
     connect(m_sectionHost, &SectionHost::naturalHeightChanged, this,
             [this] { m_heightController.fitWindow(m_sectionHost->naturalHeight()); });
-    // The toolbar has its height only once it was laid out.
-    const auto limit = [this, view] {
-        const double chromeHeight = view->height() - m_sectionHost->viewportHeight();
-        m_window.setMinimumSize({static_cast<int>(MainWindowFrame::minimumContentWidth),
-                                 qCeil(MainWindowFrame::minimumContentHeight + chromeHeight)});
-    };
-    connect(m_sectionHost, &SectionHost::viewportHeightChanged, this, limit);
-    limit();
+    layOut(*view);
+    const double chromeHeight = view->height() - m_sectionHost->viewportHeight();
+    m_window.setMinimumSize({static_cast<int>(MainWindowFrame::minimumContentWidth),
+                             qCeil(MainWindowFrame::minimumContentHeight + chromeHeight)});
 }
 
 void MainWindow::updateAppearance() {
