@@ -30,7 +30,7 @@ public:
     /// Absent as long as the system has not said, or when it has no preference.
     [[nodiscard]] virtual std::optional<ColorScheme> colorScheme() const = 0;
     /// Absent likewise.
-    [[nodiscard]] virtual std::optional<AccentColor> accentColor() const { return {}; }
+    [[nodiscard]] virtual std::optional<AccentColor> accentColor() const = 0;
 
 Q_SIGNALS:
     void colorSchemeChanged();

@@ -4,6 +4,7 @@
 #include "Support/QtPrinters.h"
 #include "Support/SilentSocket.h"
 
+#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
@@ -143,16 +144,25 @@ public:
     }
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
-        return bus.send(message.createReply(scheme(QVariant::fromValue(QDBusVariant(1U)))));
+        const bool isScheme = message.arguments().at(1) == u"color-scheme"_s;
+        return bus.send(message.createReply(inside(inside(isScheme ? 1U : accent(1, 0.5, 0)))));
     }
-    void change(const QString& group, uint value) {
+    void change(const QString& group, const QVariant& value,
+                const QString& key = u"color-scheme"_s) {
         QDBusMessage signal = QDBusMessage::createSignal(
             m_path, u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s);
-        m_bus.send(signal << group << u"color-scheme"_s << scheme(value));
+        m_bus.send(signal << group << key << inside(value));
+    }
+    static QVariant accent(double red, double green, double blue) {
+        QDBusArgument parts;
+        parts.beginStructure();
+        parts << red << green << blue;
+        parts.endStructure();
+        return QVariant::fromValue(parts);
     }
 
 private:
-    static QVariant scheme(const QVariant& value) {
+    static QVariant inside(const QVariant& value) {
         return QVariant::fromValue(QDBusVariant(value));
     }
 
@@ -163,15 +173,23 @@ private:
 TEST(PortalAppearance, FollowsAPortalThatComesLate) {
     PrivateBus bus;
     const PortalAppearance appearance(bus.connect(u"application"_s));
+    const std::optional<AccentColor> orange = AccentColor{.red = 1, .green = 0.5};
     QSignalSpy changed(&appearance, &SystemAppearance::colorSchemeChanged);
     FakePortal portal(bus.connect(u"desktop"_s));
     ASSERT_TRUE(changed.wait());
     EXPECT_EQ(appearance.colorScheme(), ColorScheme::dark);
-    portal.change(u"org.gnome.fonts"_s, 0);
-    portal.change(u"org.freedesktop.appearance"_s, 2);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return appearance.accentColor() == orange; }));
+    portal.change(u"org.gnome.fonts"_s, 0U);
+    for (const QVariant& none : {QVariant(u"blue"_s), FakePortal::accent(0, -1, 0)}) {
+        portal.change(u"org.freedesktop.appearance"_s, FakePortal::accent(1, 0.5, 0),
+                      u"accent-color"_s);
+        portal.change(u"org.freedesktop.appearance"_s, none, u"accent-color"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !appearance.accentColor(); }));
+    }
+    portal.change(u"org.freedesktop.appearance"_s, 2U);
     ASSERT_TRUE(changed.wait());
     EXPECT_EQ(appearance.colorScheme(), ColorScheme::light);
-    portal.change(u"org.freedesktop.appearance"_s, 0);
+    portal.change(u"org.freedesktop.appearance"_s, 0U);
     ASSERT_TRUE(changed.wait());
     EXPECT_EQ(appearance.colorScheme(), std::nullopt) << "no preference";
 

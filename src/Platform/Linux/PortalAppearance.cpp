@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/SessionBus.h"
 
+#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -9,6 +10,7 @@
 #include <QDBusVariant>
 
 #include <limits>
+#include <utility>
 
 namespace kestrowind {
 namespace {
@@ -20,6 +22,7 @@ const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 const QString settingsInterface = u"org.freedesktop.portal.Settings"_s;
 const QString appearanceGroup = u"org.freedesktop.appearance"_s;
 const QString colorSchemeKey = u"color-scheme"_s;
+const QString accentColorKey = u"accent-color"_s;
 
 /// The portal's values: 0 no preference, 1 prefers dark, 2 prefers light.
 std::optional<ColorScheme> schemeFromPortal(const QVariant& value) {
@@ -31,6 +34,23 @@ std::optional<ColorScheme> schemeFromPortal(const QVariant& value) {
     default:
         return std::nullopt;
     }
+}
+
+/// Three parts of sRGB; any that is not between 0 and 1 means none.
+std::optional<AccentColor> accentFromPortal(const QVariant& value) {
+    if (!value.canConvert<QDBusArgument>())
+        return std::nullopt;
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != "(ddd)"_L1)
+        return std::nullopt;
+    AccentColor color;
+    argument.beginStructure();
+    argument >> color.red >> color.green >> color.blue;
+    argument.endStructure();
+    const auto isPart = [](double part) { return part >= 0 && part <= 1; };
+    if (!isPart(color.red) || !isPart(color.green) || !isPart(color.blue))
+        return std::nullopt;
+    return color;
 }
 
 /// Read wraps its answer in a variant inside the variant; SettingChanged does not.
@@ -60,32 +80,41 @@ PortalAppearance::PortalAppearance(QDBusConnection bus, QObject* parent)
 }
 
 void PortalAppearance::ask() {
+    for (const QString& key : {colorSchemeKey, accentColorKey})
+        askFor(key);
+}
+
+void PortalAppearance::askFor(const QString& key) {
     QDBusMessage call =
         QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, u"Read"_s);
-    call << appearanceGroup << colorSchemeKey;
+    call << appearanceGroup << key;
     // However late it answers: the bus itself tells of a portal that went without an answer.
     constexpr int withoutEnd = std::numeric_limits<int>::max();
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, withoutEnd), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, key] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         watcher->deleteLater();
         if (!reply.isError())
-            adopt(reply.value().variant());
+            adopt(key, reply.value().variant());
     });
 }
 
 void PortalAppearance::noteSetting(const QString& group, const QString& key,
                                    const QDBusVariant& value) {
-    if (group == appearanceGroup && key == colorSchemeKey)
-        adopt(value.variant());
+    if (group == appearanceGroup)
+        adopt(key, value.variant());
 }
 
-void PortalAppearance::adopt(const QVariant& value) {
-    const std::optional<ColorScheme> scheme = schemeFromPortal(unwrapped(value));
-    if (scheme == m_colorScheme)
-        return;
-    m_colorScheme = scheme;
-    Q_EMIT colorSchemeChanged();
+void PortalAppearance::adopt(const QString& key, const QVariant& value) {
+    if (key == colorSchemeKey) {
+        const auto scheme = schemeFromPortal(unwrapped(value));
+        if (std::exchange(m_colorScheme, scheme) != scheme)
+            Q_EMIT colorSchemeChanged();
+    } else if (key == accentColorKey) {
+        const auto accent = accentFromPortal(unwrapped(value));
+        if (std::exchange(m_accentColor, accent) != accent)
+            Q_EMIT accentColorChanged();
+    }
 }
 
 } // namespace kestrowind
