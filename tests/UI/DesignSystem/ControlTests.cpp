@@ -50,26 +50,18 @@ TEST(ControlTests, ButtonsAreClickedBySpaceReturnAndPointerUnlessDisabled) {
     }
 }
 
-TEST(ControlTests, AButtonTellsWhyItIsDisabled) {
-    Shown scene(
-        "Item { Repeater { model: 1\nPushButton { text: 'New'; toolTip: 'No more than three'; "
-        "enabled: false } } }");
-    QTest::mouseMove(&scene.window(), {200, 150});
-    QTest::mouseMove(&scene.window(), {20, 10});
-    const auto* const button = scene.item().childItems().value(0);
-    ASSERT_NE(button, nullptr);
-    EXPECT_TRUE(button->property("hovered").toBool());
-}
-
-TEST(ControlTests, ASegmentIsLitUnderThePointer) {
-    Shown scene("Segment { index: 0; title: 'Curves'; symbolName: 'fanblades'; isCurrent: false }");
-    const auto isLit = [&] { return scene.item().property("hovered").toBool(); };
-    QTest::mouseMove(&scene.window(), {20, 10});
-    EXPECT_TRUE(isLit());
-    QTest::mouseMove(&scene.window(), {30, 10});
-    EXPECT_TRUE(isLit());
-    QTest::mouseMove(&scene.window(), {250, 150});
-    EXPECT_FALSE(isLit());
+TEST(ControlTests, WhatLiesUnderThePointerIsLit) {
+    for (const char* body :
+         {"Segment { index: 0; title: 'Curves'; symbolName: 'fanblades'; isCurrent: false }",
+          "PushButton { text: 'New'; toolTip: 'No more than three'; enabled: false }"}) {
+        Shown scene(QByteArray("Item { Repeater { model: 1\n") + body + "} }");
+        const auto* const control = scene.item().childItems().value(0);
+        ASSERT_NE(control, nullptr);
+        for (const int x : {20, 30, 250}) {
+            QTest::mouseMove(&scene.window(), {x, x < 250 ? 10 : 150});
+            EXPECT_EQ(control->property("hovered"), x < 250) << body;
+        }
+    }
 }
 
 TEST(ControlTests, ASliderMovesByItsStepWithTheKeysAndSnapsWhileDragged) {

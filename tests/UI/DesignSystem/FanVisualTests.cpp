@@ -1,7 +1,6 @@
 #include "UI/DesignSystem/Scene.h"
 
 #include "UI/DesignSystem/CardBackground.h"
-#include "UI/DesignSystem/FanBladesShape.h"
 #include "UI/DesignSystem/FanGauge.h"
 #include "UI/DesignSystem/FanGaugeArcs.h"
 #include "UI/DesignSystem/Palette.h"
@@ -11,29 +10,18 @@
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTransform>
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 
 namespace kestrowind {
 namespace {
 
 using namespace std::chrono_literals;
-
-TEST(FanBladesShapeTests, IsAsLargeAsTheShorterSideAndWholeAroundItsHub) {
-    const QPainterPath path = FanBladesShape::path(QRectF(10, 20, 300, 200));
-    EXPECT_TRUE(QRectF(60, 20, 200, 200).contains(path.boundingRect()));
-    EXPECT_GT(path.boundingRect().height(), 150);
-    for (int angle = 0; angle < 360; angle += 7) {
-        QTransform turn;
-        turn.translate(160, 120);
-        turn.rotate(angle);
-        EXPECT_TRUE(path.contains(turn.map(QPointF(21, 0)))) << "a hole in a blade at " << angle;
-    }
-}
 
 TEST(SpinClockTests, TheAngleGoesOnFromWhereItIsWhenTheSpeedChanges) {
     const SpinClock::TimePoint start{};
@@ -113,16 +101,6 @@ TEST(SpinningFanBladesTests, AsksForFramesOnlyWhileItTurnsAndIsSeen) {
     }
 }
 
-TEST(SpinningFanBladesTests, TheTurnedImageIsWhatThePictureShows) {
-    Scene scene("SpinningFanBlades { diameter: 60; fill: SpinningFanBlades.Parked }");
-    scene.appearance().setForcedScheme(ColorScheme::light);
-    scene.window().setColor(Qt::white);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
-    const QImage picture = scene.window().grabWindow();
-    EXPECT_EQ(picture.pixelColor(30, 30), QColor(102, 102, 102)) << "the hub";
-    EXPECT_EQ(picture.pixelColor(3, 3), QColor(Qt::white)) << "the corner";
-}
-
 TEST(FanGaugeTests, TheRingRunsClockwiseAroundAnOpeningAtTheBottom) {
     const FanGauge::Look look{.diameter = 100, .lineWidth = 8, .gapDegrees = 90};
     const QPainterPath ring = FanGauge::ringPath(look, 1);
@@ -186,18 +164,12 @@ TEST(CardBackgroundTests, TheStretchedPictureEqualsOnePaintedAtFullSize) {
         CardBackground::paint(
             painter, QRectF(0, 0, 300, 200),
             {.cornerRadius = 16, .tint = QColor(0xff, 0, 0, 0x20), .scheme = scheme});
+        painter.setCompositionMode(QPainter::CompositionMode_Difference);
+        painter.drawImage(0, 0, shown);
         painter.end();
-        int worst = 0;
-        for (int y = 0; y < 200; ++y) {
-            for (int x = 0; x < 300; ++x) {
-                const QColor one = shown.pixelColor(x, y);
-                const QColor other = expected.pixelColor(x, y);
-                worst = std::max({worst, std::abs(one.red() - other.red()),
-                                  std::abs(one.green() - other.green()),
-                                  std::abs(one.blue() - other.blue())});
-            }
-        }
-        EXPECT_LE(worst, 3) << "dark " << (scheme == ColorScheme::dark);
+        const QImage difference = expected.convertToFormat(QImage::Format_RGB888);
+        EXPECT_LE(std::ranges::max(std::span(difference.constBits(), 300 * 200 * 3)), 3)
+            << "dark " << (scheme == ColorScheme::dark);
     }
 }
 

@@ -2,6 +2,8 @@
 #include "UI/MenuBar/MenuBarLabelImage.h"
 #include "UI/TestState.h"
 
+#include <QBitmap>
+#include <QPainter>
 #include <gmock/gmock.h>
 
 #include <limits>
@@ -32,31 +34,25 @@ TEST(MenuBarReadingTest, SaysTheHottestAndTheFastest) {
     }
 }
 
-/// The smallest rectangle around what is drawn; an edge drawn more faintly does not count.
-QRect inked(const QImage& image, int leastAlpha) {
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(image.pixel(x, y)) >= leastAlpha)
-                bounds |= QRect(x, y, 1, 1);
-        }
-    }
-    return bounds;
+/// Around what is drawn; an edge drawn more faintly does not count.
+QRect inked(const QImage& image) {
+    return QRegion(QBitmap::fromImage(image.createAlphaMask(Qt::ThresholdAlphaDither)))
+        .boundingRect();
 }
 
 TEST(MenuBarLabelImageTest, DrawsTwoCentredLinesInBlackAlone) {
     const QImage once = MenuBarLabelImage::label(u"72°C"_s, u"3317 rpm"_s, 1);
     const QImage twice = MenuBarLabelImage::label(u"72°C"_s, u"3317 rpm"_s, 2);
     EXPECT_EQ(twice.size(), once.size() * 2);
-    for (int y = 0; y < twice.height(); ++y) {
-        for (int x = 0; x < twice.width(); ++x)
-            EXPECT_EQ(twice.pixel(x, y) & 0xffffff, 0U) << x << ' ' << y;
-    }
+    QImage black = twice;
+    QPainter painter(&black);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(black.rect(), Qt::black);
+    painter.end();
+    EXPECT_EQ(black, twice);
     const int half = twice.height() / 2;
-    for (const QRect& line :
-         {QRect(0, 0, twice.width(), half), QRect(0, half, twice.width(), half)}) {
-        const QRect ink = inked(twice.copy(line), 1);
-        EXPECT_FALSE(ink.isEmpty());
+    for (const int top : {0, half}) {
+        const QRect ink = inked(twice.copy(0, top, twice.width(), half));
         EXPECT_NEAR(ink.left(), twice.width() - 1 - ink.right(), 4);
     }
 }
@@ -68,7 +64,7 @@ TEST(MenuBarLabelImageTest, FitsEveryNumberIntoTheSquare) {
         for (const int side : {16, 22, 24, 44, 64}) {
             const QImage image = MenuBarLabelImage::square(reading, side, Qt::white);
             ASSERT_EQ(image.size(), QSize(side, side));
-            const QRect ink = inked(image, 170);
+            const QRect ink = inked(image);
             EXPECT_GT(ink.top(), 0) << side;
             EXPECT_LT(ink.bottom(), side - 1) << side;
             EXPECT_NEAR(ink.left(), side - 1 - ink.right(), 1 + side / 8) << side;
