@@ -5,11 +5,9 @@
 
 #include <QPointingDevice>
 #include <QSignalSpy>
-#include <QtQml/qqmlextensionplugin.h>
 
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_CurveEditorPlugin)
 
 namespace kestrowind {

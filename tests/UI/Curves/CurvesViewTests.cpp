@@ -4,11 +4,8 @@
 #include "UI/RoomView.h"
 #include "UI/TestState.h"
 
-#include <QtQml/qqmlextensionplugin.h>
-
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_CurveEditorPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_CurvesPlugin)
 

@@ -8,10 +8,8 @@
 
 #include <QFile>
 #include <QSignalSpy>
-#include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_DashboardPlugin)
 
 namespace kestrowind {

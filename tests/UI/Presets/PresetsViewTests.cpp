@@ -6,10 +6,8 @@
 
 #include <QMimeData>
 #include <QPixmap>
-#include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_PresetsPlugin)
 
 namespace kestrowind {

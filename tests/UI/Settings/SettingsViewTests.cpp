@@ -4,10 +4,8 @@
 #include "Support/QtPrinters.h"
 #include "UI/RoomView.h"
 
-#include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 Q_IMPORT_QML_PLUGIN(Kestrowind_SettingsPlugin)
 
 namespace kestrowind {
