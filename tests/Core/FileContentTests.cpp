@@ -2,7 +2,6 @@
 #include "Core/LocalizedText.h"
 #include "Core/PresetCoding.h"
 #include "Core/PresetFile.h"
-#include "Core/PresetStore.h"
 #include "Support/QtPrinters.h"
 #include "Support/TestDefaults.h"
 
@@ -129,20 +128,6 @@ TEST(PresetFile, ReadsNothingButAFileOfASaneSize) {
     const auto missing = PresetFile::read(home.path(u"missing"_s));
     ASSERT_FALSE(missing);
     EXPECT_TRUE(missing.error().contains(u"No such file"_s)) << missing.error().toStdString();
-}
-
-TEST(PresetStore, AdoptsAPresetAsOneOfTheUsersOwn) {
-    const TestHome home;
-    const auto defaults = home.defaults();
-    PresetStore store(2, *defaults, {.folder = home.path()});
-    const FanPreset cool = store.presets().front();
-    const auto first = store.adopt(cool);
-    const auto second = store.adopt(cool);
-    ASSERT_TRUE(first && second);
-    EXPECT_EQ(second->name, u"Cool Copy Copy"_s);
-    EXPECT_EQ(second->curves, cool.curves);
-    EXPECT_EQ(store.presets(), FanPreset::builtIns(2) + QList({*first, *second}));
-    EXPECT_EQ(PresetStore(2, *defaults, {.folder = home.path()}).presets(), store.presets());
 }
 
 } // namespace

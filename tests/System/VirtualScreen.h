@@ -57,8 +57,6 @@ public:
         movePointer(window, x, y);
         tool({QStringLiteral("click"), QStringLiteral("1")});
     }
-    void key(const QString& name) const { tool({QStringLiteral("key"), name}); }
-    void type(const QString& text) const { tool({QStringLiteral("type"), text}); }
     /// Takes what lies at one point to another, as a hand does: by steps.
     void drag(const QString& window, QPoint from, QPoint to) const {
         movePointer(window, from.x(), from.y());

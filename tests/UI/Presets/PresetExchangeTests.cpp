@@ -79,6 +79,7 @@ TEST_F(PresetExchangeTest, WhatCannotBeTakenInChangesNothingAndSaysWhy) {
     }
     // The last place was taken while the dialog was open.
     const auto full = state.presets().presets();
+    EXPECT_EQ(full.last().name, u"Cool Copy Copy Copy"_s);
     exchange.importPreset();
     EXPECT_EQ(failureAfter(file(good)),
               localized("presets.limitReachedHelp").arg(PresetStore::maximumUserPresets));

@@ -92,21 +92,6 @@ TEST_F(PresetsModelTest, ShowsTheSlotsInTheUsersOrder) {
     EXPECT_EQ(model.activeRow(), 1);
 }
 
-TEST_F(PresetsModelTest, MovesRowsInsteadOfMakingThemAnew) {
-    QSignalSpy inserted(model.cards(), &PresetCards::rowsInserted);
-    QSignalSpy removed(model.cards(), &PresetCards::rowsRemoved);
-    QSignalSpy moved(model.cards(), &PresetCards::rowsMoved);
-    EXPECT_TRUE(model.drop(u"automatic"_s, fullSpeedID));
-    EXPECT_THAT(names(), ElementsAre(u"Cool"_s, u"Full Speed"_s, u"Automatic"_s));
-    EXPECT_GT(moved.size(), 0);
-    EXPECT_EQ(inserted.size() + removed.size(), 0);
-    model.createPreset();
-    EXPECT_EQ(inserted.size(), 1);
-    model.requestDeletion(idOf(state.presets().presets().last().id));
-    model.confirmDeletion();
-    EXPECT_EQ(removed.size(), 1);
-}
-
 TEST(PresetCardsTest, BearASlotThatWasSavedTwice) {
     TestState state({u"-presetSlotOrder"_s, u"(automatic, automatic, nonsense, %1)"_s.arg(coolID)});
     PresetsModel model(*state.appState, state.fileDialogs);
