@@ -56,6 +56,9 @@ TEST_F(CurveGestures, DragPointsAndLetThemGoWhereTheyAre) {
 
     click(at(65, 60));
     EXPECT_TRUE(owner.takeEdits().isEmpty()) << "a click on a point is no edit";
+    EXPECT_EQ(chart.hoveredPoint(), 1);
+    move({5, 5});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.isIdle(); })) << "the pointer has left";
 }
 
 TEST_F(CurveGestures, AddByAClickAndDeleteByADoubleClick) {
@@ -178,20 +181,6 @@ TEST_F(CurveGestures, AreDeafOnAReadOnlyCurve) {
     release(at(70, 70));
     EXPECT_TRUE(owner.said.isEmpty());
     EXPECT_EQ(menu.size(), 0);
-}
-
-TEST_F(CurveGestures, HoverShowsWhatAClickWouldAddOrTheValuesOfAPoint) {
-    move(at(30, 80));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.ghost().isShown; }, 3000));
-    EXPECT_EQ(chart.ghost().text, u"30 °C · 80%"_s);
-    EXPECT_FALSE(chart.callout().isShown);
-    move(at(60, 50));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.hoveredPoint() == 1; }, 3000));
-    EXPECT_FALSE(chart.ghost().isShown);
-    EXPECT_EQ(chart.callout().text, u"60 °C · 50%"_s);
-    move({5, 5});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return chart.isIdle(); }, 3000));
-    EXPECT_FALSE(chart.callout().isShown);
 }
 
 TEST_F(CurveGestures, TheKeyboardComesToTheFirstPointAndStaysWithItsPoint) {
