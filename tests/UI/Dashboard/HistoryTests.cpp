@@ -194,7 +194,7 @@ TEST(ChartReadout, TellsTheNearestMomentThatIsShown) {
     EXPECT_FALSE(ChartReadout::nearest(late, look, 200).isShown) << "no sample is in sight";
 }
 
-TEST(LineChartPainter, FillsThePlotAndBearsABrokenPoint) {
+TEST(LineChartPainter, KeepsLinesInsideThePlotAndLabelsOutside) {
     QList<TelemetrySample> samples;
     for (int sample = 0; sample < 60; ++sample)
         samples.append(sampleAt(2.0 * sample, 45 + 7 * (sample % 8), 41 + sample));
@@ -214,6 +214,17 @@ TEST(LineChartPainter, FillsThePlotAndBearsABrokenPoint) {
     LineChart axes = chart;
     axes.series.clear();
     const QImage empty = painted(axes);
+    QRect drawn;
+    const QImage picture = painted(chart);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) != empty.pixel(x, y))
+                drawn |= QRect(x, y, 1, 1);
+        }
+    }
+    EXPECT_TRUE(look.plot().adjusted(-3, -3, 3, 3).contains(drawn)) << "lines leave the plot";
+    EXPECT_GT(drawn.width(), look.plot().width() - 4) << "lines do not span the plot";
+
     LineChart broken = chart;
     broken.series[0].points[3].setY(std::numeric_limits<double>::quiet_NaN());
     EXPECT_NE(painted(broken), empty);
