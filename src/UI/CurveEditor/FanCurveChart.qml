@@ -101,7 +101,6 @@ FocusScope {
             menu.point = index
             menu.title = (handle as CurvePointHandle).spokenLabel
             menu.isByKeyboard = !root.model.isLedByPointer
-            menu.title = handle.Accessible.name
             menu.openAt(plot, Qt.point(handle.x + handle.width, handle.y + handle.height))
         }
         function onCurrentPointChanged() {
