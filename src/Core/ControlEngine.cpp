@@ -122,7 +122,6 @@ QCoro::Task<void> ControlEngine::shutDown() {
     const QPointer<ControlEngine> engine(this);
     m_pushTimer.stop();
     m_isShutDown = true;
-    m_watch.clear();
     co_await m_helper.releaseControl();
     if (engine)
         setApplied(std::nullopt);

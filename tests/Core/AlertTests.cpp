@@ -255,6 +255,8 @@ TEST(AlertNotifier, PostsWhatTheUserWantsToHear) {
         ASSERT_TRUE(QTest::qWaitFor(isDenied));
         sample();
         EXPECT_EQ(notifications.shown.size(), 4);
+        QCoro::waitFor(state.engine().shutDown());
+        EXPECT_EQ(notifications.shown.size(), 4) << "quitting gives nothing back";
         notifications.shown.clear();
     }
     seconds += 7200;
