@@ -170,6 +170,8 @@ TEST_F(HelperClientTest, InstallsThroughTheScriptRunner) {
 
     machine.resources = {{u"KestrowindHelper"_s, u"/a b/it's"_s},
                          {u"app.kestrowind.helper.plist"_s, u"/p"_s}};
+    // It may have come far: the last of its commands starts the job.
+    runner.effect = [&] { machine.files = {plist, executable}; };
     runner.outcome = {ScriptOutcome::Kind::failed, u"User cancelled."_s};
     const auto failure = QCoro::waitFor(client->install());
     EXPECT_EQ(failure.error(), (InstallError{Kind::adminScriptFailed, u"User cancelled."_s}));
@@ -178,7 +180,6 @@ TEST_F(HelperClientTest, InstallsThroughTheScriptRunner) {
     EXPECT_EQ(client->state(), HelperState::notInstalled);
 
     runner.outcome = {};
-    runner.effect = [&] { machine.files = {plist, executable}; };
     EXPECT_TRUE(QCoro::waitFor(client->install()));
     EXPECT_EQ(client->state(), HelperState::installed);
     EXPECT_EQ(helper.methods(), QStringList{u"status"_s});

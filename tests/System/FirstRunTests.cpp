@@ -89,17 +89,5 @@ TEST_F(FirstRunTest, InstallsDrivesTheFansReinstallsAndRemovesAllByClicking) {
     EXPECT_TRUE(waitUntil([&] { return modes.areAllSystem(); }));
 }
 
-TEST_F(FirstRunTest, ComesBackFromAFailedInstallation) {
-    screen.click(window, settingsSegment.x(), settingsSegment.y());
-    ASSERT_EQ(mac.control({u"launchd"_s, u"failing"_s}).status, 0);
-    ASSERT_TRUE(screen.clickUntil(window, installButton, [this] { return areFilesThere(); }));
-    ASSERT_TRUE(app->waitFor(helperIs("notInstalled"))) << "the job did not start";
-    ASSERT_EQ(mac.control({u"launchd"_s, u"normal"_s}).status, 0);
-    clickAndAnswer(installButton, "grant");
-    ASSERT_TRUE(app->waitFor(helperIs("installed")));
-    HelperCaller caller(mac, u"firstRun"_s);
-    EXPECT_EQ(caller.status().at("phase"), "idle");
-}
-
 } // namespace
 } // namespace kestrowind
