@@ -1,6 +1,7 @@
 #include "UI/DesignSystem/Scene.h"
 
 #include "UI/DesignSystem/CardBackground.h"
+#include "UI/DesignSystem/FanBladesShape.h"
 #include "UI/DesignSystem/FanGauge.h"
 #include "UI/DesignSystem/FanGaugeArcs.h"
 #include "UI/DesignSystem/Palette.h"
@@ -10,6 +11,7 @@
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTransform>
 
 #include <gmock/gmock.h>
 
@@ -22,6 +24,18 @@ namespace kestrowind {
 namespace {
 
 using namespace std::chrono_literals;
+
+TEST(FanBladesShapeTests, IsAsLargeAsTheShorterSideAndWholeAroundItsHub) {
+    const QPainterPath path = FanBladesShape::path(QRectF(10, 20, 300, 200));
+    EXPECT_TRUE(QRectF(60, 20, 200, 200).contains(path.boundingRect()));
+    EXPECT_GT(path.boundingRect().height(), 150);
+    for (int angle = 0; angle < 360; angle += 7) {
+        QTransform turn;
+        turn.translate(160, 120);
+        turn.rotate(angle);
+        EXPECT_TRUE(path.contains(turn.map(QPointF(21, 0)))) << "a hole in a blade at " << angle;
+    }
+}
 
 TEST(SpinClockTests, TheAngleGoesOnFromWhereItIsWhenTheSpeedChanges) {
     const SpinClock::TimePoint start{};
@@ -99,6 +113,16 @@ TEST(SpinningFanBladesTests, AsksForFramesOnlyWhileItTurnsAndIsSeen) {
         change.start();
         EXPECT_TRUE(QTest::qWaitFor([&] { return fan.isTurning(); }, 1000)) << change.name;
     }
+}
+
+TEST(SpinningFanBladesTests, TheTurnedImageIsWhatThePictureShows) {
+    Scene scene("SpinningFanBlades { diameter: 60; fill: SpinningFanBlades.Parked }");
+    scene.appearance().setForcedScheme(ColorScheme::light);
+    scene.window().setColor(Qt::white);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
+    const QImage picture = scene.window().grabWindow();
+    EXPECT_EQ(picture.pixelColor(30, 30), QColor(102, 102, 102)) << "the hub";
+    EXPECT_EQ(picture.pixelColor(3, 3), QColor(Qt::white)) << "the corner";
 }
 
 TEST(FanGaugeTests, TheRingRunsClockwiseAroundAnOpeningAtTheBottom) {

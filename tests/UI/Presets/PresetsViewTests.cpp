@@ -1,9 +1,11 @@
 #include "Support/QtPrinters.h"
+#include "UI/Presets/CardDrag.h"
 #include "UI/Presets/PresetsModel.h"
 #include "UI/RoomView.h"
 #include "UI/TestState.h"
 
 #include <QMimeData>
+#include <QPixmap>
 #include <gmock/gmock.h>
 
 Q_IMPORT_QML_PLUGIN(Kestrowind_PresetsPlugin)
@@ -245,6 +247,14 @@ TEST_F(PresetsViewTest, ADroppedTextMovesACardAndNothingElseDoes) {
     file.setData(u"application/octet-stream"_s, QByteArray(10, '\0'));
     EXPECT_FALSE(dropOn(u"Cool"_s, file));
     EXPECT_THAT(order(), ElementsAre(u"Cool"_s, u"Full Speed"_s, u"Automatic"_s));
+}
+
+TEST_F(PresetsViewTest, ACardCarriesAPictureOfItself) {
+    const QPixmap picture = CardDrag::picture(*view.named(u"Cool"_s), 16);
+    EXPECT_EQ(picture.deviceIndependentSize(), QSizeF(245, 188));
+    const QImage image = picture.toImage();
+    EXPECT_NE(image.pixelColor(37, 37), image.pixelColor(120, 20)) << "the badge, and nothing";
+    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0) << "round corners";
 }
 
 TEST_F(PresetsViewTest, AwkwardNamesStayInsideTheirCards) {
