@@ -90,13 +90,14 @@ AlertRules::Helper AlertNotifier::helperWork(const TelemetrySample& sample) cons
     using Work = AlertRules::Helper::Work;
     const HelperControlling& helper = m_appState.helper();
     const ControlEngine& engine = m_appState.engine();
-    if (!helper.isInstalled())
-        return {Work::done}; // nothing is asked of it
     const auto isWanted = [](double percent) { return percent > 0; };
-    const auto isHeld = [](const SMCFanReading& fan) { return fan.isManual(); };
-    // Unless a fan is left at its last speed, a helper without work may be silent.
-    const bool matters = std::ranges::any_of(engine.requestedPercents(), isWanted) ||
-                         std::ranges::any_of(sample.fans, isHeld);
+    const bool isAnyHeld =
+        std::ranges::any_of(sample.fans, [](const auto& fan) { return fan.isManual(); });
+    // Nothing is asked of a helper that is not there, but it may have left a fan at its last speed.
+    if (!helper.isInstalled())
+        return {isAnyHeld ? Work::pending : Work::done};
+    // Unless a fan was left so, a helper without work may be silent.
+    const bool matters = std::ranges::any_of(engine.requestedPercents(), isWanted) || isAnyHeld;
     if (engine.watch().isDenied())
         return {matters ? Work::failing : Work::pending};
     // The last word of a helper that is gone says nothing of now.
