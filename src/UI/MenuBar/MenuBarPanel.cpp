@@ -2,9 +2,9 @@
 
 #include "Core/LocalizedText.h"
 #include "Core/Logging.h"
+#include "UI/DesignSystem/DesktopCompositing.h"
 #include "UI/DesignSystem/Palette.h"
 #include "UI/DesignSystem/SceneAppearance.h"
-#include "UI/MenuBar/DesktopCompositing.h"
 #include "UI/MenuBar/MenuBarPanelPlacement.h"
 
 #include <QBitmap>

@@ -1,6 +1,7 @@
 #include "UI/Presets/CardDrag.h"
 
 #include "Core/AssignIfChanged.h"
+#include "UI/DesignSystem/DesktopCompositing.h"
 
 #include <QDrag>
 #include <QGuiApplication>
@@ -32,6 +33,10 @@ QPixmap CardDrag::picture(const QQuickItem& card, double cornerRadius) {
                             cornerRadius);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.drawPixmap(QPointF(), square);
+    if (!isDesktopComposited()) {
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+        painter.fillRect(rounded.rect(), window->color());
+    }
     return rounded;
 }
 

@@ -20,6 +20,7 @@ public:
     using QObject::QObject;
 
     /// The picture to be carried: the card as its window shows it, within its rounded corners.
+    /// Where a desktop cannot show what lies behind them, they have the window's colour.
     [[nodiscard]] static QPixmap picture(const QQuickItem& card, double cornerRadius);
 
     [[nodiscard]] bool isDragging() const { return m_isDragging; }

@@ -50,6 +50,7 @@ Item {
             height: root.cardHeight
             screen: root.model
             isKeyboardInUse: cards.isKeyboardInUse
+            isMenuOpen: menu.visible && menu.slotID === slotID
             onPressed: cards.isKeyboardInUse = false
             onKeyboardUsed: cards.isKeyboardInUse = true
             onContextMenuRequested: at => menu.show(this, name, slotID, isEditable, at)

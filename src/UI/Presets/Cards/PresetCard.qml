@@ -19,6 +19,7 @@ ChoiceButton {
     required property PresetsModel screen
     // Not where the keyboard is, but whether it is being used.
     property bool isKeyboardInUse: false
+    property bool isMenuOpen: false
 
     // Grows to 1 as the card enters the grid.
     property real entrance: 1
@@ -139,6 +140,6 @@ ChoiceButton {
 
     Tooltip {
         text: root.help.length > 0 ? root.help : layout.isNameTruncated ? root.name : ""
-        shown: root.hovered && !drag.isDragging
+        shown: root.hovered && !drag.isDragging && !root.isMenuOpen
     }
 }

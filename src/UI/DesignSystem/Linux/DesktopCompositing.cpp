@@ -1,4 +1,4 @@
-#include "UI/MenuBar/DesktopCompositing.h"
+#include "UI/DesignSystem/DesktopCompositing.h"
 
 #include "UI/DesignSystem/Linux/X11Connection.h"
 
