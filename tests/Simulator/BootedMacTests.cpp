@@ -44,6 +44,8 @@ TEST(BootedMac, SaysWhyItCannotBoot) {
     const bool canGiveAway = ::getuid() == 0;
     if (canGiveAway)
         ::lchown(qPrintable(folders.filePath(u"planted/run"_s)), 1, 1);
+    QDir().mkpath(folders.filePath(u"linked/run"_s));
+    QFile::link(u"/dev/null"_s, folders.filePath(u"linked/run/system.json"_s));
     struct Case {
         QStringList arguments;
         const char* message;
@@ -58,6 +60,7 @@ TEST(BootedMac, SaysWhyItCannotBoot) {
              Case{{u"--root"_s, folder(u"open"_s, open)}, "open is writable by other users"},
              Case{{u"--root"_s, folder(u"open/above"_s, S_IRWXU)}, "open is writable by other"},
              Case{{u"--root"_s, folders.filePath(u"planted"_s)}, "run belongs to another user"},
+             Case{{u"--root"_s, folders.filePath(u"linked"_s)}, "system.json is a link"},
              Case{{u"--root"_s, folders.path()}, "holds other files than a machine's"},
              Case{{u"--root"_s, otherRoot + u"/run/../"_s}, "a machine is already running in"},
          }) {

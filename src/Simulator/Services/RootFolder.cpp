@@ -104,15 +104,25 @@ Checked checkOwn(const fs::path& path) {
     return {};
 }
 
-/// The same of a folder, if there is one, and of all that is in it.
-Checked checkAllIn(const fs::path& folder) {
+/// Only its commands are links: through any other the machine would write outside of its folder.
+Checked checkNoLink(const fs::path& path) {
+    const auto facts = factsOf(path);
+    if (!facts)
+        return std::unexpected(facts.error());
+    if (S_ISLNK(facts->st_mode))
+        return std::unexpected(path.string() + " is a link, through which the machine would write");
+    return {};
+}
+
+/// Whether a folder, if there is one, and all that is in it passes a check.
+Checked checkAllIn(const fs::path& folder, Checked (*check)(const fs::path&)) {
     std::error_code error;
     if (!fs::exists(fs::symlink_status(folder, error)))
         return {};
-    Checked safe = checkOwn(folder);
+    Checked safe = check(folder);
     for (fs::recursive_directory_iterator entry(folder, error), end; safe && !error && entry != end;
          entry.increment(error))
-        safe = checkOwn(entry->path());
+        safe = check(entry->path());
     if (safe && error)
         return std::unexpected("cannot look into " + folder.string() + ": " + error.message());
     return safe;
@@ -128,7 +138,11 @@ Checked checkSafety(const fs::path& root) {
         return safe;
     // What lies there may be older than the folder's permissions.
     for (const char* part : {"bin", "Library", "run", "usr"}) {
-        if (auto safe = checkAllIn(root / part); !safe)
+        if (auto safe = checkAllIn(root / part, &checkOwn); !safe)
+            return safe;
+    }
+    for (const char* part : {"Library", "run"}) {
+        if (auto safe = checkAllIn(root / part, &checkNoLink); !safe)
             return safe;
     }
     return {};
