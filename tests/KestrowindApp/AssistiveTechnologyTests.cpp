@@ -115,7 +115,11 @@ TEST_F(AssistiveTechnologyTest, CreatesRenamesAndDeletesAPreset) {
         EXPECT_TRUE(reader.isGone(localized("presets.rename.confirm")));
     };
     go(u"Presets"_s);
-    reader.act(localized("presets.card.newPreset"), Button);
+    const QString ways = localized("presets.card.newPreset");
+    reader.act(localized("presets.card.menuButton").arg(ways), Button);
+    EXPECT_NE(reader.awaited(ways, QAccessible::PopupMenu), nullptr);
+    EXPECT_NE(reader.awaited(localized("presets.contextMenu.import"), MenuItem), nullptr);
+    reader.act(localized("presets.contextMenu.new"), MenuItem);
     rename(u"Night"_s);
     EXPECT_EQ(names().last(), u"Night"_s);
     EXPECT_NE(reader.awaited(u"Night"_s, RadioButton), nullptr);

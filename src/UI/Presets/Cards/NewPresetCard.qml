@@ -8,7 +8,7 @@ FocusScope {
 
     required property bool canCreate
     required property string limitHelp
-    readonly property bool isHovering: button.hovered
+    readonly property bool isHovering: button.hovered || menuButton.hovered
     readonly property bool isLit: isHovering && canCreate
 
     signal clicked()
@@ -107,6 +107,16 @@ FocusScope {
                 }
             }
         }
+    }
+
+    CardMenuButton {
+        id: menuButton
+
+        anchors { top: parent.top; right: parent.right; margins: Spacing.medium }
+        visible: root.canCreate
+        cardName: button.text
+        shown: root.isHovering || button.visualFocus
+        onClicked: root.requestMenu(Qt.point(x, y + height))
     }
 
     Tooltip {
