@@ -170,6 +170,35 @@ TEST_F(AssistiveTechnologyTest, ChangesTheSettingsAndInstallsTheHelper) {
     go(u"Dashboard"_s);
 }
 
+TEST_F(AssistiveTechnologyTest, MovesAddsAndDeletesPoints) {
+    const QUuid id = state.presets().addPreset(u"Night"_s)->id;
+    const auto points = [&] { return state.presets().preset(id)->curves.first().points(); };
+    const auto count = points().size();
+    state.presets().setActivePresetID(id);
+    go(u"Curves"_s);
+    const QString point = localized("curves.chart.pointAccessibilityLabel").arg(2);
+    QAccessibleValueInterface* slider = reader.value(point);
+    ASSERT_NE(slider, nullptr);
+    EXPECT_EQ(slider->minimumValue(), 0);
+    EXPECT_EQ(slider->maximumValue(), 100);
+    const double before = points()[1].percent;
+    reader.act(point, QAccessible::Slider, QAccessibleActionInterface::increaseAction());
+    EXPECT_EQ(slider->currentValue(), before + 1);
+    reader.act(point, QAccessible::Slider, QAccessibleActionInterface::decreaseAction());
+    EXPECT_EQ(slider->currentValue(), before);
+    slider->setCurrentValue(37);
+    EXPECT_EQ(slider->currentValue(), 37);
+    EXPECT_EQ(reader.heard(QAccessible::ValueChanged, point), 3);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return points()[1].percent == 37; }));
+
+    reader.act(localized("curves.chart.label"));
+    EXPECT_EQ(points().size(), count + 1);
+    reader.act(point, QAccessible::Slider);
+    EXPECT_NE(reader.awaited(point, QAccessible::PopupMenu), nullptr);
+    reader.act(localized("curves.chart.deletePoint"), MenuItem);
+    EXPECT_EQ(points().size(), count);
+}
+
 TEST_F(AssistiveTechnologyTest, BoostsInSteps) {
     MenuBarPanel panel(*state.appState, nullptr);
     panel.open({300, 0, 22, 22});
