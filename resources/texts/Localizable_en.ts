@@ -523,7 +523,7 @@
         <translation>New Preset</translation>
     </message>
     <message id="presets.newPresetHelp">
-        <translation>Right-click to import a preset from a file</translation>
+        <translation>Its menu imports a preset from a file</translation>
     </message>
     <message id="presets.rename.confirm">
         <translation>Rename</translation>
