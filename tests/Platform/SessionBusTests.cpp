@@ -55,6 +55,7 @@ private:
 class FakeDesktop final : public QDBusVirtualObject {
 public:
     std::vector<QVariantList> notified;
+    QList<uint> closed;
     bool refuses = false;
 
     explicit FakeDesktop(QDBusConnection bus)
@@ -64,6 +65,10 @@ public:
     }
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        if (message.member() == "CloseNotification"_L1) {
+            closed.append(message.arguments().value(0).toUInt());
+            return true;
+        }
         notified.push_back(message.arguments());
         // As the service does: a number of one's own, or that of what is replaced.
         const uint replaced = message.arguments().at(1).toUInt();
@@ -112,6 +117,13 @@ TEST(BusNotifications, ShowsReplacesAndHearsOfClicks) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return activated.size() == 1; }));
     ASSERT_TRUE(show(heat));
     EXPECT_EQ(desktop.notified.back().at(1), 41U);
+    // One whose number is known, and one that is on its way.
+    notifications.withdraw(fan.identifier);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return desktop.closed == QList<uint>{42}; }));
+    notifications.show(heat);
+    notifications.withdraw(heat.identifier);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return desktop.closed.size() == 3; }));
+    EXPECT_EQ(desktop.closed, QList<uint>({42, 41, 41}));
 
     desktop.refuses = true;
     ASSERT_TRUE(show(fan));

@@ -7,6 +7,8 @@
 #include <QDBusPendingReply>
 #include <QLoggingCategory>
 
+#include <chrono>
+
 namespace kestrowind {
 namespace {
 
@@ -23,6 +25,9 @@ const QString clickAction = u"default"_s;
 
 constexpr uchar criticalUrgency = 2; ///< stays until the user has seen it
 constexpr int serviceDecides = -1;   ///< how long it is shown
+
+/// A service that has not answered by then shows nothing, and the tray does.
+constexpr std::chrono::seconds patience{5};
 
 } // namespace
 
@@ -49,7 +54,10 @@ void BusNotifications::show(const Notification& notification) {
          << QVariantMap{{u"desktop-entry"_s, u"app.kestrowind"_s},
                         {u"urgency"_s, QVariant::fromValue(criticalUrgency)}}
          << serviceDecides;
-    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
+    m_awaited.insert(notification.identifier);
+    m_withdrawn.remove(notification.identifier);
+    const int limit = static_cast<int>(std::chrono::milliseconds(patience).count());
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, limit), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [=, this] {
         takeReply(*watcher, notification);
         watcher->deleteLater();
@@ -57,26 +65,34 @@ void BusNotifications::show(const Notification& notification) {
 }
 
 void BusNotifications::withdraw(const QString& identifier) {
-    // One that is still on its way has no number yet, and is left to its reader.
-    const auto shown = m_ids.constFind(identifier);
-    if (shown == m_ids.constEnd())
-        return;
+    if (m_ids.contains(identifier))
+        close(m_ids.take(identifier));
+    // Its number is not known before the answer.
+    if (m_awaited.contains(identifier))
+        m_withdrawn.insert(identifier);
+}
+
+void BusNotifications::close(uint id) {
     QDBusMessage call =
         QDBusMessage::createMethodCall(busService, busPath, busInterface, u"CloseNotification"_s);
-    call << *shown;
-    m_ids.erase(shown);
-    m_bus.asyncCall(call);
+    m_bus.asyncCall(call << id);
 }
 
 void BusNotifications::takeReply(QDBusPendingCallWatcher& watcher,
                                  const Notification& notification) {
     const QDBusPendingReply<uint> reply(watcher);
+    m_awaited.remove(notification.identifier);
+    const bool isWithdrawn = m_withdrawn.remove(notification.identifier);
     if (reply.isError()) {
         qCDebug(notificationsLog).noquote() << "not shown:" << reply.error().message();
-        Q_EMIT notShown(notification);
+        if (!isWithdrawn)
+            Q_EMIT notShown(notification);
         return;
     }
-    m_ids.insert(notification.identifier, reply.value());
+    if (isWithdrawn)
+        close(reply.value());
+    else
+        m_ids.insert(notification.identifier, reply.value());
 }
 
 void BusNotifications::noteAction(uint id, const QString& action) {

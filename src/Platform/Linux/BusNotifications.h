@@ -4,6 +4,7 @@
 
 #include <QDBusConnection>
 #include <QHash>
+#include <QSet>
 
 class QDBusPendingCallWatcher;
 
@@ -25,9 +26,12 @@ private Q_SLOTS:
 
 private:
     void takeReply(QDBusPendingCallWatcher& watcher, const Notification& notification);
+    void close(uint id);
 
     QDBusConnection m_bus;
     QHash<QString, uint> m_ids; ///< the service's number of each identifier's last notification
+    QSet<QString> m_awaited;    ///< asked for, and not answered yet
+    QSet<QString> m_withdrawn;  ///< of those
 };
 
 } // namespace kestrowind

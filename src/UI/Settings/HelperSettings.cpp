@@ -21,6 +21,7 @@ HelperSettings::HelperSettings(HelperControlling& helper, const ControlWatch& wa
     connect(&operation, &HelperOperation::errorMessageChanged, this,
             &HelperSettings::errorMessageChanged);
     m_nextQuestion.setSingleShot(true);
+    m_nextQuestion.setTimerType(Qt::PreciseTimer);
     m_nextQuestion.setInterval(interval);
     connect(&m_nextQuestion, &QTimer::timeout, this, &HelperSettings::askForStatus);
 }
