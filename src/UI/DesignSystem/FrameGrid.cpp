@@ -28,8 +28,8 @@ std::int64_t tick(const QQuickWindow& window) {
     return now() / interval(window);
 }
 
-std::chrono::milliseconds untilNextTick(const QQuickWindow& window) {
-    const Clock::duration step = interval(window);
+std::chrono::milliseconds untilNextTick(const QQuickWindow& window, int every) {
+    const Clock::duration step = every * interval(window);
     return std::chrono::ceil<std::chrono::milliseconds>(step - now() % step);
 }
 

@@ -13,7 +13,7 @@ namespace kestrowind::FrameGrid {
 
 /// The number of the instant that it is now.
 [[nodiscard]] std::int64_t tick(const QQuickWindow& window);
-/// Rounded up.
-[[nodiscard]] std::chrono::milliseconds untilNextTick(const QQuickWindow& window);
+/// Rounded up. `every` counts ticks: 2 is for each second one.
+[[nodiscard]] std::chrono::milliseconds untilNextTick(const QQuickWindow& window, int every = 1);
 
 } // namespace kestrowind::FrameGrid

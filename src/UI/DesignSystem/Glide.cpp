@@ -8,6 +8,12 @@
 #include <cmath>
 
 namespace kestrowind {
+namespace {
+
+/// What moves by some pixels in most of a second looks the same with half of the frames.
+constexpr int ticksPerStep = 2;
+
+} // namespace
 
 Glide::Glide(QQuickItem* parent)
     : QQuickItem(parent) {
@@ -57,7 +63,7 @@ void Glide::depart() {
     while (part > 0 && inPixels(m_target + rest(part - 1)) == inPixels(m_target))
         --part;
     m_duration = std::chrono::milliseconds(m_way.duration) * part / parts;
-    m_nextStep.start(FrameGrid::untilNextTick(*window()));
+    m_nextStep.start(FrameGrid::untilNextTick(*window(), ticksPerStep));
 }
 
 void Glide::step() {
@@ -69,7 +75,7 @@ void Glide::step() {
     const double progress =
         std::chrono::duration<double, std::milli>(elapsed).count() / m_way.duration;
     setValue(std::lerp(m_start, m_target, m_way.easing.valueForProgress(progress)));
-    m_nextStep.start(FrameGrid::untilNextTick(*window()));
+    m_nextStep.start(FrameGrid::untilNextTick(*window(), ticksPerStep));
 }
 
 void Glide::setValue(double value) {

@@ -9,9 +9,9 @@
 
 namespace kestrowind {
 
-/// A coordinate on its way to where it belongs, in whole device pixels and at the ticks of the
-/// window's frame grid. For what moves with every sample: a Behavior would draw at the display's
-/// rate, also where nothing has moved by a pixel.
+/// A coordinate on its way to where it belongs, in whole device pixels and at each second tick of
+/// the window's frame grid. For what moves with every sample: a Behavior would draw at the
+/// display's rate, also where nothing has moved by a pixel.
 class Glide : public QQuickItem {
     Q_OBJECT
     Q_PROPERTY(double target READ target WRITE setTarget NOTIFY targetChanged FINAL)
