@@ -27,7 +27,7 @@ constexpr uchar criticalUrgency = 2; ///< stays until the user has seen it
 constexpr int serviceDecides = -1;   ///< how long it is shown
 
 /// A service that has not answered by then shows nothing, and the tray does.
-constexpr std::chrono::seconds patience{5};
+constexpr std::chrono::seconds servicePatience{5};
 
 } // namespace
 
@@ -56,7 +56,7 @@ void BusNotifications::show(const Notification& notification) {
          << serviceDecides;
     m_awaited.insert(notification.identifier);
     m_withdrawn.remove(notification.identifier);
-    const int limit = static_cast<int>(std::chrono::milliseconds(patience).count());
+    const int limit = static_cast<int>(std::chrono::milliseconds(servicePatience).count());
     auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call, limit), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [=, this] {
         takeReply(*watcher, notification);
