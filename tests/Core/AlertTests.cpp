@@ -235,7 +235,8 @@ TEST(AlertNotifier, PostsWhatTheUserWantsToHear) {
         sample();
         EXPECT_EQ(notifications.shown, QStringList{u"no helper"_s});
         const auto isDenied = [&] {
-            sample();
+            if (!watch.isDenied())
+                sample();
             return watch.isDenied();
         };
         ASSERT_TRUE(QTest::qWaitFor(isDenied));
@@ -255,8 +256,7 @@ TEST(AlertNotifier, PostsWhatTheUserWantsToHear) {
         helper->setState(HelperState::installed);
         state.engine().setQuickBoostPercent(50);
         ASSERT_TRUE(QTest::qWaitFor(isDenied));
-        sample();
-        EXPECT_EQ(notifications.shown.size(), 4);
+        EXPECT_EQ(notifications.shown.size(), 4) << "without another sample";
         QCoro::waitFor(state.engine().shutDown());
         EXPECT_EQ(notifications.shown.size(), 4) << "quitting gives nothing back";
         notifications.shown.clear();
