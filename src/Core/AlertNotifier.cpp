@@ -8,8 +8,6 @@
 #include "Platform/Notifications.h"
 #include "Platform/UserDefaults.h"
 
-#include <QPointer>
-
 #include <algorithm>
 #include <cmath>
 
@@ -75,10 +73,7 @@ AlertNotifier::AlertNotifier(AppState& appState, const UserDefaults& userDefault
     : m_appState(appState)
     , m_userDefaults(userDefaults)
     , m_notifications(notifications) {
-    appState.telemetry().onSample([notifier = QPointer(this)](const TelemetrySample& sample) {
-        if (notifier)
-            notifier->take(sample);
-    });
+    appState.telemetry().onSample(this, [this](const TelemetrySample& sample) { take(sample); });
     // Not only with the next sample.
     connect(&appState.engine().watch(), &ControlWatch::isDeniedChanged, this, [this] {
         if (const auto& latest = m_appState.telemetry().latest())

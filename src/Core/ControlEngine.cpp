@@ -39,12 +39,13 @@ ControlEngine::ControlEngine(TelemetryStore& telemetry, PresetStore& presets,
         if (const auto& latest = m_telemetry.latest())
             pushTargets(latest->fans);
     });
-    m_telemetry.onSample([engine = QPointer(this)](const TelemetrySample& sample) {
-        if (!engine)
-            return;
-        engine->updateSmoothedTemperature(engine->m_now());
-        engine->pushTargets(sample.fans);
-    });
+    m_telemetry.onSample(
+        this,
+        [this](const TelemetrySample& sample) {
+            updateSmoothedTemperature(m_now());
+            pushTargets(sample.fans);
+        },
+        TelemetryStore::Turn::control);
 }
 
 ControlEngine::~ControlEngine() = default;

@@ -4,6 +4,7 @@
 #include "Core/TemperatureSource.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace kestrowind {
 namespace {
@@ -32,8 +33,10 @@ void TelemetryStore::start(std::chrono::milliseconds interval) {
     });
 }
 
-void TelemetryStore::onSample(SampleHandler handler) {
-    m_onSampleHandlers.push_back(std::move(handler));
+void TelemetryStore::onSample(const QObject* context, const SampleHandler& handler, Turn turn) {
+    const auto signal = turn == Turn::control ? &TelemetryStore::sampleForControl
+                                              : &TelemetryStore::sampleAfterControl;
+    connect(this, signal, context, handler, Qt::DirectConnection);
 }
 
 void TelemetryStore::ingest(const TelemetrySample& sample) {
@@ -45,9 +48,9 @@ void TelemetryStore::ingest(const TelemetrySample& sample) {
     };
 
     const SMCTemperatureSnapshot& read = sample.temperatures;
+    m_latest = sample;
     set(m_smcAvailable, !sample.fans.empty() || read.hottest > 0,
         &TelemetryStore::smcAvailableChanged);
-    set(m_latest, std::optional(sample), &TelemetryStore::latestChanged);
     set(m_cpuHottestSmoothed, smoothed(m_cpuHottestSmoothed, read.cpuMax),
         &TelemetryStore::cpuHottestSmoothedChanged);
     set(m_gpuHottestSmoothed, smoothed(m_gpuHottestSmoothed, read.gpuMax),
@@ -58,12 +61,11 @@ void TelemetryStore::ingest(const TelemetrySample& sample) {
     m_history.append(sample);
     if (m_history.size() > historyCapacity)
         m_history.remove(0, m_history.size() - historyCapacity);
-    changes.push_back(&TelemetryStore::historyChanged);
 
+    Q_EMIT sampleForControl(sample, {});
+    Q_EMIT sampleAfterControl(sample, {});
     for (const Signal signal : changes)
         Q_EMIT(this->*signal)();
-    for (const SampleHandler& handler : m_onSampleHandlers)
-        handler(sample);
 }
 
 std::optional<double> TelemetryStore::hottestTemperature() const {

@@ -9,7 +9,6 @@
 #include <chrono>
 #include <functional>
 #include <optional>
-#include <vector>
 
 namespace kestrowind {
 
@@ -18,13 +17,22 @@ class UserDefaults;
 /// The home of everything measured: the latest sample, half an hour of history, peaks and smoothed
 /// temperatures (degrees Celsius). Belongs to the main thread.
 ///
-/// Observers are told of a property only when it really changed, and only once the whole sample has
-/// been taken in, so nobody sees half of it. Then the sample handlers run, in their order.
+/// That a sample came, and with it `latest` and `history`, is told by `onSample`; of the other
+/// properties observers hear when they really changed. All are told once the whole sample has been
+/// taken in, so nobody sees half of it: first whoever drives the fans, then the other handlers,
+/// then the observers.
 class TelemetryStore final : public QObject {
     Q_OBJECT
 
 public:
     using SampleHandler = std::function<void(const TelemetrySample&)>;
+
+    /// When a handler is called, whatever the order in which handlers came: what is shown of a
+    /// sample includes what was done about it.
+    enum class Turn {
+        control, ///< for what drives the fans
+        afterControl,
+    };
 
     /// At 2 seconds a sample, half an hour.
     static constexpr qsizetype historyCapacity = 900;
@@ -35,8 +43,10 @@ public:
 
     /// Starts sampling. Until the first sample, `latest` is absent and `smcAvailable` true.
     void start(std::chrono::milliseconds interval = sampleInterval);
-    /// Adds a handler that is called with every sample on the main thread; it is never removed.
-    void onSample(SampleHandler handler);
+    /// Adds a handler that is called with every sample, on the main thread, for as long as
+    /// `context` lives; handlers of one turn in the order in which they came.
+    void onSample(const QObject* context, const SampleHandler& handler,
+                  Turn turn = Turn::afterControl);
     /// Takes one sample in; what the sampler delivers ends here.
     void ingest(const TelemetrySample& sample);
 
@@ -57,13 +67,14 @@ public:
     [[nodiscard]] std::optional<double> systemTemperature() const;
 
 Q_SIGNALS:
-    void latestChanged();
-    void historyChanged();
     void smcAvailableChanged();
     void peakCPUChanged();
     void peakGPUChanged();
     void cpuHottestSmoothedChanged();
     void gpuHottestSmoothedChanged();
+
+    void sampleForControl(const kestrowind::TelemetrySample& sample, QPrivateSignal);
+    void sampleAfterControl(const kestrowind::TelemetrySample& sample, QPrivateSignal);
 
 private:
     const UserDefaults& m_userDefaults;
@@ -74,7 +85,6 @@ private:
     double m_peakGPU = 0;
     double m_cpuHottestSmoothed = 0;
     double m_gpuHottestSmoothed = 0;
-    std::vector<SampleHandler> m_onSampleHandlers;
     TelemetrySampler m_sampler; ///< last, so that its thread has ended before anything else goes
 };
 

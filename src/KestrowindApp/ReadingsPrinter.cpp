@@ -3,7 +3,6 @@
 #include "Core/AppState.h"
 
 #include <QDateTime>
-#include <QPointer>
 #include <QTimeZone>
 #include <nlohmann/json.hpp>
 
@@ -67,10 +66,7 @@ bool outputTakesALine() {
 ReadingsPrinter::ReadingsPrinter(const AppState& appState, ReadingsFormat format)
     : m_appState(appState)
     , m_format(format) {
-    appState.telemetry().onSample([printer = QPointer(this)](const TelemetrySample& sample) {
-        if (printer)
-            printer->print(sample);
-    });
+    appState.telemetry().onSample(this, [this](const TelemetrySample& sample) { print(sample); });
 }
 
 std::string ReadingsPrinter::json(const AppState& appState, const TelemetrySample& sample) {

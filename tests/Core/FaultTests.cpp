@@ -111,7 +111,7 @@ public:
                                            std::move(presets), std::move(engine));
         // A demand of its own, since without a temperature no curve asks for anything.
         state->engine().setQuickBoostPercent(100);
-        state->telemetry().onSample([this](const TelemetrySample&) { ++samples; });
+        state->telemetry().onSample(state.get(), [this](const TelemetrySample&) { ++samples; });
     }
     ~RunningState() { state.reset(); }
     RunningState(const RunningState&) = delete;

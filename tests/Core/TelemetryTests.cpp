@@ -85,9 +85,16 @@ TEST_F(TelemetryStoreTest, TellsOnlyOfRealChangesAndOnlyOfWholeOnes) {
     QObject::connect(&store, &TelemetryStore::smcAvailableChanged, &store,
                      [&] { sawHalf = sawHalf || store.history().last() != *store.latest(); });
     std::vector<int> order;
-    store.onSample(
-        [&](const TelemetrySample& taken) { order.push_back(store.latest() == taken ? 1 : -1); });
-    store.onSample([&](const TelemetrySample&) { order.push_back(2); });
+    const auto note = [&](QObject* context, int number, TelemetryStore::Turn turn) {
+        const auto handler = [&, number](const TelemetrySample& taken) {
+            order.push_back(store.history().last() == taken ? number : -number);
+        };
+        store.onSample(context, handler, turn);
+    };
+    auto listener = std::make_unique<QObject>();
+    note(listener.get(), 2, TelemetryStore::Turn::afterControl);
+    note(&store, 3, TelemetryStore::Turn::afterControl);
+    note(&store, 1, TelemetryStore::Turn::control);
 
     store.ingest(sample(50));
     store.ingest(sample(50));
@@ -100,12 +107,18 @@ TEST_F(TelemetryStoreTest, TellsOnlyOfRealChangesAndOnlyOfWholeOnes) {
     store.ingest(sample(0, 0, 1));
     EXPECT_TRUE(store.smcAvailable());
     EXPECT_FALSE(sawHalf);
-    EXPECT_THAT(order, ElementsAre(1, 2, 1, 2, 1, 2, 1, 2, 1, 2));
+    EXPECT_THAT(order, ElementsAre(1, 2, 3, 1, 2, 3, 1, 2, 3, 1, 2, 3, 1, 2, 3));
+
+    listener.reset();
+    order.clear();
+    store.ingest(sample(50));
+    EXPECT_THAT(order, ElementsAre(1, 3)) << "a listener that is gone hears no more";
 }
 
 TEST_F(TelemetryStoreTest, ReceivesSamplesOnTheMainThread) {
     QThread* handlerThread = nullptr;
-    store.onSample([&](const TelemetrySample&) { handlerThread = QThread::currentThread(); });
+    store.onSample(&store,
+                   [&](const TelemetrySample&) { handlerThread = QThread::currentThread(); });
     store.start(10ms);
     ASSERT_TRUE(QTest::qWaitFor([&] { return store.history().size() >= 3; }, 3000));
     EXPECT_EQ(handlerThread, QThread::currentThread());

@@ -141,7 +141,7 @@ public:
         });
         m_state = std::make_unique<AppState>(std::move(telemetry), std::move(client),
                                              std::move(presets), std::move(engine));
-        m_state->telemetry().onSample([this](const TelemetrySample&) { takeSample(); });
+        m_state->telemetry().onSample(this, [this](const TelemetrySample&) { takeSample(); });
         m_scenes = std::make_unique<Scenes>(*m_state, m_platform);
         m_windows.setInterval(windowTime);
         connect(&m_windows, &QTimer::timeout, this, &Soak::turnWindow);

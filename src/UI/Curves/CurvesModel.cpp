@@ -30,9 +30,7 @@ CurvesModel::CurvesModel(AppState& appState, CurveEditHistory& history,
     const PresetStore& presets = appState.presets();
     connect(&presets, &PresetStore::presetsChanged, this, &CurvesModel::refresh);
     connect(&presets, &PresetStore::activePresetIDChanged, this, &CurvesModel::refresh);
-    // The history changes with every sample, once the store has taken in all of it.
-    connect(&appState.telemetry(), &TelemetryStore::historyChanged, this,
-            &CurvesModel::refreshTelemetry);
+    appState.telemetry().onSample(this, [this](const TelemetrySample&) { refreshTelemetry(); });
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &CurvesModel::refreshTelemetry);
     connect(&m_chart, &FanCurveChartModel::movePoint, this, &CurvesModel::movePoint);
     connect(&m_chart, &FanCurveChartModel::nudgePoint, this, &CurvesModel::nudgePoint);

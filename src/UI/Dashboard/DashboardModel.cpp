@@ -13,9 +13,7 @@ DashboardModel::DashboardModel(AppState& appState, FileDialogs& fileDialogs, QOb
     : QObject(parent)
     , m_appState(appState)
     , m_historyExport(appState.telemetry(), fileDialogs) {
-    // The history changes with every sample, once the store has taken in all of it.
-    connect(&appState.telemetry(), &TelemetryStore::historyChanged, this,
-            &DashboardModel::takeSample);
+    appState.telemetry().onSample(this, [this](const TelemetrySample&) { takeSample(); });
     connect(&appState.helper(), &HelperControlling::stateChanged, this,
             &DashboardModel::takeHelperState);
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &DashboardModel::refreshIfSeen);

@@ -65,8 +65,7 @@ void MenuBarExtra::showIcon() {
         m_trayIcon->setContextMenu(m_contextMenu.get());
     }
 
-    connect(&m_appState.telemetry(), &TelemetryStore::latestChanged, this,
-            &MenuBarExtra::updateIcon);
+    m_appState.telemetry().onSample(this, [this](const TelemetrySample&) { updateIcon(); });
     if (m_appearance)
         connect(m_appearance, &SystemAppearance::colorSchemeChanged, this,
                 &MenuBarExtra::updateIcon);

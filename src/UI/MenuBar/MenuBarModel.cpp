@@ -34,8 +34,7 @@ void MenuBarModel::setIsFollowing(bool isFollowing) {
     }
     m_following = std::make_unique<QObject>();
     QObject* context = m_following.get();
-    connect(&m_appState.telemetry(), &TelemetryStore::latestChanged, context,
-            [this] { refreshReadings(); });
+    m_appState.telemetry().onSample(context, [this](const TelemetrySample&) { refreshReadings(); });
     connect(&m_appState.presets(), &PresetStore::presetsChanged, context,
             [this] { refreshPresets(); });
     connect(&m_appState.presets(), &PresetStore::activePresetIDChanged, context,
