@@ -1,4 +1,5 @@
 #include "Core/LocalizedText.h"
+#include "Support/ReferencePicture.h"
 
 #include <gmock/gmock.h>
 #ifdef QT_WIDGETS_LIB
@@ -19,6 +20,7 @@ int main(int argc, char* argv[]) {
         if (!qEnvironmentVariableIsSet(name))
             qputenv(name, value);
     }
+    kestrowind::useReferenceFonts();
     Application application(argc, argv);
     Application::setQuitOnLastWindowClosed(false);
     kestrowind::installLocalizable();
