@@ -55,12 +55,14 @@ SMCConnection::~SMCConnection() {
         m_userClient->close(m_connection);
 }
 
-SMCResult<SMCParamStruct> SMCConnection::call(const SMCParamStruct& input) {
+SMCResult<SMCParamStruct> SMCConnection::call(std::string_view what, const SMCParamStruct& input) {
     SMCParamStruct output;
     const std::int32_t code =
         m_userClient->callStructMethod(m_connection, smcStructMethod, input, output);
     if (code != 0)
         return std::unexpected(SMCCallFailed{code});
+    if (output.result != 0)
+        return std::unexpected(SMCKeyError{std::string(what), output.result});
     return output;
 }
 
@@ -70,11 +72,9 @@ SMCResult<SMCKeyInfoData> SMCConnection::keyInfo(std::string_view key) {
     if (const auto cached = m_keyInfoCache.find(input.key); cached != m_keyInfoCache.end())
         return cached->second;
     input.data8 = SMCCommand::getKeyInfo;
-    const auto output = call(input);
+    const auto output = call(key, input);
     if (!output)
         return std::unexpected(output.error());
-    if (output->result != 0)
-        return std::unexpected(SMCKeyError{std::string(key), output->result});
     m_keyInfoCache.emplace(input.key, output->keyInfo);
     return output->keyInfo;
 }
@@ -91,11 +91,9 @@ SMCResult<SMCValue> SMCConnection::readBytes(std::string_view key) {
     input.key = smcFourCC(key);
     input.keyInfo.dataSize = info->dataSize;
     input.data8 = SMCCommand::readKey;
-    const auto output = call(input);
+    const auto output = call(key, input);
     if (!output)
         return std::unexpected(output.error());
-    if (output->result != 0)
-        return std::unexpected(SMCKeyError{std::string(key), output->result});
     const std::size_t size = std::min<std::size_t>(info->dataSize, output->bytes.size());
     return SMCValue(info->dataType, std::span(output->bytes).first(size));
 }
@@ -131,11 +129,9 @@ SMCResult<std::string> SMCConnection::keyName(std::uint32_t index) {
     SMCParamStruct input;
     input.data8 = SMCCommand::getKeyFromIndex;
     input.data32 = index;
-    const auto output = call(input);
+    const auto output = call("#" + std::to_string(index), input);
     if (!output)
         return std::unexpected(output.error());
-    if (output->result != 0)
-        return std::unexpected(SMCKeyError{"#" + std::to_string(index), output->result});
     return smcFourCCString(output->key);
 }
 
@@ -151,11 +147,8 @@ SMCResult<void> SMCConnection::writeBytes(std::string_view key,
     input.keyInfo.dataSize = info->dataSize;
     input.data8 = SMCCommand::writeKey;
     std::ranges::copy(data, input.bytes.begin());
-    const auto output = call(input);
-    if (!output)
-        return std::unexpected(output.error());
-    if (output->result != 0)
-        return std::unexpected(SMCKeyError{std::string(key), output->result});
+    if (const auto written = call(key, input); !written)
+        return std::unexpected(written.error());
     return {};
 }
 

@@ -85,7 +85,9 @@ public:
 private:
     SMCConnection(std::shared_ptr<SMCUserClient> userClient, std::uint32_t connection);
 
-    [[nodiscard]] SMCResult<SMCParamStruct> call(const SMCParamStruct& input);
+    /// An SMC that refuses is an SMCKeyError about `what`.
+    [[nodiscard]] SMCResult<SMCParamStruct> call(std::string_view what,
+                                                 const SMCParamStruct& input);
 
     std::shared_ptr<SMCUserClient> m_userClient;
     std::uint32_t m_connection;
