@@ -22,9 +22,7 @@ SimulatedSMC::SimulatedSMC()
                  .writeRule = [](std::span<const std::uint8_t>) { return resultRefused; }} {}
 
 SimulatedSMC::Slot* SimulatedSMC::find(std::uint32_t name) {
-    if (const auto found = m_indexes.find(name); found != m_indexes.end())
-        return &m_slots[found->second];
-    return name == keyCountName ? &m_keyCount : nullptr;
+    return const_cast<Slot*>(std::as_const(*this).find(name));
 }
 
 const SimulatedSMC::Slot* SimulatedSMC::find(std::uint32_t name) const {
@@ -69,7 +67,6 @@ void SimulatedSMC::removeKey(std::string_view name) {
     m_indexes.clear();
     for (std::size_t index = 0; index < m_slots.size(); ++index)
         m_indexes.emplace(m_slots[index].key.name, index);
-    countMissing();
 }
 
 void SimulatedSMC::store(std::string_view name, std::span<const std::uint8_t> bytes) {
@@ -100,7 +97,6 @@ void SimulatedSMC::setFault(std::string_view name, std::optional<Fault> fault) {
     if (slot == nullptr)
         return;
     slot->fault = fault;
-    countMissing();
     if (!fault) {
         slot->heldBytes.reset();
         slot->heldType.reset();
@@ -129,18 +125,14 @@ void SimulatedSMC::setOpenResult(std::int32_t code) {
     m_openResult = code;
 }
 
-void SimulatedSMC::countMissing() {
-    m_missingKeys =
-        static_cast<std::size_t>(std::ranges::count(m_slots, Fault::missing, &Slot::fault));
-}
-
 std::uint32_t SimulatedSMC::presentKeyCount() const {
-    return static_cast<std::uint32_t>(m_slots.size() - m_missingKeys);
+    const auto missing = std::ranges::count(m_slots, Fault::missing, &Slot::fault);
+    return static_cast<std::uint32_t>(m_slots.size() - static_cast<std::size_t>(missing));
 }
 
 const SimulatedSMC::Slot* SimulatedSMC::presentAt(std::uint32_t index) const {
-    if (m_missingKeys == 0)
-        return index < m_slots.size() ? &m_slots[index] : nullptr;
+    if (index >= m_slots.size())
+        return nullptr;
     for (const Slot& slot : m_slots) {
         if (slot.fault != Fault::missing && index-- == 0)
             return &slot;
@@ -172,14 +164,6 @@ std::vector<SimulatedSMC::Key> SimulatedSMC::keys() const {
             keys.push_back(visible(slot));
     }
     return keys;
-}
-
-std::optional<SimulatedSMC::Key> SimulatedSMC::key(std::string_view name) const {
-    const std::lock_guard lock(m_mutex);
-    const Slot* slot = find(smcFourCC(name));
-    if (slot == nullptr || slot->fault == Fault::missing)
-        return std::nullopt;
-    return visible(*slot);
 }
 
 bool SimulatedSMC::hasKey(std::string_view name) const {

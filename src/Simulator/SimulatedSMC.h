@@ -83,7 +83,6 @@ public:
 
     /// The keys in index order as they are now, faults and holds applied.
     [[nodiscard]] std::vector<Key> keys() const;
-    [[nodiscard]] std::optional<Key> key(std::string_view name) const;
     /// Whether the table has the key at all, even one that is missing by a fault for now.
     [[nodiscard]] bool hasKey(std::string_view name) const;
     [[nodiscard]] Counts counts() const;
@@ -112,7 +111,6 @@ private:
 
     Slot* find(std::uint32_t name);
     const Slot* find(std::uint32_t name) const;
-    void countMissing();
     [[nodiscard]] std::uint32_t presentKeyCount() const;
     [[nodiscard]] const Slot* presentAt(std::uint32_t index) const;
     [[nodiscard]] Key visible(const Slot& slot) const;
@@ -131,7 +129,6 @@ private:
     Counts m_counts;
     std::function<void(const SMCParamStruct&)> m_observer;
     Slot m_keyCount; ///< answers for "#KEY" unless the table has a key of that name
-    std::size_t m_missingKeys = 0;
 };
 
 } // namespace kestrowind

@@ -21,6 +21,8 @@
 
 namespace kestrowind {
 
+using namespace Qt::StringLiterals;
+
 /// True as soon as the condition is; false when it has not become so for long.
 inline bool waitUntil(const std::function<bool()>& condition,
                       std::chrono::milliseconds limit = std::chrono::seconds(8)) {
@@ -62,8 +64,8 @@ public:
     explicit BootedMac(const QStringList& options) {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_process.start(QStringLiteral(KESTROWIND_SIMULATOR),
-                        QStringList{QStringLiteral("--root"), m_folder.path() + u'/'} + options);
-        m_isUp = waitUntil([this] { return control({QStringLiteral("status")}).status == 0; });
+                        QStringList{u"--root"_s, m_folder.path() + u'/'} + options);
+        m_isUp = waitUntil([this] { return control("status").status == 0; });
     }
     ~BootedMac() {
         m_process.terminate();
@@ -76,17 +78,20 @@ public:
     [[nodiscard]] QProcess& process() { return m_process; }
     [[nodiscard]] std::filesystem::path root() const { return m_folder.path().toStdString(); }
 
+    /// The words of a command, parted by single blanks.
+    Outcome control(const char* command) const {
+        return control(QString::fromLatin1(command).split(u' '));
+    }
     Outcome control(const QStringList& words) const {
-        return runSimulator(QStringList{QStringLiteral("ctl"), QStringLiteral("--root"),
-                                        QDir().relativeFilePath(m_folder.path())} +
-                            words);
+        return runSimulator(
+            QStringList{u"ctl"_s, u"--root"_s, QDir().relativeFilePath(m_folder.path())} + words);
     }
     [[nodiscard]] nlohmann::json status() const {
-        return nlohmann::json::parse(control({QStringLiteral("status")}).output);
+        return nlohmann::json::parse(control("status").output);
     }
 
 private:
-    QTemporaryDir m_folder{QDir::tempPath() + QStringLiteral("/ä b'%41#,;=XXXXXX")};
+    QTemporaryDir m_folder{QDir::tempPath() + u"/ä b'%41#,;=XXXXXX"_s};
     QProcess m_process;
     bool m_isUp = false;
 };
@@ -96,10 +101,10 @@ class HelperCaller {
 public:
     HelperCaller(const BootedMac& mac, const QString& name)
         : m_name(name)
-        , m_connection(QDBusConnection::connectToPeer(
-              QString::fromStdString(HelperWire::busAddress(
-                  SimulatedMac::serviceSocket(mac.root(), HelperConstants::machServiceName))),
-              name)) {}
+        , m_connection(
+              QDBusConnection::connectToPeer(HelperWire::busAddress(SimulatedMac::serviceSocket(
+                                                 mac.root(), HelperConstants::machServiceName)),
+                                             name)) {}
     ~HelperCaller() { hangUp(); }
     HelperCaller(const HelperCaller&) = delete;
     HelperCaller& operator=(const HelperCaller&) = delete;
@@ -120,7 +125,7 @@ public:
         return m_connection.call(message, QDBus::Block, patienceMilliseconds);
     }
     [[nodiscard]] nlohmann::json status() {
-        const QDBusReply<QByteArray> reply = call(QStringLiteral("Status"));
+        const QDBusReply<QByteArray> reply = call(u"Status"_s);
         EXPECT_TRUE(reply.isValid()) << reply.error().message().toStdString();
         return nlohmann::json::parse(reply.value().toStdString(), nullptr, false);
     }
@@ -135,15 +140,13 @@ class HeldFan : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(mac.isUp());
-        const auto reply =
-            holder.call(QStringLiteral("SetTargets"), {QVariant::fromValue(QList<double>{2500})});
+        const auto reply = holder.call(u"SetTargets"_s, {QVariant::fromValue(QList<double>{2500})});
         ASSERT_EQ(reply.type(), QDBusMessage::ReplyMessage) << reply.errorMessage().toStdString();
         ASSERT_EQ(smc->readUInt8("F0md"), 1);
     }
 
-    const BootedMac mac{{QStringLiteral("--installed"), QStringLiteral("--profile"),
-                         QStringLiteral("desktop-1fan")}};
-    HelperCaller holder{mac, QStringLiteral("holder")};
+    const BootedMac mac{{u"--installed"_s, u"--profile"_s, u"desktop-1fan"_s}};
+    HelperCaller holder{mac, u"holder"_s};
     std::unique_ptr<SMCConnection> smc =
         SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root()))).value();
 };

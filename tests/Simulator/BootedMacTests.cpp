@@ -116,7 +116,7 @@ TEST_F(HeldFan, IsTheSystemsAgainAsSoonAsItsHolderIsGone) {
 
 TEST_F(HeldFan, IsHandedBackByTheHelperThatFollowsAKilledOne) {
     EXPECT_EQ(mac.status().at("helper").at("starts"), 1);
-    ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
+    ASSERT_EQ(mac.control("helper kill").status, 0);
     EXPECT_EQ(holder.call(u"Status"_s).type(), QDBusMessage::ErrorMessage);
     holder.hangUp();
     EXPECT_TRUE(waitUntil([this] { return smc->readUInt8("F0md") == 0; }))
@@ -133,7 +133,7 @@ TEST_F(HeldFan, IsHandedBackByTheHelperThatFollowsAKilledOne) {
 }
 
 TEST_F(HeldFan, IsHandedBackThoughItsHelperHangs) {
-    ASSERT_EQ(mac.control({u"helper"_s, u"hang"_s}).status, 0);
+    ASSERT_EQ(mac.control("helper hang").status, 0);
     EXPECT_EQ(holder.call(u"Status"_s, {}, 7'000).type(), QDBusMessage::ErrorMessage);
     EXPECT_TRUE(waitUntil([this] { return smc->readUInt8("F0md") == 0; }));
     EXPECT_EQ(mac.status().at("helper").at("lastExit"), "killed by signal 14");
@@ -144,7 +144,7 @@ TEST_F(HeldFan, IsLostToAHelperThatIsNoProgramWhoseCallersAreHungUpOn) {
     std::filesystem::remove(program);
     std::ofstream(program) << "touch \"$KESTROWIND_SIMULATED_MAC/ran\"\n";
     std::filesystem::permissions(program, std::filesystem::perms{0755});
-    ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
+    ASSERT_EQ(mac.control("helper kill").status, 0);
     for (const QString& name : {u"first"_s, u"second"_s}) {
         HelperCaller caller(mac, name);
         EXPECT_TRUE(waitUntil([&caller] { return !caller.isConnected(); }));
@@ -173,7 +173,7 @@ TEST(BootedMac, HasAHelperThatMisbehavesOnCommandAndIsUninstalled) {
     const BootedMac mac({u"--installed"_s});
     ASSERT_TRUE(mac.isUp());
     HelperCaller caller(mac, u"caller"_s);
-    ASSERT_EQ(mac.control({u"helper"_s, u"version"_s, u"9.9"_s}).status, 0);
+    ASSERT_EQ(mac.control("helper version 9.9").status, 0);
     EXPECT_EQ(caller.status().at("version"), "9.9");
     ASSERT_EQ(mac.control({u"helper"_s, u"fail"_s, u"stuck \"motor\""_s}).status, 0);
     EXPECT_EQ(caller.status().at("phase"), "failed");
@@ -196,54 +196,49 @@ TEST(Control, BreaksAndMendsTheMachineWhileItRuns) {
         return SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root())));
     };
     const auto smc = open().value();
-    struct Case {
-        QStringList words;
-        const char* error; ///< of reading F0Ac afterwards
+    const std::pair<const char*, const char*> rows[] = {
+        {"key F0Ac fail", "SMC key F0Ac error (result 133)"},
+        {"key F0Ac timeout", "SMC call failed (0xe00002d6)"},
+        {"key F0Ac remove", "SMC key F0Ac error (result 132)"},
+        {"key F0Ac type fpe2", "SMC key F0Ac is type fpe2, expected flt "},
     };
-    for (const auto& [words, error] : {
-             Case{{u"fail"_s}, "SMC key F0Ac error (result 133)"},
-             Case{{u"timeout"_s}, "SMC call failed (0xe00002d6)"},
-             Case{{u"remove"_s}, "SMC key F0Ac error (result 132)"},
-             Case{{u"type"_s, u"fpe2"_s}, "SMC key F0Ac is type fpe2, expected flt "},
-         }) {
-        EXPECT_EQ(mac.control(QStringList{u"key"_s, u"F0Ac"_s} + words).status, 0);
+    for (const auto& [command, error] : rows) {
+        EXPECT_EQ(mac.control(command).status, 0);
         const auto fresh = open().value();
         const auto read = fresh->readFloat("F0Ac");
         EXPECT_EQ(read ? "" : description(read.error()), error);
-        EXPECT_EQ(mac.control({u"key"_s, u"F0Ac"_s, u"ok"_s}).status, 0);
+        EXPECT_EQ(mac.control("key F0Ac ok").status, 0);
         EXPECT_TRUE(fresh->readUInt8("FNum"));
     }
-    EXPECT_EQ(mac.control({u"key"_s, u"Tp01"_s, u"value"_s, u"00004842"_s}).status, 0);
+    EXPECT_EQ(mac.control("key Tp01 value 00004842").status, 0);
     EXPECT_EQ(smc->readFloat("Tp01"), 50.0F);
-    EXPECT_EQ(mac.control({u"load"_s, u"100%"_s}).status, 0);
+    EXPECT_EQ(mac.control("load 100%").status, 0);
     EXPECT_TRUE(waitUntil([&smc] { return smc->readFloat("Tp05").value() > 45; }));
     EXPECT_EQ(smc->readFloat("Tp01"), 50.0F) << "held against the hardware";
-    EXPECT_EQ(mac.control({u"service"_s, u"none"_s}).status, 0);
+    EXPECT_EQ(mac.control("service none").status, 0);
     EXPECT_EQ(description(open().error()), "AppleSMC service not found");
-    EXPECT_EQ(mac.control({u"service"_s, u"second"_s}).status, 0);
-    EXPECT_EQ(mac.control({u"open-result"_s, u"0xe00002c5"_s}).status, 0);
+    EXPECT_EQ(mac.control("service second").status, 0);
+    EXPECT_EQ(mac.control("open-result 0xe00002c5").status, 0);
     EXPECT_EQ(description(open().error()), "IOServiceOpen failed (0xe00002c5)");
 }
 
 TEST(Control, SaysWhatIsWrongWithACommand) {
     const BootedMac mac({});
     ASSERT_TRUE(mac.isUp());
-    struct Case {
-        QStringList words;
-        const char* message;
+    const std::pair<const char*, const char*> rows[] = {
+        {"", "unknown command"},
+        {"explode", "unknown command: explode"},
+        {"service third", "unknown command: service third\n  service both|second|none"},
+        {"status now", "unknown command: status now\n  status"},
+        {"key Tp0 fail", "is no key name"},
+        {"key Zz99 fail", "the machine has no key Zz99"},
+        {"key Tp01 value 4", "not pairs of hexadecimal digits"},
+        {"open-result 0x1ffffffff", "is no 32-bit code"},
+        {"helper late -5", "is no number of milliseconds"},
+        {"helper kill", "the helper is not running"},
     };
-    for (const auto& [words, message] : {
-             Case{{}, "what is to be done?"},
-             Case{{u"explode"_s}, "unknown command"},
-             Case{{u"status"_s, u"now"_s}, "wrong number of arguments"},
-             Case{{u"key"_s, u"Tp0"_s, u"fail"_s}, "is no key name"},
-             Case{{u"key"_s, u"Zz99"_s, u"fail"_s}, "the machine has no key Zz99"},
-             Case{{u"key"_s, u"Tp01"_s, u"value"_s, u"4"_s}, "not pairs of hexadecimal digits"},
-             Case{{u"open-result"_s, u"0x1ffffffff"_s}, "is no 32-bit code"},
-             Case{{u"helper"_s, u"late"_s, u"-5"_s}, "no behaviour of the helper"},
-             Case{{u"helper"_s, u"kill"_s}, "the helper is not running"},
-         }) {
-        const Outcome outcome = mac.control(words);
+    for (const auto& [command, message] : rows) {
+        const Outcome outcome = mac.control(command);
         EXPECT_EQ(outcome.status, 1) << message;
         EXPECT_THAT(outcome.errors, HasSubstr(message));
     }

@@ -23,26 +23,16 @@ QString everyCharacter() {
     return text;
 }
 
-TEST(AdministratorSentence, RefusesEverythingElse) {
-    struct Row {
-        std::string script;
-        std::size_t position;
-    };
-    for (const auto& [script, position] : std::initializer_list<Row>{
-             {"", 0},
-             {"do shell script id with administrator privileges", 16},
-             {"do shell scripts \"id\" with administrator privileges", 15},
-             {"do shell script \"id", 19},
-             {R"(do shell script "a\qb" with administrator privileges)", 19},
-             {R"(do shell script "a\)", 19},
-             {R"(do shell script "id")", 20},
-             {R"(do shell script "a" & "b" with administrator privileges)", 20},
-             {"do shell script \"a\" with administrator privileges\nbeep", 49},
-         }) {
-        const auto text = parseAdministratorSentence(script);
-        ASSERT_FALSE(text) << script;
-        EXPECT_EQ(text.error().position, position) << script << ": " << text.error().message;
-    }
+TEST(AdministratorSentence, IsTheOnlyScriptThatIsUnderstood) {
+    EXPECT_EQ(parseAdministratorSentence(
+                  R"(do shell script "a\\\"\n\r\tb" with administrator privileges)"),
+              "a\\\"\n\r\tb");
+    for (const char* script : {"", "beep", R"(do shell script "id")",
+                               R"(do shell script " with administrator privileges)",
+                               R"(do shell script "a\qb" with administrator privileges)",
+                               R"(do shell script "a\" with administrator privileges)",
+                               R"(do shell script "a" & "b" with administrator privileges)"})
+        EXPECT_FALSE(parseAdministratorSentence(script)) << script;
 }
 
 TEST(MacCommand, ReachesOnlyIntoTheMachinesLibrary) {
@@ -108,7 +98,8 @@ TEST_F(ScriptRunnerTest, SaysHowAScriptFailedAsTheRealOneDoes) {
     EXPECT_THAT(errors(u"ls /"_s), HasSubstr("(127)")) << "no command of this computer";
     EXPECT_THAT(errors(u"launchctl bootout system/nobody"_s),
                 HasSubstr("Boot-out failed: 3: No such process (3)"));
-    EXPECT_THAT(runAppleScript(u"beep"_s).errors, HasSubstr("syntax error: Expected “do”"));
+    EXPECT_THAT(runAppleScript(u"beep"_s).errors,
+                HasSubstr("syntax error: Expected “do shell script"));
 }
 
 TEST_F(ScriptRunnerTest, InstallsReinstallsAndRemovesTheHelper) {
@@ -152,7 +143,7 @@ TEST_F(ScriptRunnerTest, InstallsReinstallsAndRemovesTheHelper) {
     EXPECT_EQ(mac.status()["helper"]["bootstrapped"], false);
     EXPECT_EQ(runShell(HelperInstallation::removalScript()).status, 0) << "nothing to remove";
 
-    ASSERT_EQ(mac.control({u"launchd"_s, u"failing"_s}).status, 0);
+    ASSERT_EQ(mac.control("launchd failing").status, 0);
     outcome = runShell(install);
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.errors, HasSubstr("Bootstrap failed: 5: Input/output error"));

@@ -74,12 +74,12 @@ TEST_F(Faults, AFrozenApplicationLosesTheFansUntilItGoesOn) {
 
 TEST_F(Faults, ACopyThatStartsWhileAnotherQuitsTakesOver) {
     // Quitting takes two replies, so that the second copy finds the first one in the midst of it.
-    ASSERT_EQ(mac.control({u"helper"_s, u"late"_s, u"600"_s}).status, 0);
+    ASSERT_EQ(mac.control("helper late 600").status, 0);
     app.send(SIGTERM);
     ASSERT_TRUE(waitUntil([this] { return modes.areAllSystem(); }));
     RunningApp second(mac, fullSpeed);
     EXPECT_EQ(app.waitForEnd(4s), 0) << "it ends of its own accord";
-    ASSERT_EQ(mac.control({u"helper"_s, u"normal"_s}).status, 0);
+    ASSERT_EQ(mac.control("helper normal").status, 0);
     EXPECT_TRUE(second.waitForPhase("controlling"));
     EXPECT_TRUE(modes.areAllManual());
     expectGoodEnd(second);
@@ -99,7 +99,7 @@ TEST_F(Faults, SaysWhenAFrozenHelperLeavesTheFansToNobody) {
 }
 
 TEST_F(Faults, ControlsAgainAfterTheHelperWasKilledOrRefusedByLaunchd) {
-    ASSERT_EQ(mac.control({u"helper"_s, u"kill"_s}).status, 0);
+    ASSERT_EQ(mac.control("helper kill").status, 0);
     EXPECT_TRUE(waitUntil([this] { return modes.areAllSystem(); }));
     EXPECT_TRUE(waitUntil([this] { return modes.areAllManual(); }, 2500ms)) << "with the next push";
     EXPECT_EQ(mac.status()["helper"]["starts"], 2);

@@ -59,26 +59,23 @@ TEST(MainLoop, GivesTheFansBackWhenTheApplicationDies) {
 }
 
 TEST(MainLoop, EndsThoughTheHelperIsSilentOrTalksRubbish) {
-    struct Row {
-        QStringList behaviour;
-        const char* helperState;
+    const std::pair<const char*, const char*> rows[] = {
+        {"helper silent", "installed"},
+        {"helper garbage", "unreachable"},
+        {"helper stop", "installed"},
     };
-    for (const auto& [behaviour, helperState] : {
-             Row{{u"silent"_s}, "installed"},
-             Row{{u"garbage"_s}, "unreachable"},
-             Row{{u"stop"_s}, "installed"},
-         }) {
+    for (const auto& [behaviour, helperState] : rows) {
         const BootedMac mac(quickMac);
         RunningApp app(mac, fullSpeed);
         FanModes modes(mac);
         ASSERT_TRUE(waitUntil([&] { return modes.areAllManual(); }));
-        ASSERT_EQ(mac.control(QStringList{u"helper"_s} + behaviour).status, 0);
+        ASSERT_EQ(mac.control(behaviour).status, 0);
         EXPECT_TRUE(app.waitFor([&](const json& reading) {
             return reading["isOverriding"] == false && reading["helperState"] == helperState;
         })) << helperState;
         app.send(SIGTERM);
         EXPECT_EQ(app.waitForEnd(6500ms), 0) << "at most twice the time-out";
-        mac.control({u"helper"_s, u"continue"_s});
+        mac.control("helper continue");
         EXPECT_TRUE(waitUntil([&] { return modes.areAllSystem(); }));
     }
 }
@@ -91,7 +88,7 @@ TEST(MainLoop, GoesOnWithoutHelperFansOrSMC) {
                reading["helperState"] == "notInstalled" && reading["phase"].is_null() &&
                reading["preset"].is_null();
     }));
-    mac.control({u"service"_s, u"none"_s});
+    mac.control("service none");
     RunningApp blind(mac, {});
     EXPECT_FALSE(blind.waitFor([](const json&) { return true; }, 500ms));
     blind.send(SIGINT);

@@ -12,11 +12,12 @@
 
 namespace kestrowind {
 
+using namespace Qt::StringLiterals;
+
 /// A machine that needs no unlocking, so that control is quick.
-inline const QStringList quickMac{QStringLiteral("--installed"), QStringLiteral("--load"),
-                                  QStringLiteral("90%"), QStringLiteral("--profile"),
-                                  QStringLiteral("desktop-1fan")};
-inline const QStringList fullSpeed{QStringLiteral("-ActivatePreset"), QStringLiteral("Full Speed")};
+inline const QStringList quickMac{u"--installed"_s, u"--load"_s, u"90%"_s, u"--profile"_s,
+                                  u"desktop-1fan"_s};
+inline const QStringList fullSpeed{u"-ActivatePreset"_s, u"Full Speed"_s};
 
 /// The real application inside a booted Mac, printing its readings, with a home of its own unless
 /// it is to find what another run left behind.
@@ -29,18 +30,14 @@ public:
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QString::fromLatin1(SimulatedMac::rootVariable),
                            QString::fromStdString(mac.root().string()));
-        environment.insert(QStringLiteral("XDG_DATA_HOME"),
-                           folder.filePath(QStringLiteral("data")));
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
-                           folder.filePath(QStringLiteral("config")));
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"),
-                           display.isEmpty() ? QStringLiteral("offscreen") : QStringLiteral("xcb"));
-        environment.insert(QStringLiteral("DISPLAY"), display);
+        environment.insert(u"XDG_DATA_HOME"_s, folder.filePath(u"data"_s));
+        environment.insert(u"XDG_CONFIG_HOME"_s, folder.filePath(u"config"_s));
+        environment.insert(u"QT_QPA_PLATFORM"_s, display.isEmpty() ? u"offscreen"_s : u"xcb"_s);
+        environment.insert(u"DISPLAY"_s, display);
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         m_process.start(QStringLiteral(KESTROWIND_APPLICATION),
-                        QStringList{QStringLiteral("-PrintReadings"), QStringLiteral("json")} +
-                            arguments);
+                        QStringList{u"-PrintReadings"_s, u"json"_s} + arguments);
         m_process.waitForStarted();
     }
     ~RunningApp() {

@@ -9,18 +9,17 @@
 
 namespace kestrowind {
 
+using namespace Qt::StringLiterals;
+
 /// An X server of its own, with a pointer that clicks.
 class VirtualScreen {
 public:
     /// Numbered after this process: servers that look for a free number at once take the same one.
     VirtualScreen()
         : m_number(100 + static_cast<int>(::getpid() % 10'000)) {
-        m_server.start(QStringLiteral("Xvfb"),
-                       {display(), QStringLiteral("-screen"), QStringLiteral("0"),
-                        QStringLiteral("1280x1100x24"), QStringLiteral("-noreset"),
-                        QStringLiteral("-nolisten"), QStringLiteral("tcp")});
-        m_isUp = waitUntil(
-            [this] { return QFile::exists(QStringLiteral("/tmp/.X11-unix/X%1").arg(m_number)); });
+        m_server.start(u"Xvfb"_s, {display(), u"-screen"_s, u"0"_s, u"1280x1100x24"_s,
+                                   u"-noreset"_s, u"-nolisten"_s, u"tcp"_s});
+        m_isUp = waitUntil([this] { return QFile::exists(u"/tmp/.X11-unix/X%1"_s.arg(m_number)); });
     }
     ~VirtualScreen() {
         m_server.terminate();
@@ -36,37 +35,35 @@ public:
     QString tool(const QStringList& arguments) const {
         QProcess process;
         auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"), display());
+        environment.insert(u"DISPLAY"_s, display());
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral("xdotool"), arguments);
+        process.start(u"xdotool"_s, arguments);
         process.waitForFinished();
         return process.exitCode() == 0
                    ? QString::fromLatin1(process.readAllStandardOutput()).trimmed()
                    : QString();
     }
     [[nodiscard]] QString visibleWindow() const {
-        return tool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                     QStringLiteral("--name"), QStringLiteral("^Kestrowind$")});
+        return tool({u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^Kestrowind$"_s});
     }
     /// In the window's coordinates, points.
     void movePointer(const QString& window, int x, int y) const {
-        tool({QStringLiteral("mousemove"), QStringLiteral("--window"), window, QString::number(x),
-              QString::number(y)});
+        tool({u"mousemove"_s, u"--window"_s, window, QString::number(x), QString::number(y)});
     }
     void click(const QString& window, int x, int y) const {
         movePointer(window, x, y);
-        tool({QStringLiteral("click"), QStringLiteral("1")});
+        tool({u"click"_s, u"1"_s});
     }
     /// Takes what lies at one point to another, as a hand does: by steps.
     void drag(const QString& window, QPoint from, QPoint to) const {
         movePointer(window, from.x(), from.y());
-        tool({QStringLiteral("mousedown"), QStringLiteral("1")});
+        tool({u"mousedown"_s, u"1"_s});
         constexpr int steps = 12;
         for (int step = 1; step <= steps; ++step) {
             const QPoint at = from + (to - from) * step / steps;
             movePointer(window, at.x(), at.y());
         }
-        tool({QStringLiteral("mouseup"), QStringLiteral("1")});
+        tool({u"mouseup"_s, u"1"_s});
     }
     /// A window that still moves into its place may make a first click miss.
     [[nodiscard]] bool clickUntil(const QString& window, QPoint at,

@@ -22,10 +22,8 @@ QString fromPath(const std::filesystem::path& path) {
 
 QHash<QString, QString> readMachineTexts() {
     QHash<QString, QString> texts;
-    const auto root = SimulatedMac::root();
-    if (!root)
-        return texts;
-    QFile file(fromPath(SimulatedMac::systemInformationFile(*root)));
+    const auto root = SimulatedMac::root().value_or(SimulatedMac::nowhere);
+    QFile file(fromPath(SimulatedMac::systemInformationFile(root)));
     if (!file.open(QIODevice::ReadOnly))
         return texts;
     const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
@@ -42,10 +40,8 @@ LinuxSystemInformation::LinuxSystemInformation()
     : m_machineTexts(readMachineTexts()) {}
 
 QString LinuxSystemInformation::machinePath(const QString& path) {
-    const auto root = SimulatedMac::root();
-    if (!root)
-        return u"/nonexistent"_s + path;
-    return fromPath(SimulatedMac::systemPath(*root, path.toStdString()));
+    const auto root = SimulatedMac::root().value_or(SimulatedMac::nowhere);
+    return fromPath(SimulatedMac::systemPath(root, path.toStdString()));
 }
 
 std::optional<QString> LinuxSystemInformation::sysctl(const QByteArray& name) const {

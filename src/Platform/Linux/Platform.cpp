@@ -26,27 +26,14 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(platformLog, "app.kestrowind.platform", QtInfoMsg)
 
-/// A computer that is no Mac: nobody offers the SMC's service.
-class NoSMC final : public SMCUserClient {
-public:
-    std::uint32_t matchingService(std::string_view) override { return 0; }
-    void releaseService(std::uint32_t) override {}
-    Opened open(std::uint32_t, std::uint32_t) override { return {.code = -1}; }
-    void close(std::uint32_t) override {}
-    std::int32_t callStructMethod(std::uint32_t, std::uint32_t, const SMCParamStruct&,
-                                  SMCParamStruct&) override {
-        return -1;
-    }
-};
-
 SMCUserClientFactory machineSMC() {
     const auto root = SimulatedMac::root();
-    if (!root) {
+    if (!root)
         qCWarning(platformLog)
             << "this computer is no Mac: ./run starts Kestrowind in a simulated one";
-        return [] { return std::make_shared<NoSMC>(); };
-    }
-    return [socket = SimulatedMac::smcSocket(*root)] { return std::make_shared<SMCLink>(socket); };
+    return [socket = SimulatedMac::smcSocket(root.value_or(SimulatedMac::nowhere))] {
+        return std::make_shared<SMCLink>(socket);
+    };
 }
 
 } // namespace

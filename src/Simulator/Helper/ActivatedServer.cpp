@@ -38,6 +38,8 @@ ActivatedServer::ActivatedServer()
         ::close(m_handedOver);
         m_handedOver = -1;
     }
+    // The library takes a socket only for a process of this number, and ours was given to us.
+    qputenv("LISTEN_PID", QByteArray::number(::getpid()));
     m_server = std::make_unique<QDBusServer>(u"systemd:"_s);
 }
 

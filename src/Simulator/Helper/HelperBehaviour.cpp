@@ -19,15 +19,19 @@ NLOHMANN_JSON_SERIALIZE_ENUM(HelperBehaviour::Kind, {{Kind::normal, "normal"},
 
 } // namespace
 
+HelperBehaviour::Kind helperBehaviourKind(std::string_view name) {
+    Kind kind = Kind::normal;
+    from_json(nlohmann::json(name), kind);
+    return kind;
+}
+
 HelperBehaviour readHelperBehaviour(const std::filesystem::path& file) {
     std::ifstream stream(file);
     if (!stream)
         return {};
     try {
         const auto json = nlohmann::json::parse(stream);
-        Kind kind = Kind::normal;
-        from_json(json.at("kind"), kind);
-        return {.kind = kind,
+        return {.kind = helperBehaviourKind(json.at("kind").get<std::string>()),
                 .delay = std::chrono::milliseconds(json.value("delayMilliseconds", 0)),
                 .text = json.value("text", std::string())};
     } catch (const nlohmann::json::exception&) {

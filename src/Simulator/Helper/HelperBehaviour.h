@@ -3,6 +3,7 @@
 #include <chrono>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace kestrowind {
 
@@ -24,6 +25,9 @@ struct HelperBehaviour {
 
     bool operator==(const HelperBehaviour&) const = default;
 };
+
+/// The kind of this name; normal for any other.
+[[nodiscard]] HelperBehaviour::Kind helperBehaviourKind(std::string_view name);
 
 /// The behaviour in the file; normal when the file is absent or says nothing valid.
 [[nodiscard]] HelperBehaviour readHelperBehaviour(const std::filesystem::path& file);

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <set>
 #include <system_error>
 #include <tuple>
 #include <unistd.h>
@@ -26,13 +25,15 @@ namespace {
 // How long the helper waits for a caller to confirm the last reply before it ends all the same.
 constexpr int farewellMilliseconds = 500;
 
-/// What a method takes; absent for what is no method.
+/// The signature of what a method takes; absent for what is no method.
 std::optional<QString> argumentSignature(const QString& method) {
-    if (method == "SetTargets"_L1)
-        return u"ad"_s;
-    static const std::set<QString> others{u"ReleaseControl"_s, u"Status"_s, u"Uninstall"_s,
-                                          u"ShutDown"_s};
-    return others.contains(method) ? std::optional(QString()) : std::nullopt;
+    static const std::map<QString, QString> methods{{u"SetTargets"_s, u"ad"_s},
+                                                    {u"ReleaseControl"_s, {}},
+                                                    {u"Status"_s, {}},
+                                                    {u"Uninstall"_s, {}},
+                                                    {u"ShutDown"_s, {}}};
+    const auto found = methods.find(method);
+    return found == methods.end() ? std::nullopt : std::optional(found->second);
 }
 
 QVariant targetList(const std::vector<double>& targets) {
@@ -122,17 +123,6 @@ void HelperService::tick() {
     m_controller.tick();
     if (m_controller.isHolding() != m_ticks.isActive())
         m_controller.isHolding() ? m_ticks.start() : m_ticks.stop();
-}
-
-QString HelperService::introspect(const QString& /*path*/) const {
-    return u"<interface name=\"%1\">"
-           "<method name=\"SetTargets\"><arg type=\"ad\" direction=\"in\"/>"
-           "<arg type=\"ad\" direction=\"out\"/></method>"
-           "<method name=\"ReleaseControl\"/>"
-           "<method name=\"Status\"><arg type=\"ay\" direction=\"out\"/></method>"
-           "<method name=\"Uninstall\"><arg type=\"b\" direction=\"out\"/></method>"
-           "<method name=\"ShutDown\"/>"
-           "</interface>"_s.arg(QLatin1StringView(HelperWire::interfaceName));
 }
 
 bool HelperService::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {

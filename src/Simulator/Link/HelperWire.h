@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QByteArray>
+#include <QString>
+
 #include <filesystem>
-#include <string>
 
 /// The helper protocol as it travels inside a simulated Mac: D-Bus, peer to peer, over the socket
 /// that launchd holds for the Mach service.
@@ -21,6 +23,9 @@ inline constexpr char objectPath[] = "/";
 inline constexpr char interfaceName[] = "app.kestrowind.Helper";
 
 /// The D-Bus address of a service's socket: what the path may not hold in one is escaped.
-[[nodiscard]] std::string busAddress(const std::filesystem::path& socket);
+[[nodiscard]] inline QString busAddress(const std::filesystem::path& socket) {
+    const auto path = QByteArray::fromStdString(socket.string());
+    return QString::fromLatin1("unix:path=" + path.toPercentEncoding("/", "~"));
+}
 
 } // namespace kestrowind::HelperWire

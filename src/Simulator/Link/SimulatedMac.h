@@ -10,6 +10,10 @@ namespace kestrowind::SimulatedMac {
 
 inline constexpr char rootVariable[] = "KESTROWIND_SIMULATED_MAC";
 
+/// A root folder that does not exist: what is looked for in it is not found, and never taken from
+/// the real machine.
+inline constexpr char nowhere[] = "/nonexistent";
+
 /// The root folder that somebody names so: absolute, without links, detours and a slash at its end,
 /// so that a machine is the same one for everybody.
 [[nodiscard]] std::filesystem::path rootAt(const std::filesystem::path& name);

@@ -109,8 +109,8 @@ SimulatorSession::runCommand(const std::vector<std::string>& command) {
     if (!process)
         return std::unexpected(std::move(process.error()));
     m_command = std::move(*process);
-    QObject::connect(m_command.get(), &ChildProcess::ended, m_command.get(),
-                     [this](ChildProcess::Exit exit) { shutDown(exit.code); });
+    QObject::connect(m_command.get(), &ChildProcess::finished, m_command.get(),
+                     [this] { shutDown(m_command->status()); });
     return {};
 }
 

@@ -1,19 +1,10 @@
 #pragma once
 
-#include <cstddef>
-#include <expected>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace kestrowind {
-
-/// Why a script is not the one sentence that this machine understands.
-struct SentenceError {
-    std::size_t position = 0; ///< in bytes, of the first that does not belong
-    std::string message = {};
-
-    bool operator==(const SentenceError&) const = default;
-};
 
 /// The shell text of a script of the form
 ///
@@ -21,7 +12,7 @@ struct SentenceError {
 ///
 /// with the escapes of TEXT undone by the rules of the script language: `\\`, `\"`, `\n`, `\r` and
 /// `\t`, any other backslash is an error, everything else stands for itself, line feeds included.
-[[nodiscard]] std::expected<std::string, SentenceError>
-parseAdministratorSentence(std::string_view script);
+/// Absent for any other script.
+[[nodiscard]] std::optional<std::string> parseAdministratorSentence(std::string_view script);
 
 } // namespace kestrowind

@@ -34,10 +34,9 @@ int complain(const std::string& message, int status) {
 // --- osascript ----------------------------------------------------------------------------------
 
 /// An error as the runner words it: where in the script, of what kind, what, and its number.
-int scriptError(std::size_t from, std::size_t to, const std::string& what, int number) {
-    return complain(std::to_string(from) + ":" + std::to_string(to) + ": " + what + " (" +
-                        std::to_string(number) + ")",
-                    1);
+int scriptError(std::size_t scriptSize, const std::string& what, int number) {
+    return complain(
+        "0:" + std::to_string(scriptSize) + ": " + what + " (" + std::to_string(number) + ")", 1);
 }
 
 QString searchPath(const fs::path& root) {
@@ -58,14 +57,14 @@ int runShell(const fs::path& root, const std::string& text, std::size_t scriptSi
     shell.start(u"/bin/sh"_s, {u"-c"_s, QString::fromStdString(text)}, QIODevice::ReadOnly);
     shell.waitForFinished(-1);
     if (shell.error() == QProcess::FailedToStart)
-        return scriptError(0, scriptSize, "execution error: " + shell.errorString().toStdString(),
+        return scriptError(scriptSize, "execution error: " + shell.errorString().toStdString(),
                            -10810);
     const int status =
         shell.exitStatus() == QProcess::NormalExit ? shell.exitCode() : 128 + shell.exitCode();
     if (status == 0)
         return 0;
     const std::string errors = shell.readAllStandardError().trimmed().toStdString();
-    return scriptError(0, scriptSize,
+    return scriptError(scriptSize,
                        "execution error: " +
                            (errors.empty() ? "The command exited with a non-zero status." : errors),
                        status);
@@ -77,14 +76,16 @@ int runScript(const fs::path& root, const Words& arguments) {
     const std::string& script = arguments.back();
     const auto text = parseAdministratorSentence(script);
     if (!text)
-        return scriptError(text.error().position, script.size(),
-                           "syntax error: " + text.error().message, -2741);
+        return scriptError(script.size(),
+                           "syntax error: Expected “do shell script "
+                           "\"TEXT\" with administrator privileges”.",
+                           -2741);
     // The dialog stays open for as long as the person in front of the machine likes.
     const auto granted = callControl(root, {"authorize"}, endlessPatience);
     if (!granted)
-        return scriptError(0, script.size(), "execution error: " + granted.error(), -60008);
+        return scriptError(script.size(), "execution error: " + granted.error(), -60008);
     if (*granted != true)
-        return scriptError(0, script.size(), "execution error: User canceled.", -128);
+        return scriptError(script.size(), "execution error: User canceled.", -128);
     return runShell(root, *text, script.size());
 }
 

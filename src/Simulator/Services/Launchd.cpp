@@ -16,13 +16,10 @@ constexpr std::chrono::milliseconds shortestRun{500};
 // How long a program has for its last deeds.
 constexpr std::chrono::seconds exitPatience{3};
 
-std::string inWords(ChildProcess::Exit exit) {
-    return exit.signal != 0 ? "killed by signal " + std::to_string(exit.signal)
-                            : "exited with status " + std::to_string(exit.code);
-}
-
-void releaseLater(std::unique_ptr<ChildProcess> process) {
-    process.release()->deleteLater();
+std::string inWords(const ChildProcess& ended) {
+    const bool wasKilled = ended.exitStatus() == ChildProcess::CrashExit;
+    return (wasKilled ? "killed by signal " : "exited with status ") +
+           std::to_string(ended.exitCode());
 }
 
 } // namespace
@@ -85,10 +82,10 @@ void Launchd::startProgram(Job& job) {
         return;
     }
     job.process = std::move(*process);
-    job.state.pid = job.process->identifier();
+    job.state.pid = static_cast<pid_t>(job.process->processId());
     ++job.state.starts;
-    QObject::connect(job.process.get(), &ChildProcess::ended, &job.throttle,
-                     [this, &job](ChildProcess::Exit exit) { programEnded(job, exit); });
+    QObject::connect(job.process.get(), &ChildProcess::finished, &job.throttle,
+                     [this, &job] { programEnded(job); });
 }
 
 void Launchd::refuseWaiting(Job& job) {
@@ -102,16 +99,12 @@ void Launchd::refuseWaiting(Job& job) {
     job.notifier.setEnabled(true);
 }
 
-void Launchd::programEnded(Job& job, ChildProcess::Exit exit) {
+void Launchd::programEnded(Job& job) {
+    ChildProcess* const ended = job.process.release();
     job.state.pid.reset();
-    job.state.lastExit = inWords(exit);
-    releaseLater(std::move(job.process));
-    job.isWantedBack =
-        job.description.isKeptAliveUntilItSucceeds && (exit.code != 0 || exit.signal != 0);
-    watchAgain(job);
-}
-
-void Launchd::watchAgain(Job& job) {
+    job.state.lastExit = inWords(*ended);
+    job.isWantedBack = job.description.isKeptAliveUntilItSucceeds && ended->status() != 0;
+    ended->deleteLater();
     const auto run = std::chrono::milliseconds(job.sinceStart.elapsed());
     if (run < shortestRun)
         job.throttle.start(shortestRun - run);
@@ -147,9 +140,9 @@ void Launchd::depart(std::unique_ptr<ChildProcess> process, std::function<void(R
     departure.patience.setSingleShot(true);
     QObject::connect(&departure.patience, &QTimer::timeout, leaving,
                      [leaving] { leaving->sendSignal(SIGKILL); });
-    QObject::connect(leaving, &ChildProcess::ended, leaving, [this, leaving] {
+    QObject::connect(leaving, &ChildProcess::finished, leaving, [this, leaving] {
         const auto gone = std::move(m_departures.extract(leaving).mapped());
-        releaseLater(std::move(gone->process));
+        gone->process.release()->deleteLater();
         gone->done({});
     });
     departure.patience.start(exitPatience);

@@ -71,8 +71,7 @@ private:
 
     void startProgram(Job& job);
     void refuseWaiting(Job& job);
-    void programEnded(Job& job, ChildProcess::Exit exit);
-    void watchAgain(Job& job);
+    void programEnded(Job& job);
     void becomeReady(Job& job);
     void depart(std::unique_ptr<ChildProcess> process, std::function<void(Result)> done);
 

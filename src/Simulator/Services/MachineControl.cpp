@@ -6,9 +6,12 @@
 #include "Simulator/Services/AtomicFile.h"
 #include "Simulator/Services/MachineStatus.h"
 
+#include <algorithm>
 #include <charconv>
 #include <csignal>
-#include <system_error>
+#include <map>
+#include <ranges>
+#include <string_view>
 #include <utility>
 
 namespace kestrowind {
@@ -44,58 +47,84 @@ std::optional<std::string> fourBytes(std::string_view text) {
                        static_cast<char>(*name >> 8), static_cast<char>(*name)};
 }
 
-/// From the words behind "helper"; absent when they describe no behaviour.
-std::optional<HelperBehaviour> parseBehaviour(const Words& words) {
-    using Kind = HelperBehaviour::Kind;
-    if (words.size() == 2) {
-        if (words[1] == "normal")
-            return HelperBehaviour{};
-        if (words[1] == "silent")
-            return HelperBehaviour{.kind = Kind::silent};
-        if (words[1] == "hang")
-            return HelperBehaviour{.kind = Kind::hang};
-        if (words[1] == "garbage")
-            return HelperBehaviour{.kind = Kind::garbage};
-    }
-    if (words.size() != 3)
-        return std::nullopt;
-    if (words[1] == "fail")
-        return HelperBehaviour{.kind = Kind::fail, .text = words[2]};
-    if (words[1] == "version")
-        return HelperBehaviour{.kind = Kind::version, .text = words[2]};
-    const auto delay = parseCode(words[2]);
-    if (words[1] != "late" || !delay || *delay < 0)
-        return std::nullopt;
-    return HelperBehaviour{.kind = Kind::late, .delay = std::chrono::milliseconds(*delay)};
+/// The words between the separators.
+std::vector<std::string_view> split(std::string_view text, char separator) {
+    std::vector<std::string_view> parts;
+    for (const auto part : std::views::split(text, separator))
+        parts.emplace_back(part.begin(), part.end());
+    return parts;
+}
+
+/// Whether a word is what a command has in its place: one of those between the bars, or any word
+/// for a name in capitals.
+bool isOneOf(std::string_view alternatives, const std::string& word) {
+    return std::ranges::any_of(split(alternatives, '|'), [&word](std::string_view alternative) {
+        return alternative == word || (alternative.front() >= 'A' && alternative.front() <= 'Z');
+    });
 }
 
 } // namespace
 
-std::string MachineControl::usage() {
-    return R"(  status                      everything about the machine, as JSON
-  load NN%|idle|host          what the processor has to do
-  key NAME fail               the SMC refuses the key
-  key NAME timeout            calls for the key time out
-  key NAME remove             the machine does not have the key
-  key NAME type TYPE          the key shows another type
-  key NAME value HEX          the key shows these bytes, whatever the hardware does
-  key NAME ok                 the key is well again
-  service both|second|none    which names the SMC's service is registered under
-  open-result CODE            what opening the SMC returns; 0 opens it
-  helper normal               the helper behaves
-  helper silent               it neither acts nor replies
-  helper hang                 its loop hangs at the next call
-  helper late MILLISECONDS    it replies late
-  helper garbage              it replies with rubbish
-  helper fail TEXT            it fails for this reason
-  helper version TEXT         it reports this version
-  helper kill|stop|continue   its process is killed, stopped, continued
-  password grant|refuse|hang  what becomes of the dialog that asks for an administrator's
-                              password: it is filled in, cancelled, or left open until then
-  launchd normal|failing      whether launchd takes on jobs at all
-  bootstrap FILE              launchd takes on the job that FILE describes
-  bootout LABEL               launchd ends a job and forgets it
+struct MachineControl::Command {
+    std::string_view words; ///< as people write them
+    std::string_view help;  ///< empty for a command that is not for people
+    void (MachineControl::*run)(const Words& words, const Done& done);
 
+    [[nodiscard]] bool isMeantBy(const Words& given) const {
+        return std::ranges::equal(split(words, ' '), given, isOneOf);
+    }
+};
+
+std::span<const MachineControl::Command> MachineControl::commands() {
+    static constexpr Command all[] = {
+        {"status", "everything about the machine, as JSON", &MachineControl::tellStatus},
+        {"load NN%|idle|host", "what the processor has to do", &MachineControl::setLoad},
+        {"key NAME fail", "the SMC refuses the key", &MachineControl::changeKey},
+        {"key NAME timeout", "calls for the key time out", &MachineControl::changeKey},
+        {"key NAME remove", "the machine does not have the key", &MachineControl::changeKey},
+        {"key NAME type TYPE", "the key shows another type", &MachineControl::changeKey},
+        {"key NAME value HEX", "the key shows these bytes, whatever the hardware does",
+         &MachineControl::changeKey},
+        {"key NAME ok", "the key is well again", &MachineControl::changeKey},
+        {"service both|second|none", "which names the SMC's service is registered under",
+         &MachineControl::setServices},
+        {"open-result CODE", "what opening the SMC returns; 0 opens it",
+         &MachineControl::setOpenResult},
+        {"helper normal", "the helper behaves", &MachineControl::setHelperBehaviour},
+        {"helper silent", "it neither acts nor replies", &MachineControl::setHelperBehaviour},
+        {"helper hang", "its loop hangs at the next call", &MachineControl::setHelperBehaviour},
+        {"helper late MILLISECONDS", "it replies late", &MachineControl::setHelperBehaviour},
+        {"helper garbage", "it replies with rubbish", &MachineControl::setHelperBehaviour},
+        {"helper fail TEXT", "it fails for this reason", &MachineControl::setHelperBehaviour},
+        {"helper version TEXT", "it reports this version", &MachineControl::setHelperBehaviour},
+        {"helper kill|stop|continue", "its process is killed, stopped, continued",
+         &MachineControl::signalHelper},
+        {"password grant|refuse|hang",
+         "what becomes of the dialog that asks for an administrator's\n"
+         "                              password: it is filled in, cancelled, or left open until "
+         "then",
+         &MachineControl::answerPasswordDialogs},
+        {"authorize", "", &MachineControl::authorize},
+        {"launchd normal|failing", "whether launchd takes on jobs at all",
+         &MachineControl::setLaunchdFailing},
+        {"bootstrap FILE", "launchd takes on the job that FILE describes",
+         &MachineControl::bootstrap},
+        {"bootout LABEL", "launchd ends a job and forgets it", &MachineControl::bootout},
+    };
+    return all;
+}
+
+std::string MachineControl::usage() {
+    constexpr std::size_t helpColumn = 28;
+    std::string text;
+    for (const Command& command : commands()) {
+        if (command.help.empty())
+            continue;
+        std::string words(command.words);
+        words.resize(helpColumn, ' ');
+        text += "  " + words + std::string(command.help) + "\n";
+    }
+    return text + R"(
 NAME and TYPE are four bytes, or 0x and eight hexadecimal digits. CODE is decimal, or hexadecimal
 behind 0x.
 )";
@@ -104,165 +133,136 @@ behind 0x.
 MachineControl::MachineControl(Machine& machine)
     : m_machine(machine) {}
 
-void MachineControl::execute(const Words& words, Done done) {
-    const std::string command = words.empty() ? std::string() : words.front();
-    if (command == "bootout" && words.size() == 2) {
-        m_machine.launchd().bootout(words[1], [done = std::move(done)](Launchd::Result result) {
-            done(result ? Result(Json()) : Result(error(std::move(result.error()))));
-        });
-        return;
+void MachineControl::execute(const Words& words, const Done& done) {
+    for (const Command& command : commands()) {
+        if (command.isMeantBy(words))
+            return (this->*command.run)(words, done);
     }
-    if (command == "authorize" && words.size() == 1) {
-        authorize(std::move(done));
-        return;
+    std::string text = "unknown command:";
+    for (const std::string& word : words)
+        text += " " + word;
+    for (const Command& command : commands()) {
+        if (!words.empty() && split(command.words, ' ').front() == words.front())
+            text += "\n  " + std::string(command.words);
     }
-    if (command == "status" && words.size() == 1)
-        done(status());
-    else if (command == "load" && words.size() == 2)
-        done(load(words));
-    else if (command == "key" && words.size() >= 3)
-        done(key(words));
-    else if (command == "service" && words.size() == 2)
-        done(service(words));
-    else if (command == "open-result" && words.size() == 2)
-        done(openResult(words));
-    else if (command == "helper" && words.size() >= 2)
-        done(helper(words));
-    else if (command == "password" && words.size() == 2)
-        done(password(words));
-    else if (command == "launchd" && words.size() == 2)
-        done(launchd(words));
-    else if (command == "bootstrap" && words.size() == 2)
-        done(bootstrap(words));
-    else
-        done(
-            error("unknown command, or the wrong number of arguments for it: \"" + command + "\""));
+    done(error(text));
 }
 
-MachineControl::Result MachineControl::status() const {
+void MachineControl::tellStatus(const Words& /*words*/, const Done& done) {
     Json status = machineStatus(m_machine);
     status["services"] = m_services;
     status["openResult"] = m_openResult;
     status["password"] = m_password;
     status["openPasswordDialogs"] = m_passwordDialogs.size();
-    return status;
+    done(std::move(status));
 }
 
-MachineControl::Result MachineControl::load(const Words& words) {
+void MachineControl::setLoad(const Words& words, const Done& done) {
     auto source = LoadSource::parse(words[1]);
     if (!source)
-        return error("\"" + words[1] + "\" is no load: idle, host, or 0% to 100%");
+        return done(error("\"" + words[1] + "\" is no load: idle, host, or 0% to 100%"));
     m_machine.setLoad(std::move(*source));
-    return Json();
+    done(Json());
 }
 
-MachineControl::Result MachineControl::key(const Words& words) {
+void MachineControl::changeKey(const Words& words, const Done& done) {
     using Fault = SimulatedSMC::Fault;
+    static const std::map<std::string, std::optional<Fault>> faults{{"ok", std::nullopt},
+                                                                    {"fail", Fault::fails},
+                                                                    {"timeout", Fault::timesOut},
+                                                                    {"remove", Fault::missing}};
     SimulatedSMC& smc = m_machine.smc();
     const auto name = fourBytes(words[1]);
     if (!name)
-        return error("\"" + words[1] + "\" is no key name");
-    const std::string& deed = words[2];
+        return done(error("\"" + words[1] + "\" is no key name"));
     if (!smc.hasKey(*name))
-        return error("the machine has no key " + words[1]);
-    if (deed == "type" && words.size() == 4) {
+        return done(error("the machine has no key " + words[1]));
+    const std::string& change = words[2];
+    if (change == "type") {
         const auto type = fourBytes(words[3]);
         if (!type)
-            return error("\"" + words[3] + "\" is no type");
+            return done(error("\"" + words[3] + "\" is no type"));
         smc.holdType(*name, *type);
-    } else if (deed == "value" && words.size() == 4) {
+    } else if (change == "value") {
         const auto bytes = parseHexBytes(words[3]);
         if (!bytes)
-            return error("\"" + words[3] + "\" is not pairs of hexadecimal digits");
+            return done(error("\"" + words[3] + "\" is not pairs of hexadecimal digits"));
         smc.holdValue(*name, *bytes);
-    } else if (deed == "ok" && words.size() == 3) {
-        smc.setFault(*name, std::nullopt);
-    } else if (deed == "fail" && words.size() == 3) {
-        smc.setFault(*name, Fault::fails);
-    } else if (deed == "timeout" && words.size() == 3) {
-        smc.setFault(*name, Fault::timesOut);
-    } else if (deed == "remove" && words.size() == 3) {
-        smc.setFault(*name, Fault::missing);
     } else {
-        return error("\"" + deed + "\" cannot be done to a key like this");
+        smc.setFault(*name, faults.at(change));
     }
-    return Json();
+    done(Json());
 }
 
-MachineControl::Result MachineControl::service(const Words& words) {
+void MachineControl::setServices(const Words& words, const Done& done) {
     using Services = SimulatedSMC::Services;
-    if (words[1] == "both")
-        m_machine.smc().setServices(Services::both);
-    else if (words[1] == "second")
-        m_machine.smc().setServices(Services::secondOnly);
-    else if (words[1] == "none")
-        m_machine.smc().setServices(Services::none);
-    else
-        return error("\"" + words[1] + "\" is none of both, second, none");
     m_services = words[1];
-    return Json();
+    m_machine.smc().setServices(m_services == "both"     ? Services::both
+                                : m_services == "second" ? Services::secondOnly
+                                                         : Services::none);
+    done(Json());
 }
 
-MachineControl::Result MachineControl::openResult(const Words& words) {
+void MachineControl::setOpenResult(const Words& words, const Done& done) {
     const auto code = parseCode(words[1]);
     if (!code)
-        return error("\"" + words[1] + "\" is no 32-bit code");
+        return done(error("\"" + words[1] + "\" is no 32-bit code"));
     m_openResult = *code;
     m_machine.smc().setOpenResult(*code);
-    return Json();
+    done(Json());
 }
 
-MachineControl::Result MachineControl::helper(const Words& words) {
-    if (words.size() == 2 && (words[1] == "kill" || words[1] == "stop" || words[1] == "continue"))
-        return signalHelper(words[1]);
-    const auto behaviour = parseBehaviour(words);
-    if (!behaviour)
-        return error("\"" + words[1] + "\" is no behaviour of the helper, or lacks its value");
-    const auto file = SimulatedMac::helperBehaviourFile(m_machine.root());
-    if (behaviour->kind == HelperBehaviour::Kind::normal) {
-        std::error_code failure;
-        std::filesystem::remove(file, failure);
-        return failure ? Result(error(failure.message())) : Result(Json());
+void MachineControl::setHelperBehaviour(const Words& words, const Done& done) {
+    HelperBehaviour behaviour{.kind = helperBehaviourKind(words[1])};
+    if (behaviour.kind == HelperBehaviour::Kind::late) {
+        const auto delay = parseCode(words[2]);
+        if (!delay || *delay < 0)
+            return done(error("\"" + words[2] + "\" is no number of milliseconds"));
+        behaviour.delay = std::chrono::milliseconds(*delay);
+    } else if (words.size() == 3) {
+        behaviour.text = words[2];
     }
-    if (auto written = writeAtomically(file, encodeHelperBehaviour(*behaviour)); !written)
-        return error(std::move(written.error()));
-    return Json();
+    const auto file = SimulatedMac::helperBehaviourFile(m_machine.root());
+    if (auto written = writeAtomically(file, encodeHelperBehaviour(behaviour)); !written)
+        return done(error(std::move(written.error())));
+    done(Json());
 }
 
-MachineControl::Result MachineControl::signalHelper(const std::string& deed) {
-    const int number = deed == "kill" ? SIGKILL : deed == "stop" ? SIGSTOP : SIGCONT;
+void MachineControl::signalHelper(const Words& words, const Done& done) {
+    const int number = words[1] == "kill" ? SIGKILL : words[1] == "stop" ? SIGSTOP : SIGCONT;
     if (!m_machine.launchd().sendSignal(HelperConstants::machServiceName, number))
-        return error("the helper is not running");
-    return Json();
+        return done(error("the helper is not running"));
+    done(Json());
 }
 
-void MachineControl::authorize(Done done) {
+void MachineControl::authorize(const Words& /*words*/, const Done& done) {
     if (m_password == "hang")
-        m_passwordDialogs.push_back(std::move(done));
+        m_passwordDialogs.push_back(done);
     else
         done(Json(m_password == "grant"));
 }
 
-MachineControl::Result MachineControl::password(const Words& words) {
-    if (words[1] != "grant" && words[1] != "refuse" && words[1] != "hang")
-        return error("\"" + words[1] + "\" is none of grant, refuse, hang");
+void MachineControl::answerPasswordDialogs(const Words& words, const Done& done) {
     m_password = words[1];
-    for (const Done& done : std::exchange(m_passwordDialogs, {}))
-        authorize(done);
-    return Json();
+    for (const Done& dialog : std::exchange(m_passwordDialogs, {}))
+        authorize({}, dialog);
+    done(Json());
 }
 
-MachineControl::Result MachineControl::launchd(const Words& words) {
-    if (words[1] != "normal" && words[1] != "failing")
-        return error("\"" + words[1] + "\" is neither normal nor failing");
+void MachineControl::setLaunchdFailing(const Words& words, const Done& done) {
     m_machine.launchd().setFailing(words[1] == "failing");
-    return Json();
+    done(Json());
 }
 
-MachineControl::Result MachineControl::bootstrap(const Words& words) {
-    if (auto done = m_machine.launchd().bootstrap(words[1]); !done)
-        return error(std::move(done.error()));
-    return Json();
+void MachineControl::bootstrap(const Words& words, const Done& done) {
+    const auto bootstrapped = m_machine.launchd().bootstrap(words[1]);
+    done(bootstrapped ? Result(Json()) : error(bootstrapped.error()));
+}
+
+void MachineControl::bootout(const Words& words, const Done& done) {
+    m_machine.launchd().bootout(words[1], [done](const Launchd::Result& ended) {
+        done(ended ? Result(Json()) : error(ended.error()));
+    });
 }
 
 } // namespace kestrowind

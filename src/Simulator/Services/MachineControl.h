@@ -6,6 +6,7 @@
 
 #include <expected>
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -25,21 +26,25 @@ public:
 
     /// Carries a command out. done is called once, usually at once; the result of a command that
     /// has nothing to say is null.
-    void execute(const Words& words, Done done);
+    void execute(const Words& words, const Done& done);
 
 private:
-    [[nodiscard]] Result status() const;
-    [[nodiscard]] Result load(const Words& words);
-    [[nodiscard]] Result key(const Words& words);
-    [[nodiscard]] Result service(const Words& words);
-    [[nodiscard]] Result openResult(const Words& words);
-    [[nodiscard]] Result helper(const Words& words);
-    [[nodiscard]] Result signalHelper(const std::string& deed);
+    struct Command;
+
+    [[nodiscard]] static std::span<const Command> commands();
+    void tellStatus(const Words& words, const Done& done);
+    void setLoad(const Words& words, const Done& done);
+    void changeKey(const Words& words, const Done& done);
+    void setServices(const Words& words, const Done& done);
+    void setOpenResult(const Words& words, const Done& done);
+    void setHelperBehaviour(const Words& words, const Done& done);
+    void signalHelper(const Words& words, const Done& done);
     /// Done once the person in front of the machine has answered: true with the password.
-    void authorize(Done done);
-    [[nodiscard]] Result password(const Words& words);
-    [[nodiscard]] Result launchd(const Words& words);
-    [[nodiscard]] Result bootstrap(const Words& words);
+    void authorize(const Words& words, const Done& done);
+    void answerPasswordDialogs(const Words& words, const Done& done);
+    void setLaunchdFailing(const Words& words, const Done& done);
+    void bootstrap(const Words& words, const Done& done);
+    void bootout(const Words& words, const Done& done);
 
     Machine& m_machine;
     std::string m_services = "both";

@@ -14,6 +14,8 @@
 /// machine around it, and leaves nothing behind.
 namespace kestrowind::ThisSystem {
 
+using namespace Qt::StringLiterals;
+
 /// The simulated kernel, over its socket.
 class Kernel {
 public:
@@ -37,11 +39,11 @@ public:
     std::unique_ptr<HelperConnection> connection(const QString& machServiceName) {
         return std::make_unique<HelperBus>(machServiceName);
     }
-    void freeze() const { m_mac.control({QStringLiteral("helper"), QStringLiteral("stop")}); }
+    void freeze() const { m_mac.control("helper stop"); }
     /// Returns when launchd has a new one.
     void kill() const {
         const auto pid = m_mac.status()["helper"]["pid"];
-        m_mac.control({QStringLiteral("helper"), QStringLiteral("kill")});
+        m_mac.control("helper kill");
         waitUntil([&] {
             const auto now = m_mac.status()["helper"]["pid"];
             return !now.is_null() && now != pid;
@@ -49,13 +51,13 @@ public:
     }
 
 private:
-    BootedMac m_mac{{QStringLiteral("--installed")}};
+    BootedMac m_mac{{u"--installed"_s}};
 };
 
 class Defaults {
 public:
     std::unique_ptr<QSettings> open() {
-        return openSettingsFile(m_folder.filePath(QStringLiteral("defaults.ini")));
+        return openSettingsFile(m_folder.filePath(u"defaults.ini"_s));
     }
 
 private:
@@ -79,8 +81,8 @@ private:
 class Login {
 public:
     std::unique_ptr<LoginItem> item() {
-        return std::make_unique<AutostartEntry>(m_folder.filePath(QStringLiteral("a/x.desktop")),
-                                                QStringList{QStringLiteral("/opt/x/program")});
+        return std::make_unique<AutostartEntry>(m_folder.filePath(u"a/x.desktop"_s),
+                                                QStringList{u"/opt/x/program"_s});
     }
 
 private:
@@ -96,7 +98,7 @@ public:
     }
 
 private:
-    BootedMac m_mac{{QStringLiteral("--installed")}};
+    BootedMac m_mac{{u"--installed"_s}};
 };
 
 } // namespace kestrowind::ThisSystem
