@@ -1,5 +1,6 @@
 #include "Simulator/Hardware/MachineProfile.h"
 
+#include "Shared/HelperShared/FanTargets.h"
 #include "Shared/SMCKit/FourCC.h"
 #include "Shared/SMCKit/SMCFanReading.h"
 #include "Simulator/Hardware/StrictJson.h"
@@ -15,7 +16,6 @@ namespace {
 constexpr std::size_t mostFans = 10;
 constexpr std::size_t mostKeys = 20'000;
 constexpr double hottestPossible = 1000; // degrees Celsius; beyond any machine
-constexpr double fastestPossible = 100'000;
 constexpr int largestSize = 1'000;
 constexpr std::size_t valueCapacity = 32;
 
@@ -53,8 +53,8 @@ SystemControlProfile readSystemControl(const StrictJson& json) {
 
 FanProfile readFan(const StrictJson& json) {
     json.allowOnly({"minimum", "maximum", "inertia", "modeKey"});
-    FanProfile fan{.minimum = json.at("minimum").number(0, fastestPossible),
-                   .maximum = json.at("maximum").number(1, fastestPossible),
+    FanProfile fan{.minimum = json.at("minimum").number(0, highestPlausibleRPM),
+                   .maximum = json.at("maximum").number(1, highestPlausibleRPM),
                    .inertia = json.at("inertia").number(0.01, 60)};
     if (fan.maximum <= fan.minimum)
         json.at("maximum").fail("must be greater than minimum");

@@ -1,6 +1,7 @@
 #include "UI/CurveEditor/CurveMarks.h"
 
 #include "Core/LocalizedText.h"
+#include "Shared/HelperShared/FanTargets.h"
 
 #include <QLocale>
 
@@ -8,19 +9,14 @@
 #include <cmath>
 
 namespace kestrowind {
-namespace {
-
-/// What a fan reports is not checked; no limit beyond this is one.
-constexpr double fastestRPM = 100'000;
-
-} // namespace
 
 QString CurveCallout::textOf(const FanCurvePoint& point, const std::optional<SMCFanReading>& fan) {
     const double percent = std::round(point.percent);
     const QString temperatureText = QString::number(std::lround(point.tempC));
     const QString percentText = QString::number(std::lround(percent));
-    const bool hasLimits =
-        fan && std::abs(fan->minRPM) <= fastestRPM && std::abs(fan->maxRPM) <= fastestRPM;
+    // What a fan reports is not checked.
+    const bool hasLimits = fan && std::abs(fan->minRPM) <= highestPlausibleRPM &&
+                           std::abs(fan->maxRPM) <= highestPlausibleRPM;
     if (!hasLimits)
         return localized("curves.chart.callout.temperatureAndPercent")
             .arg(temperatureText, percentText);

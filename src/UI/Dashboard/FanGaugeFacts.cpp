@@ -1,55 +1,36 @@
 #include "UI/Dashboard/FanGaugeFacts.h"
 
-#include "Core/FanNaming.h"
 #include "Core/LocalizedText.h"
-#include "Core/WholeNumberText.h"
 #include "UI/Dashboard/FanSpeedHistory.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace kestrowind {
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
+/// Revolutions per second: far slower than the fan, so that the eye can follow.
 constexpr double fastestSpin = 2.2;
 
 } // namespace
 
-namespace FanGaugeReadout {
-
-double speedFraction(const SMCFanReading& fan) {
-    if (!(fan.actualRPM > 0) || !(fan.maxRPM > 0))
-        return 0;
-    const double fraction = std::min(fan.actualRPM / fan.maxRPM, 1.0);
-    return std::isfinite(fraction) ? std::round(fraction * 1000) / 1000 : 0;
-}
-
-double spinFactor(const SMCFanReading& fan) {
-    return fastestSpin * speedFraction(fan);
-}
-
-} // namespace FanGaugeReadout
-
 FanGaugeFacts FanGaugeFacts::of(const SMCFanReading& fan, qsizetype position,
                                 qsizetype totalFanCount) {
-    const bool isStill = fan.actualRPM <= 0;
-    const double spin = FanGaugeReadout::spinFactor(fan);
-    FanGaugeFacts facts{
-        .index = fan.index,
-        .name = sharedFanName(fan.index, static_cast<int>(totalFanCount)),
-        .readout = WholeNumberText::truncated(fan.actualRPM),
-        .caption = localized(isStill ? "gauge.readout.parked" : "gauge.readout.rpm"),
-        .fraction = FanGaugeReadout::speedFraction(fan),
-        .revolutionsPerSecond = spin,
-        .isParked = !(spin > 0),
+    const FanFacts facts = FanFacts::of(fan, totalFanCount);
+    // Smaller changes would move the gauge without anybody seeing more.
+    const double fraction = std::round(facts.fraction * 1000) / 1000;
+    return {
+        .index = facts.index,
+        .name = facts.name,
+        .readout = facts.speed,
+        .caption = localized(facts.isStill ? "gauge.readout.parked" : "gauge.readout.rpm"),
+        .spoken = facts.isStill
+                      ? localized("dashboard.fans.spokenParked").arg(facts.name)
+                      : localized("dashboard.fans.spokenSpeed").arg(facts.name, facts.speed),
+        .fraction = fraction,
+        .revolutionsPerSecond = fastestSpin * fraction,
+        .isParked = !(fraction > 0),
         .isDashed = FanSpeedHistory::isDashed(position),
     };
-    facts.spoken = isStill ? localized("dashboard.fans.spokenParked").arg(facts.name)
-                           : localized("dashboard.fans.spokenSpeed").arg(facts.name, facts.readout);
-    return facts;
 }
 
 } // namespace kestrowind

@@ -33,11 +33,4 @@ public:
     [[nodiscard]] static TemperatureFacts of(const QString& title, const Celsius& celsius);
 };
 
-namespace TemperatureReadout {
-/// In the language's format, with one fraction digit below 100 and none from there on; "--" for
-/// what was never measured.
-[[nodiscard]] QString number(double celsius);
-[[nodiscard]] QString withUnit(double celsius);
-} // namespace TemperatureReadout
-
 } // namespace kestrowind

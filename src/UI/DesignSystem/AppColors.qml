@@ -9,6 +9,19 @@ ScenePalette {
         return temperatureColorFor(celsius, isDark)
     }
 
+    function toneColor(tone: int): color {
+        switch (tone) {
+        case MessageTone.Accent:
+            return accent
+        case MessageTone.Good:
+            return success
+        case MessageTone.Warning:
+            return warning
+        default:
+            return secondaryText
+        }
+    }
+
     // For marks that carry white text in both schemes.
     function temperatureLabelColor(celsius: real): color {
         return temperatureColorFor(celsius, false)

@@ -7,9 +7,7 @@ Item {
     id: root
 
     required property CaptionModel model
-    readonly property color tint: model.tint === CaptionModel.Accent ? AppColors.accent
-                                : model.tint === CaptionModel.Warning ? AppColors.warning
-                                : AppColors.secondaryText
+    readonly property color color: AppColors.toneColor(model.tone)
 
     implicitHeight: 22
     Accessible.role: Accessible.StaticText
@@ -30,7 +28,7 @@ Item {
             visible: !root.model.isInProgress && root.model.symbolName.length > 0
             name: root.model.symbolName
             size: 17
-            color: root.tint
+            color: root.color
         }
 
         Text {
@@ -39,7 +37,7 @@ Item {
             text: root.model.text
             textFormat: Text.PlainText
             font: Typography.headline
-            color: root.tint
+            color: root.color
             elide: Text.ElideRight
             maximumLineCount: 1
             Accessible.ignored: true

@@ -8,14 +8,16 @@
 namespace kestrowind {
 namespace {
 
-CaptionModel::Tint captionTint(PresetControlStatus::Tint tint) {
+using MessageTone::Tone;
+
+Tone toneOf(PresetControlStatus::Tint tint) {
     switch (tint) {
     case PresetControlStatus::Tint::accent:
-        return CaptionModel::Tint::Accent;
+        return Tone::Accent;
     case PresetControlStatus::Tint::warning:
-        return CaptionModel::Tint::Warning;
+        return Tone::Warning;
     case PresetControlStatus::Tint::neutral:
-        return CaptionModel::Tint::Neutral;
+        return Tone::Neutral;
     }
     Q_UNREACHABLE();
 }
@@ -27,7 +29,7 @@ CaptionModel::Line currentLine(const AppState& appState) {
     return {
         .text = state.status->text.string(),
         .symbolName = state.status->symbolName,
-        .tint = captionTint(state.status->tint),
+        .tone = toneOf(state.status->tint),
         .isInProgress = state.status->isInProgress,
     };
 }

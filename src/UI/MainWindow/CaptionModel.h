@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UI/DesignSystem/MessageTone.h"
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -14,20 +16,16 @@ class CaptionModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString text READ text NOTIFY lineChanged FINAL)
     Q_PROPERTY(QString symbolName READ symbolName NOTIFY lineChanged FINAL)
-    Q_PROPERTY(Tint tint READ tint NOTIFY lineChanged FINAL)
+    Q_PROPERTY(kestrowind::MessageTone::Tone tone READ tone NOTIFY lineChanged FINAL)
     Q_PROPERTY(bool isInProgress READ isInProgress NOTIFY lineChanged FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made by the main window")
 
 public:
-    /// The colour's role.
-    enum class Tint { Accent, Warning, Neutral };
-    Q_ENUM(Tint)
-
     struct Line {
         QString text = {};
         QString symbolName = {}; ///< empty: no icon
-        Tint tint = Tint::Neutral;
+        MessageTone::Tone tone = MessageTone::Tone::Neutral;
         bool isInProgress = false; ///< a spinning mark in place of the icon
 
         bool operator==(const Line&) const = default;
@@ -38,7 +36,7 @@ public:
     [[nodiscard]] const Line& line() const { return m_line; }
     [[nodiscard]] QString text() const { return m_line.text; }
     [[nodiscard]] QString symbolName() const { return m_line.symbolName; }
-    [[nodiscard]] Tint tint() const { return m_line.tint; }
+    [[nodiscard]] MessageTone::Tone tone() const { return m_line.tone; }
     [[nodiscard]] bool isInProgress() const { return m_line.isInProgress; }
 
 Q_SIGNALS:

@@ -27,7 +27,7 @@ public:
     bool showsBar = false;
     double fraction = 0; ///< of the highest speed, 0 to 1
 
-    [[nodiscard]] static MenuBarFan of(const SMCFanReading& fan, int totalFanCount);
+    [[nodiscard]] static MenuBarFan of(const SMCFanReading& fan, qsizetype totalFanCount);
 
     bool operator==(const MenuBarFan&) const = default;
 };

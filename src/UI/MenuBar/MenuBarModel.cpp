@@ -59,7 +59,7 @@ void MenuBarModel::refreshReadings() {
                     .cpu = MenuBarTemperature::cpu(sample->temperatures.cpuMax),
                     .gpu = MenuBarTemperature::gpu(sample->temperatures.gpuMax)};
         for (const SMCFanReading& fan : sample->fans)
-            fans.append(MenuBarFan::of(fan, static_cast<int>(sample->fans.size())));
+            fans.append(MenuBarFan::of(fan, static_cast<qsizetype>(sample->fans.size())));
     }
     m_fans.setRows(fans);
     if (assignIfChanged(m_readings, readings))

@@ -2,6 +2,7 @@
 
 #include "Core/LocalizedText.h"
 #include "Core/TelemetryStore.h"
+#include "Core/TemperatureText.h"
 #include "Core/WholeNumberText.h"
 
 #include <algorithm>
@@ -30,9 +31,7 @@ MenuBarReading MenuBarReading::of(const TelemetryStore& telemetry) {
     if (!sample)
         return {WholeNumberText::unknown(), WholeNumberText::unknown()};
     const double celsius = telemetry.systemTemperature().value_or(sample->temperatures.hottest);
-    return {SMCTemperatureSnapshot::isKnown(celsius) ? WholeNumberText::rounded(celsius)
-                                                     : WholeNumberText::unknown(),
-            WholeNumberText::truncated(fastest(sample->fans))};
+    return {TemperatureText::whole(celsius), WholeNumberText::truncated(fastest(sample->fans))};
 }
 
 QString MenuBarReading::temperatureText() const {

@@ -1,7 +1,7 @@
 #include "UI/MenuBar/MenuBarTemperature.h"
 
 #include "Core/LocalizedText.h"
-#include "Core/WholeNumberText.h"
+#include "Core/TemperatureText.h"
 #include "Shared/SMCKit/SMCTemperatureSensors.h"
 
 namespace kestrowind {
@@ -20,9 +20,7 @@ MenuBarTemperature MenuBarTemperature::of(const QString& label, const QString& s
                                           double celsius) {
     MenuBarTemperature row{.label = label, .symbolName = symbolName};
     row.isKnown = SMCTemperatureSnapshot::isKnown(celsius);
-    row.text =
-        localized("menuBar.temperature.degrees")
-            .arg(row.isKnown ? WholeNumberText::rounded(celsius) : WholeNumberText::unknown());
+    row.text = localized("menuBar.temperature.degrees").arg(TemperatureText::whole(celsius));
     row.spokenText = localized("menuBar.temperature.spoken").arg(label, row.text);
     // Not a number differs from itself, and would be news with every sample.
     row.celsius = row.isKnown ? celsius : 0;

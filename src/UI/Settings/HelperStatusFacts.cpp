@@ -5,7 +5,7 @@
 namespace kestrowind {
 
 using namespace Qt::StringLiterals;
-using HelperTone::Tone;
+using MessageTone::Tone;
 
 HelperStatusFacts HelperStatusFacts::of(HelperState state, bool isDenied) {
     switch (state) {

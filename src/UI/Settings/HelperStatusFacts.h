@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Core/HelperControlling.h"
-#include "UI/Settings/HelperTone.h"
+#include "UI/DesignSystem/MessageTone.h"
 
 #include <QObject>
 #include <QString>
@@ -13,7 +13,7 @@ namespace kestrowind {
 struct HelperStatusFacts {
     Q_GADGET
     Q_PROPERTY(QString symbolName MEMBER symbolName CONSTANT FINAL)
-    Q_PROPERTY(kestrowind::HelperTone::Tone tone MEMBER tone CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::MessageTone::Tone tone MEMBER tone CONSTANT FINAL)
     Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
     Q_PROPERTY(QString description MEMBER description CONSTANT FINAL)
     Q_PROPERTY(QString installTitle MEMBER installTitle CONSTANT FINAL)
@@ -23,7 +23,7 @@ struct HelperStatusFacts {
 
 public:
     QString symbolName = {};
-    HelperTone::Tone tone = HelperTone::Tone::Neutral;
+    MessageTone::Tone tone = MessageTone::Tone::Neutral;
     QString title = {};
     QString description = {};
     QString installTitle = {};

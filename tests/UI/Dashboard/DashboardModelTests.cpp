@@ -1,4 +1,5 @@
 #include "Core/LocalizedText.h"
+#include "Core/TemperatureText.h"
 #include "Support/QtPrinters.h"
 #include "UI/Dashboard/DashboardModel.h"
 #include "UI/TestState.h"
@@ -46,7 +47,7 @@ TEST(FanGaugeFacts, ShowsSpeedAndSpin) {
     }
 }
 
-TEST(TemperatureReadout, FollowsTheLocale) {
+TEST(TemperatureText, FollowsTheLocale) {
     struct Row {
         QLocale locale;
         double celsius;
@@ -62,7 +63,7 @@ TEST(TemperatureReadout, FollowsTheLocale) {
     const QLocale before;
     for (const Row& row : rows) {
         QLocale::setDefault(row.locale);
-        EXPECT_EQ(TemperatureReadout::number(row.celsius), row.text);
+        EXPECT_EQ(TemperatureText::precise(row.celsius), row.text);
     }
     QLocale::setDefault(before);
 }

@@ -10,8 +10,8 @@ namespace kestrowind {
 namespace {
 
 using namespace Qt::StringLiterals;
+using MessageTone::Tone;
 using testing::ElementsAre;
-using Tint = CaptionModel::Tint;
 
 QStringList titles(const PillListModel* list) {
     QStringList titles;
@@ -132,7 +132,7 @@ TEST(CaptionModelTest, SaysTheStatusElseWhatThePresetDoes) {
     EXPECT_EQ(model.text(), u"Spins up early to keep the Mac cool"_s);
     state.setPhase(HelperControlPhase::unlocking);
     EXPECT_EQ(model.line(), (CaptionModel::Line{u"Taking control of the fans…"_s, u"hourglass"_s,
-                                                Tint::Accent, true}));
+                                                Tone::Accent, true}));
     state.presets().setActivePresetID(std::nullopt);
     EXPECT_EQ(changed.size(), 2) << "the status hides the preset's caption";
     state.setPhase(HelperControlPhase::controlling);

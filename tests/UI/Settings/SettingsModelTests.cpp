@@ -91,14 +91,14 @@ TEST(HelperSettings, DoesNotPraiseAHelperThatDoesNothing) {
     machine.helper.setState(HelperState::installed);
     HelperSettings settings(machine.helper, machine.watch, machine.operation);
     QSignalSpy changes(&settings, &HelperSettings::statusChanged);
-    EXPECT_EQ(settings.status().tone, HelperTone::Tone::Good);
+    EXPECT_EQ(settings.status().tone, MessageTone::Tone::Good);
     ASSERT_TRUE(QTest::qWaitFor([&] {
         machine.watch.expect();
-        return settings.status().tone == HelperTone::Tone::Warning;
+        return settings.status().tone == MessageTone::Tone::Warning;
     }));
     EXPECT_EQ(settings.status().title, localized("settings.helper.status.denied.title"));
     machine.watch.clear();
-    EXPECT_EQ(settings.status().tone, HelperTone::Tone::Good);
+    EXPECT_EQ(settings.status().tone, MessageTone::Tone::Good);
     EXPECT_EQ(changes.size(), 2);
 }
 

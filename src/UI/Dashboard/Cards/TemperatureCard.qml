@@ -41,9 +41,11 @@ DashboardCard {
         Column {
             anchors.horizontalCenter: parent.horizontalCenter
 
-            TemperatureReadout {
+            TabularText {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: root.facts.average
+                font: Typography.heroNumber
+                Accessible.ignored: true
             }
 
             Text {

@@ -23,9 +23,7 @@ Item {
             anchors.centerIn: parent
             name: root.facts.symbolName
             size: 26
-            color: root.facts.tone === HelperTone.Good ? AppColors.success
-                 : root.facts.tone === HelperTone.Warning ? AppColors.warning
-                                                                 : AppColors.secondaryText
+            color: AppColors.toneColor(root.facts.tone)
         }
     }
 

@@ -3,17 +3,18 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// How the state of the helper is to feel.
-namespace kestrowind::HelperTone {
+/// How something that is said is to feel; AppColors has the colours.
+namespace kestrowind::MessageTone {
 
 Q_NAMESPACE
 QML_ELEMENT
 
 enum class Tone {
     Neutral,
+    Accent,
     Good,
     Warning,
 };
 Q_ENUM_NS(Tone)
 
-} // namespace kestrowind::HelperTone
+} // namespace kestrowind::MessageTone
