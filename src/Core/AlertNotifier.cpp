@@ -83,31 +83,23 @@ AlertNotifier::AlertNotifier(AppState& appState, const UserDefaults& userDefault
 
 AlertRules::Helper AlertNotifier::helperWork(const TelemetrySample& sample) const {
     using Work = AlertRules::Helper::Work;
-    const HelperControlling& helper = m_appState.helper();
-    const ControlEngine& engine = m_appState.engine();
+    const ControlState::Facts& control = m_appState.control().facts();
     const auto isWanted = [](double percent) { return percent > 0; };
     const bool isAnyHeld =
         std::ranges::any_of(sample.fans, [](const auto& fan) { return fan.isManual(); });
     // Nothing is asked of a helper that is not there, but it may have left a fan at its last speed.
-    if (!helper.isInstalled())
+    if (control.isHelperMissing())
         return {isAnyHeld ? Work::pending : Work::done};
     // Unless a fan was left so, a helper without work may be silent.
-    const bool matters = std::ranges::any_of(engine.requestedPercents(), isWanted) || isAnyHeld;
-    if (engine.watch().isDenied())
+    const bool matters =
+        std::ranges::any_of(m_appState.engine().requestedPercents(), isWanted) || isAnyHeld;
+    if (control.isDenied)
         return {matters ? Work::failing : Work::pending};
     // The last word of a helper that is gone says nothing of now.
-    const auto status = helper.lastStatus();
-    if (helper.state() == HelperState::unreachable || !status)
+    if (control.helper == HelperState::unreachable || !control.status || control.isTakingControl())
         return {Work::pending};
-    switch (status->phase) {
-    case HelperControlPhase::failed:
-        return {Work::failing, status->lastError.value_or("")};
-    case HelperControlPhase::unlocking:
-        return {Work::pending};
-    case HelperControlPhase::idle:
-    case HelperControlPhase::controlling:
-        break;
-    }
+    if (control.hasFailed())
+        return {Work::failing, control.status->lastError.value_or("")};
     return {Work::done};
 }
 

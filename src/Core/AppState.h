@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/ControlEngine.h"
+#include "Core/ControlState.h"
 #include "Core/HelperControlling.h"
 #include "Core/PresetStore.h"
 #include "Core/TelemetryStore.h"
@@ -15,7 +16,7 @@ namespace kestrowind {
 struct Platform;
 
 /// The root of everything that lives as long as the process: the four services, in the order in
-/// which they need each other. Belongs to the main thread.
+/// which they need each other, and how they stand with the fans. Belongs to the main thread.
 class AppState final : public QObject {
     Q_OBJECT
 
@@ -34,6 +35,7 @@ public:
     [[nodiscard]] HelperControlling& helper() const { return *m_helper; }
     [[nodiscard]] PresetStore& presets() const { return *m_presets; }
     [[nodiscard]] ControlEngine& engine() const { return *m_engine; }
+    [[nodiscard]] const ControlState& control() const { return m_control; }
 
     /// Opens the main window; absent until somebody can.
     [[nodiscard]] const OpenMainWindow& openMainWindow() const { return m_openMainWindow; }
@@ -51,6 +53,7 @@ private:
     std::unique_ptr<HelperControlling> m_helper;
     std::unique_ptr<PresetStore> m_presets;
     std::unique_ptr<ControlEngine> m_engine;
+    ControlState m_control{*m_helper, *m_engine};
 };
 
 } // namespace kestrowind

@@ -32,11 +32,9 @@ PresetControlState PresetControlStateResolver::state(HelperState helperState,
 }
 
 PresetControlState ActivePresetState::current(const AppState& appState) {
-    const auto status = appState.helper().lastStatus();
-    const ControlEngine& engine = appState.engine();
-    return PresetControlStateResolver::state(
-        appState.helper().state(), status ? std::optional(status->phase) : std::nullopt,
-        engine.isOverriding() && engine.quickBoostPercent() > 0);
+    const ControlState::Facts& control = appState.control().facts();
+    return PresetControlStateResolver::state(control.helper, control.phase(),
+                                             control.isQuickBoosting);
 }
 
 } // namespace kestrowind

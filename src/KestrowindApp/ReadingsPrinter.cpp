@@ -28,9 +28,9 @@ Json orNull(const std::optional<T>& value) {
     return value ? Json(*value) : Json();
 }
 
-std::optional<std::string> phaseText(const AppState& appState) {
-    const auto status = appState.helper().lastStatus();
-    return status ? std::optional(std::string(text(status->phase))) : std::nullopt;
+std::optional<std::string> phaseText(const ControlState::Facts& control) {
+    const auto phase = control.phase();
+    return phase ? std::optional(std::string(text(*phase))) : std::nullopt;
 }
 
 Json fanReadings(const TelemetrySample& sample) {
@@ -71,6 +71,7 @@ ReadingsPrinter::ReadingsPrinter(const AppState& appState, ReadingsFormat format
 
 std::string ReadingsPrinter::json(const AppState& appState, const TelemetrySample& sample) {
     const ControlEngine& engine = appState.engine();
+    const ControlState::Facts& control = appState.control().facts();
     const auto preset = appState.presets().activePreset();
     const auto& temperatures = sample.temperatures;
     const Json line{
@@ -89,9 +90,9 @@ std::string ReadingsPrinter::json(const AppState& appState, const TelemetrySampl
          std::vector<double>(engine.requestedPercents().begin(), engine.requestedPercents().end())},
         {"effectiveTargets", engine.effectiveTargets()},
         {"isOverriding", engine.isOverriding()},
-        {"isDenied", engine.watch().isDenied()},
-        {"helperState", kestrowind::text(appState.helper().state()).toStdString()},
-        {"phase", orNull(phaseText(appState))},
+        {"isDenied", control.isDenied},
+        {"helperState", kestrowind::text(control.helper).toStdString()},
+        {"phase", orNull(phaseText(control))},
     };
     return line.dump();
 }
@@ -106,11 +107,12 @@ std::string ReadingsPrinter::text(const AppState& appState, const TelemetrySampl
         line += QString::asprintf("  fan %d %5.0f → %5.0f rpm", fan.index, fan.actualRPM,
                                   fan.targetRPM);
     const auto preset = appState.presets().activePreset();
+    const ControlState::Facts& control = appState.control().facts();
     line += u"  "_s + (preset ? preset->name : u"Automatic"_s) + u"  helper "_s +
-            kestrowind::text(appState.helper().state());
-    if (const auto phase = phaseText(appState))
+            kestrowind::text(control.helper);
+    if (const auto phase = phaseText(control))
         line += u", "_s + QString::fromStdString(*phase);
-    if (appState.engine().watch().isDenied())
+    if (control.isDenied)
         line += u", not doing what it is asked"_s;
     return line.toStdString();
 }

@@ -39,7 +39,7 @@ std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
              [&appState, &platform, &helperOperation] {
                  return std::make_unique<SettingsModel>(
                      SettingsServices{.helper = appState.helper(),
-                                      .controlWatch = appState.engine().watch(),
+                                      .control = appState.control(),
                                       .helperOperation = helperOperation,
                                       .userDefaults = *platform.userDefaults,
                                       .loginItem = *platform.loginItem,

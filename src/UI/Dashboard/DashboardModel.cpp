@@ -14,10 +14,9 @@ DashboardModel::DashboardModel(AppState& appState, FileDialogs& fileDialogs, QOb
     , m_appState(appState)
     , m_historyExport(appState.telemetry(), fileDialogs) {
     appState.telemetry().onSample(this, [this](const TelemetrySample&) { takeSample(); });
-    connect(&appState.helper(), &HelperControlling::stateChanged, this,
-            &DashboardModel::takeHelperState);
+    connect(&appState.control(), &ControlState::changed, this,
+            &DashboardModel::helperMissingChanged);
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &DashboardModel::refreshIfSeen);
-    takeHelperState();
     takeSample();
 }
 
@@ -42,9 +41,8 @@ void DashboardModel::takeSample() {
         Q_EMIT stateChanged();
 }
 
-void DashboardModel::takeHelperState() {
-    if (assignIfChanged(m_helperMissing, m_appState.helper().state() == HelperState::notInstalled))
-        Q_EMIT helperMissingChanged();
+bool DashboardModel::helperMissing() const {
+    return m_appState.control().facts().isHelperMissing();
 }
 
 void DashboardModel::refreshIfSeen() {

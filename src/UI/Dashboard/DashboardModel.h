@@ -48,7 +48,7 @@ public:
     [[nodiscard]] static State select(const TelemetryStore& telemetry);
 
     [[nodiscard]] State state() const { return m_state; }
-    [[nodiscard]] bool helperMissing() const { return m_helperMissing; }
+    [[nodiscard]] bool helperMissing() const;
     [[nodiscard]] FanGaugeRows* fans() { return &m_fans; }
     [[nodiscard]] const TemperatureFacts& cpu() const { return m_cpu; }
     [[nodiscard]] const TemperatureFacts& gpu() const { return m_gpu; }
@@ -76,14 +76,12 @@ Q_SIGNALS:
 
 private:
     void takeSample();
-    void takeHelperState();
     void refreshIfSeen();
     void refreshTemperatures();
     void refreshHistory();
 
     AppState& m_appState;
     State m_state = State::Loading;
-    bool m_helperMissing = false;
     FanGaugeRows m_fans;
     TemperatureFacts m_cpu;
     TemperatureFacts m_gpu;

@@ -3,7 +3,7 @@
 #include "Core/AppState.h"
 #include "Core/AssignIfChanged.h"
 #include "Core/PresetCaption.h"
-#include "UI/MainWindow/ControlStateObservation.h"
+#include "Core/PresetControlState.h"
 
 namespace kestrowind {
 namespace {
@@ -43,7 +43,7 @@ CaptionModel::CaptionModel(AppState& appState, QObject* parent)
     const PresetStore& presets = appState.presets();
     connect(&presets, &PresetStore::presetsChanged, this, &CaptionModel::update);
     connect(&presets, &PresetStore::activePresetIDChanged, this, &CaptionModel::update);
-    observeControlState(appState, *this, &CaptionModel::update);
+    connect(&appState.control(), &ControlState::changed, this, &CaptionModel::update);
 }
 
 void CaptionModel::update() {

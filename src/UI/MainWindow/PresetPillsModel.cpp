@@ -2,30 +2,19 @@
 
 #include "Core/AppState.h"
 #include "Core/AssignIfChanged.h"
-#include "UI/MainWindow/ControlStateObservation.h"
+#include "Core/PresetControlState.h"
 
 #include <algorithm>
 
 namespace kestrowind {
-namespace {
-
-QString currentHindrance(const AppState& appState) {
-    const PresetControlState state = ActivePresetState::current(appState);
-    return state.kind == PresetControlState::Kind::switchable ? QString()
-                                                              : state.status->text.string();
-}
-
-} // namespace
-
 PresetPillsModel::PresetPillsModel(AppState& appState, QObject* parent)
     : QObject(parent)
-    , m_appState(appState)
-    , m_hindrance(currentHindrance(appState)) {
+    , m_appState(appState) {
     const PresetStore& presets = appState.presets();
     connect(&presets, &PresetStore::presetsChanged, this, &PresetPillsModel::updatePills);
     connect(&presets, &PresetStore::slotOrderChanged, this, &PresetPillsModel::updatePills);
     connect(&presets, &PresetStore::activePresetIDChanged, this, &PresetPillsModel::updatePills);
-    observeControlState(appState, *this, &PresetPillsModel::updateHindrance);
+    connect(&appState.control(), &ControlState::changed, this, &PresetPillsModel::hindranceChanged);
 }
 
 void PresetPillsModel::setAvailableWidth(double width) {
@@ -67,9 +56,10 @@ void PresetPillsModel::updatePills() {
         Q_EMIT isActiveInOverflowChanged();
 }
 
-void PresetPillsModel::updateHindrance() {
-    if (assignIfChanged(m_hindrance, currentHindrance(m_appState)))
-        Q_EMIT hindranceChanged();
+QString PresetPillsModel::hindrance() const {
+    const PresetControlState state = ActivePresetState::current(m_appState);
+    return state.kind == PresetControlState::Kind::switchable ? QString()
+                                                              : state.status->text.string();
 }
 
 void PresetPillsModel::activate(const PillListModel& list, int row) {

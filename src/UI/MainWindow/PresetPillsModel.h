@@ -41,9 +41,9 @@ public:
     [[nodiscard]] static double overflowWidth() { return PresetPills::overflowWidth; }
     /// Of the active pill among the shown ones; 0 when the active slot has none.
     [[nodiscard]] int activeRow() const { return m_activeRow; }
-    [[nodiscard]] bool isSwitchable() const { return m_hindrance.isEmpty(); }
+    [[nodiscard]] bool isSwitchable() const { return hindrance().isEmpty(); }
     /// Why no preset can be chosen now; empty while one can.
-    [[nodiscard]] QString hindrance() const { return m_hindrance; }
+    [[nodiscard]] QString hindrance() const;
     /// The active slot has no pill of its own now.
     [[nodiscard]] bool isActiveInOverflow() const { return m_isActiveInOverflow; }
 
@@ -59,7 +59,6 @@ Q_SIGNALS:
 
 private:
     void updatePills();
-    void updateHindrance();
     void activate(const PillListModel& list, int row);
 
     AppState& m_appState;
@@ -68,7 +67,6 @@ private:
     double m_availableWidth = 0;
     double m_rowWidth = 0;
     int m_activeRow = 0;
-    QString m_hindrance;
     bool m_isActiveInOverflow = false;
 };
 

@@ -39,10 +39,7 @@ void MenuBarModel::setIsFollowing(bool isFollowing) {
             [this] { refreshPresets(); });
     connect(&m_appState.presets(), &PresetStore::activePresetIDChanged, context,
             [this] { refreshPresets(); });
-    connect(&m_appState.helper(), &HelperControlling::stateChanged, context,
-            [this] { refreshHelper(); });
-    connect(&m_appState.helper(), &HelperControlling::lastStatusChanged, context,
-            [this] { refreshHelper(); });
+    connect(&m_appState.control(), &ControlState::changed, context, [this] { refreshHelper(); });
     connect(&m_appState.engine(), &ControlEngine::quickBoostPercentChanged, context,
             [this] { refreshBoost(); });
     refreshReadings();
@@ -85,12 +82,11 @@ void MenuBarModel::refreshPresets() {
 }
 
 void MenuBarModel::refreshHelper() {
-    const auto status = m_appState.helper().lastStatus();
-    const Helper helper{
-        .isInstalled = m_appState.helper().isInstalled(),
-        .isTakingControl = status && status->phase == HelperControlPhase::unlocking &&
-                           !m_isBoostDragged && !m_boostRest.isActive(),
-        .isControlUnavailable = status && status->phase == HelperControlPhase::failed};
+    const ControlState::Facts& control = m_appState.control().facts();
+    const Helper helper{.isInstalled = !control.isHelperMissing(),
+                        .isTakingControl = control.isTakingControl() && !m_isBoostDragged &&
+                                           !m_boostRest.isActive(),
+                        .isControlUnavailable = control.hasFailed()};
     if (assignIfChanged(m_helper, helper))
         Q_EMIT helperChanged();
 }

@@ -1,21 +1,18 @@
 #include "UI/Settings/HelperSettings.h"
 
 #include "Core/AssignIfChanged.h"
-#include "Core/ControlWatch.h"
+#include "Core/ControlState.h"
 
 #include <QPointer>
 
 namespace kestrowind {
 
-HelperSettings::HelperSettings(HelperControlling& helper, const ControlWatch& watch,
+HelperSettings::HelperSettings(HelperControlling& helper, const ControlState& control,
                                HelperOperation& operation, std::chrono::milliseconds interval)
     : m_helper(helper)
-    , m_watch(watch)
+    , m_control(control)
     , m_operation(operation) {
-    connect(&helper, &HelperControlling::stateChanged, this, &HelperSettings::statusChanged);
-    connect(&watch, &ControlWatch::isDeniedChanged, this, &HelperSettings::statusChanged);
-    connect(&helper, &HelperControlling::lastStatusChanged, this,
-            &HelperSettings::lastStatusChanged);
+    connect(&control, &ControlState::changed, this, &HelperSettings::changed);
     connect(&operation, &HelperOperation::isWorkingChanged, this,
             &HelperSettings::isWorkingChanged);
     connect(&operation, &HelperOperation::errorMessageChanged, this,
@@ -32,21 +29,20 @@ HelperSettings::~HelperSettings() {
 }
 
 HelperStatusFacts HelperSettings::status() const {
-    return HelperStatusFacts::of(m_helper.state(), m_watch.isDenied());
+    return HelperStatusFacts::of(m_control.facts());
 }
 
 bool HelperSettings::hasFailure() const {
-    const auto status = m_helper.lastStatus();
-    return status && status->phase == HelperControlPhase::failed && status->lastError;
+    const ControlState::Facts& control = m_control.facts();
+    return control.hasFailed() && control.status->lastError;
 }
 
 QString HelperSettings::failure() const {
-    return hasFailure() ? QString::fromStdString(*m_helper.lastStatus()->lastError) : QString();
+    return hasFailure() ? QString::fromStdString(*m_control.facts().status->lastError) : QString();
 }
 
 bool HelperSettings::isUnlocking() const {
-    const auto status = m_helper.lastStatus();
-    return status && status->phase == HelperControlPhase::unlocking;
+    return m_control.facts().isTakingControl();
 }
 
 void HelperSettings::setSeen(bool isSeen) {

@@ -11,16 +11,16 @@
 
 namespace kestrowind {
 
-class ControlWatch;
+class ControlState;
 
 /// What the helper section shows. While somebody can see it, it keeps the helper's status fresh.
 class HelperSettings final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(kestrowind::HelperStatusFacts status READ status NOTIFY statusChanged FINAL)
-    Q_PROPERTY(bool isOutdated READ isOutdated NOTIFY lastStatusChanged FINAL)
-    Q_PROPERTY(bool hasFailure READ hasFailure NOTIFY lastStatusChanged FINAL)
-    Q_PROPERTY(QString failure READ failure NOTIFY lastStatusChanged FINAL)
-    Q_PROPERTY(bool isUnlocking READ isUnlocking NOTIFY lastStatusChanged FINAL)
+    Q_PROPERTY(kestrowind::HelperStatusFacts status READ status NOTIFY changed FINAL)
+    Q_PROPERTY(bool isOutdated READ isOutdated NOTIFY changed FINAL)
+    Q_PROPERTY(bool hasFailure READ hasFailure NOTIFY changed FINAL)
+    Q_PROPERTY(QString failure READ failure NOTIFY changed FINAL)
+    Q_PROPERTY(bool isUnlocking READ isUnlocking NOTIFY changed FINAL)
     Q_PROPERTY(bool isWorking READ isWorking NOTIFY isWorkingChanged FINAL)
     Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged FINAL)
     QML_ELEMENT
@@ -31,7 +31,8 @@ public:
     static constexpr std::chrono::milliseconds defaultInterval{2000};
 
     /// The references must outlive this.
-    HelperSettings(HelperControlling& helper, const ControlWatch& watch, HelperOperation& operation,
+    HelperSettings(HelperControlling& helper, const ControlState& control,
+                   HelperOperation& operation,
                    std::chrono::milliseconds interval = defaultInterval);
     ~HelperSettings() override;
 
@@ -52,8 +53,7 @@ public:
     void setSeen(bool isSeen);
 
 Q_SIGNALS:
-    void statusChanged();
-    void lastStatusChanged();
+    void changed();
     void isWorkingChanged();
     void errorMessageChanged();
 
@@ -61,7 +61,7 @@ private:
     QCoro::Task<void> askForStatus();
 
     HelperControlling& m_helper;
-    const ControlWatch& m_watch;
+    const ControlState& m_control;
     HelperOperation& m_operation;
     QTimer m_nextQuestion;
     bool m_isSeen = false;

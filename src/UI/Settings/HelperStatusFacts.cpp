@@ -7,8 +7,8 @@ namespace kestrowind {
 using namespace Qt::StringLiterals;
 using MessageTone::Tone;
 
-HelperStatusFacts HelperStatusFacts::of(HelperState state, bool isDenied) {
-    switch (state) {
+HelperStatusFacts HelperStatusFacts::of(const ControlState::Facts& control) {
+    switch (control.helper) {
     case HelperState::notInstalled:
         return {.symbolName = u"shield.slash.fill"_s,
                 .tone = Tone::Neutral,
@@ -16,7 +16,9 @@ HelperStatusFacts HelperStatusFacts::of(HelperState state, bool isDenied) {
                 .description = localized("settings.helper.status.notInstalled.description"),
                 .installTitle = localized("settings.helper.installButton"),
                 .wantsInstall = true};
-    case HelperState::installed:
+    case HelperState::installed: {
+        // Whatever its state says, it may do nothing of what it is asked.
+        const bool isDenied = control.isDenied;
         return {.symbolName =
                     isDenied ? u"exclamationmark.triangle.fill"_s : u"checkmark.seal.fill"_s,
                 .tone = isDenied ? Tone::Warning : Tone::Good,
@@ -26,6 +28,7 @@ HelperStatusFacts HelperStatusFacts::of(HelperState state, bool isDenied) {
                                         : localized("settings.helper.status.installed.description"),
                 .installTitle = localized("settings.helper.reinstallButton"),
                 .uninstallTitle = localized("settings.helper.uninstallButton")};
+    }
     case HelperState::unreachable:
         return {.symbolName = u"exclamationmark.triangle.fill"_s,
                 .tone = Tone::Warning,

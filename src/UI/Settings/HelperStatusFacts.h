@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Core/HelperControlling.h"
+#include "Core/ControlState.h"
 #include "UI/DesignSystem/MessageTone.h"
 
 #include <QObject>
@@ -32,8 +32,7 @@ public:
 
     bool operator==(const HelperStatusFacts&) const = default;
 
-    /// `isDenied`: the helper does nothing of what it is asked, whatever its state says.
-    [[nodiscard]] static HelperStatusFacts of(HelperState state, bool isDenied);
+    [[nodiscard]] static HelperStatusFacts of(const ControlState::Facts& control);
 };
 
 } // namespace kestrowind

@@ -3,7 +3,7 @@
 namespace kestrowind {
 
 SettingsModel::SettingsModel(const SettingsServices& services)
-    : m_helper(services.helper, services.controlWatch, services.helperOperation)
+    : m_helper(services.helper, services.control, services.helperOperation)
     , m_fanBoost(services.userDefaults)
     , m_general(services.userDefaults, services.loginItem)
     , m_notifications(services.userDefaults)

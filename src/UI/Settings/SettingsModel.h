@@ -16,7 +16,7 @@ namespace kestrowind {
 /// What the settings work on. All of it must outlive the model.
 struct SettingsServices {
     HelperControlling& helper;
-    const ControlWatch& controlWatch;
+    const ControlState& control;
     HelperOperation& helperOperation;
     UserDefaults& userDefaults;
     LoginItem& loginItem;

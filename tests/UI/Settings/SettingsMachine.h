@@ -1,7 +1,10 @@
 #pragma once
 
-#include "Core/ControlWatch.h"
+#include "Core/ControlEngine.h"
+#include "Core/ControlState.h"
+#include "Core/PresetStore.h"
 #include "Core/PreviewHelperClient.h"
+#include "Core/TelemetryStore.h"
 #include "Platform/LoginItem.h"
 #include "Shared/HelperShared/HelperConstants.h"
 #include "Support/FakeSystemInformation.h"
@@ -96,7 +99,7 @@ struct SettingsMachine {
 
     [[nodiscard]] SettingsServices services() {
         return {.helper = helper,
-                .controlWatch = watch,
+                .control = control,
                 .helperOperation = operation,
                 .userDefaults = *defaults,
                 .loginItem = loginItem,
@@ -106,7 +109,11 @@ struct SettingsMachine {
     TestHome home;
     std::unique_ptr<UserDefaults> defaults = home.defaults();
     WaitingHelper helper;
-    ControlWatch watch{std::chrono::milliseconds(20)};
+    TelemetryStore telemetry{*defaults, SMCUserClientFactory()};
+    PresetStore presets{2, *defaults, {.folder = home.path()}};
+    ControlEngine engine{telemetry, presets, helper, &std::chrono::system_clock::now,
+                         std::chrono::milliseconds(20)};
+    ControlState control{helper, engine};
     HelperOperation operation{helper};
     FakeLoginItem loginItem;
     FakeSystemInformation information;

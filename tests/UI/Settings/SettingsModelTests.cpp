@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 TEST(HelperSettings, RunsOneOperationAtATimeAndShowsItsFailureUntilTheNext) {
     SettingsMachine machine;
     auto settings =
-        std::make_unique<HelperSettings>(machine.helper, machine.watch, machine.operation);
+        std::make_unique<HelperSettings>(machine.helper, machine.control, machine.operation);
     settings->install();
     EXPECT_TRUE(settings->isWorking());
     settings->install();
@@ -37,22 +37,22 @@ TEST(HelperSettings, RunsOneOperationAtATimeAndShowsItsFailureUntilTheNext) {
 
     // The screen is left and entered again while the password dialog is open.
     settings->install();
-    settings = std::make_unique<HelperSettings>(machine.helper, machine.watch, machine.operation);
+    settings = std::make_unique<HelperSettings>(machine.helper, machine.control, machine.operation);
     EXPECT_TRUE(settings->isWorking());
     settings.reset();
     machine.helper.endInstallation(
         std::unexpected(InstallError{InstallError::Kind::launchFailed, u"no runner"_s}));
-    settings = std::make_unique<HelperSettings>(machine.helper, machine.watch, machine.operation);
+    settings = std::make_unique<HelperSettings>(machine.helper, machine.control, machine.operation);
     EXPECT_EQ(settings->errorMessage(), u"no runner"_s);
     settings = nullptr;
-    settings = std::make_unique<HelperSettings>(machine.helper, machine.watch, machine.operation);
+    settings = std::make_unique<HelperSettings>(machine.helper, machine.control, machine.operation);
     EXPECT_EQ(settings->errorMessage(), QString()) << "it was seen";
 }
 
 TEST(HelperSettings, AsksForTheStatusAgainAndAgainWhileItIsSeen) {
     SettingsMachine machine;
     WaitingHelper& helper = machine.helper;
-    HelperSettings settings(helper, machine.watch, machine.operation, 20ms);
+    HelperSettings settings(helper, machine.control, machine.operation, 20ms);
     const auto nothingFollows = [&] {
         const int before = helper.questions;
         return !QTest::qWaitFor([&] { return helper.questions > before; }, 100);
@@ -89,15 +89,18 @@ TEST(HelperSettings, AsksForTheStatusAgainAndAgainWhileItIsSeen) {
 TEST(HelperSettings, DoesNotPraiseAHelperThatDoesNothing) {
     SettingsMachine machine;
     machine.helper.setState(HelperState::installed);
-    HelperSettings settings(machine.helper, machine.watch, machine.operation);
-    QSignalSpy changes(&settings, &HelperSettings::statusChanged);
+    HelperSettings settings(machine.helper, machine.control, machine.operation);
+    QSignalSpy changes(&settings, &HelperSettings::changed);
     EXPECT_EQ(settings.status().tone, MessageTone::Tone::Good);
+    const auto sample = [&](const std::vector<SMCFanReading>& fans) {
+        machine.telemetry.ingest({.timestamp = {}, .temperatures = {}, .fans = fans});
+    };
     ASSERT_TRUE(QTest::qWaitFor([&] {
-        machine.watch.expect();
+        sample({{.index = 0}});
         return settings.status().tone == MessageTone::Tone::Warning;
     }));
     EXPECT_EQ(settings.status().title, localized("settings.helper.status.denied.title"));
-    machine.watch.clear();
+    sample({});
     EXPECT_EQ(settings.status().tone, MessageTone::Tone::Good);
     EXPECT_EQ(changes.size(), 2);
 }
