@@ -137,13 +137,9 @@ void ControlEngine::setApplied(std::optional<HelperControlling::Targets> applied
     const auto isDriven = [](double target) { return target > 0; };
     if (applied && std::ranges::any_of(*applied, isDriven))
         m_watch.clear();
-    setEffectiveTargets(applied.value_or(HelperControlling::Targets()));
-    setIsOverriding(applied && !applied->empty());
-}
-
-void ControlEngine::setEffectiveTargets(const HelperControlling::Targets& targets) {
-    if (assignIfChanged(m_effectiveTargets, targets))
+    if (assignIfChanged(m_effectiveTargets, applied.value_or(HelperControlling::Targets())))
         Q_EMIT effectiveTargetsChanged();
+    setIsOverriding(!m_effectiveTargets.empty());
 }
 
 void ControlEngine::setIsOverriding(bool isOverriding) {

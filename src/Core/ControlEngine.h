@@ -76,7 +76,6 @@ private:
     void setRequestedPercents(const QList<double>& percents);
     /// Nothing, or an empty list, means that the application does not control.
     void setApplied(std::optional<HelperControlling::Targets> applied);
-    void setEffectiveTargets(const HelperControlling::Targets& targets);
     void setIsOverriding(bool isOverriding);
 
     TelemetryStore& m_telemetry;

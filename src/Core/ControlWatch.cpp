@@ -10,9 +10,7 @@ ControlWatch::ControlWatch(std::chrono::milliseconds patience) {
     m_patience.setInterval(patience);
     connect(&m_patience, &QTimer::timeout, this, [this] {
         // Who asked for nothing meanwhile stood still itself: the answers may be waiting.
-        if (m_sinceLastExpected.elapsed() >= m_patience.interval())
-            m_patience.start();
-        else
+        if (m_sinceLastExpected.elapsed() < m_patience.interval())
             setIsDenied(true);
     });
 }

@@ -136,44 +136,34 @@ void PresetStore::activateForSessionOnly(const std::optional<QUuid>& id) {
 }
 
 std::optional<FanPreset> PresetStore::addPreset(const QString& name) {
-    if (!canAddPreset())
-        return std::nullopt;
-    const FanPreset added{.id = QUuid::createUuid(),
-                          .name = name,
-                          .symbolName = u"fanblades"_s,
-                          .curves = QList<FanCurve>(m_fanCount, FanPreset::newPresetCurve()),
-                          .isBuiltIn = false};
-    append(added);
-    return added;
+    return append({.id = {},
+                   .name = name,
+                   .symbolName = u"fanblades"_s,
+                   .curves = QList<FanCurve>(m_fanCount, FanPreset::newPresetCurve())});
 }
 
 std::optional<FanPreset> PresetStore::duplicate(const FanPreset& source) {
-    if (!canAddPreset())
-        return std::nullopt;
     FanPreset copy = source;
-    copy.id = QUuid::createUuid();
     copy.name = localized("presets.duplicate.name").arg(source.name);
-    copy.isBuiltIn = false;
-    append(copy);
-    return copy;
+    return append(std::move(copy));
 }
 
 std::optional<FanPreset> PresetStore::adopt(FanPreset preset) {
+    while (std::ranges::find(m_presets, preset.name, &FanPreset::name) != m_presets.end())
+        preset.name = localized("presets.duplicate.name").arg(preset.name);
+    return append(std::move(preset));
+}
+
+std::optional<FanPreset> PresetStore::append(FanPreset preset) {
     if (!canAddPreset())
         return std::nullopt;
     preset.id = QUuid::createUuid();
     preset.isBuiltIn = false;
-    while (std::ranges::find(m_presets, preset.name, &FanPreset::name) != m_presets.end())
-        preset.name = localized("presets.duplicate.name").arg(preset.name);
-    append(preset);
-    return preset;
-}
-
-void PresetStore::append(const FanPreset& added) {
-    m_presets.append(added);
+    m_presets.append(preset);
     reconcileSlots();
     save();
     Q_EMIT presetsChanged();
+    return preset;
 }
 
 void PresetStore::update(const FanPreset& updated) {

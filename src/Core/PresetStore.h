@@ -56,8 +56,8 @@ public:
     /// Absent when there are as many user presets as there may be.
     std::optional<FanPreset> addPreset(const QString& name);
     std::optional<FanPreset> duplicate(const FanPreset& preset);
-    /// Takes in a preset that was made elsewhere: as one of the user's own, with an identifier of
-    /// its own, and named as a duplicate would be while its name is taken.
+    /// Takes in a preset that was made elsewhere, named as a duplicate would be while its name is
+    /// taken.
     std::optional<FanPreset> adopt(FanPreset preset);
     /// Replaces the stored preset of the same identifier; ignored for built-ins and unknown ones.
     void update(const FanPreset& preset);
@@ -82,7 +82,8 @@ private:
     [[nodiscard]] QList<FanPreset> loadUserPresets();
     [[nodiscard]] QList<PresetSlot> savedSlotOrder() const;
     void restoreActivePreset();
-    void append(const FanPreset& preset);
+    /// As one of the user's own, with an identifier of its own.
+    std::optional<FanPreset> append(FanPreset preset);
     void reconcileSlots();
     void save();
     void persistSlotOrder();
