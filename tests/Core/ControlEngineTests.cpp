@@ -1,6 +1,6 @@
-#include "Core/AppState.h"
 #include "Core/ControlArithmetic.h"
 #include "Core/ControlEngine.h"
+#include "Core/ControlState.h"
 #include "Core/PresetControlState.h"
 #include "Core/PresetStore.h"
 #include "Core/PreviewHelperClient.h"
@@ -60,8 +60,8 @@ TEST(ControlArithmetic, TurnsDemandIntoSpeed) {
         EXPECT_EQ(ControlArithmetic::target(row.percent, fan(0, row.minRPM, row.maxRPM)),
                   row.expected)
             << row.percent << " of " << row.minRPM << " to " << row.maxRPM;
-    const SMCFanReading fans[] = {fan(0, 1000, 2000), fan(1, 1000, 3000)};
-    EXPECT_EQ(ControlArithmetic::targets({0, 30, 50}, fans), std::vector<double>({0, 1600}));
+    const SMCFanReading fans[] = {fan(0, nan, 2000), fan(1, 1000, 3000)};
+    EXPECT_EQ(ControlArithmetic::targets({30, 30, 50}, fans), std::vector<double>({0, 1600}));
 
     const auto cool = FanPreset::builtIns(1)[0];
     EXPECT_EQ(ControlArithmetic::requestedPercents(cool, 45, 10, 2), QList<double>({15, 15}));
@@ -74,6 +74,7 @@ class RecordingHelper final : public PreviewHelperClient {
 public:
     QStringList log;
     std::optional<Targets> answer = Targets{1};
+    bool answersStatus = false;
     std::shared_ptr<QPromise<void>> gate; ///< when set, setTargets waits for it
 
     QCoro::Task<std::optional<Targets>> setTargets(Targets targets) override {
@@ -92,7 +93,7 @@ public:
     }
     QCoro::Task<std::optional<HelperStatus>> fetchStatus() override {
         log.append(u"status"_s);
-        co_return std::nullopt;
+        co_return answersStatus ? std::optional(HelperStatus()) : std::nullopt;
     }
     QStringList takeLog() { return std::exchange(log, {}); }
 };
@@ -113,8 +114,8 @@ protected:
     PresetStore presets{2, *defaults, {.folder = home.path()}};
     RecordingHelper helper;
     std::chrono::system_clock::time_point clock;
-    std::unique_ptr<ControlEngine> engine =
-        std::make_unique<ControlEngine>(telemetry, presets, helper, [this] { return clock; });
+    std::unique_ptr<ControlEngine> engine = std::make_unique<ControlEngine>(
+        telemetry, presets, helper, [this] { return clock; }, 20ms);
     const std::vector<SMCFanReading> twoFans{fan(0, 1000, 2000), fan(1, 1000, 3000)};
 };
 
@@ -122,6 +123,10 @@ TEST_F(ControlEngineTest, DrivesTheFansByTheActivePresetAndHandsThemBack) {
     sample(45, twoFans);
     EXPECT_EQ(helper.takeLog(), QStringList{u"status"_s});
     EXPECT_FALSE(engine->isOverriding());
+    int changes = 0;
+    for (const auto signal :
+         {&ControlEngine::requestedPercentsChanged, &ControlEngine::effectiveTargetsChanged})
+        QObject::connect(engine.get(), signal, &telemetry, [&] { ++changes; });
 
     presets.setActivePresetID(FanPreset::coolID);
     helper.answer = Targets{1150, 1300};
@@ -130,6 +135,8 @@ TEST_F(ControlEngineTest, DrivesTheFansByTheActivePresetAndHandsThemBack) {
     EXPECT_EQ(engine->requestedPercents(), QList<double>({15, 15}));
     EXPECT_EQ(engine->effectiveTargets(), Targets({1150, 1300}));
     EXPECT_TRUE(engine->isOverriding());
+    sample(45, twoFans);
+    EXPECT_EQ(changes, 2) << "each once";
 
     // Two seconds later the curve still sees 44 degrees of the 45 there were.
     sample(30, twoFans);
@@ -145,36 +152,89 @@ TEST_F(ControlEngineTest, DrivesTheFansByTheActivePresetAndHandsThemBack) {
     EXPECT_EQ(helper.takeLog(), QStringList{u"status"_s}) << "released once is enough";
 }
 
-TEST_F(ControlEngineTest, DoesNotPushWithoutFansOrHelper) {
+TEST_F(ControlEngineTest, DrivesNothingWithoutFansHelperOrAnswer) {
+    struct Row {
+        const char* what;
+        HelperState state;
+        std::optional<Targets> answer;
+        std::vector<SMCFanReading> fans;
+        qsizetype calls;
+        bool isOverriding;
+    };
     engine->setQuickBoostPercent(50);
-    sample(50, twoFans);
-    EXPECT_TRUE(engine->isOverriding());
-    helper.takeLog();
-    sample(50, {});
-    EXPECT_FALSE(engine->isOverriding());
-    EXPECT_TRUE(engine->requestedPercents().isEmpty());
-    helper.setState(HelperState::notInstalled);
-    sample(50, twoFans);
-    EXPECT_TRUE(helper.takeLog().isEmpty());
-    helper.setState(HelperState::unreachable);
-    sample(50, twoFans);
-    EXPECT_EQ(helper.takeLog().size(), 2);
-}
-
-TEST_F(ControlEngineTest, StopsOverridingWhenTheHelperAppliesNothing) {
-    engine->setQuickBoostPercent(50);
-    for (const std::optional<Targets>& answer : {std::optional<Targets>(), {Targets()}}) {
+    for (const auto& [what, state, answer, fans, calls, isOverriding] : {
+             Row{"no fans", HelperState::installed, Targets{1}, {}, 0, false},
+             Row{"no helper", HelperState::notInstalled, Targets{1}, twoFans, 0, false},
+             Row{"last call failed", HelperState::unreachable, Targets{1}, twoFans, 2, true},
+             Row{"no answer", HelperState::installed, std::nullopt, twoFans, 2, false},
+             Row{"applies nothing", HelperState::installed, Targets(), twoFans, 2, false},
+         }) {
+        helper.setState(HelperState::installed);
         helper.answer = Targets{1500, 2000};
         sample(50, twoFans);
         EXPECT_TRUE(engine->isOverriding());
+        helper.takeLog();
+        helper.setState(state);
         helper.answer = answer;
-        sample(50, twoFans);
-        EXPECT_FALSE(engine->isOverriding());
-        EXPECT_TRUE(engine->effectiveTargets().empty());
+        sample(50, fans);
+        EXPECT_EQ(engine->isOverriding(), isOverriding) << what;
+        EXPECT_EQ(helper.takeLog().size(), calls) << what;
+        EXPECT_EQ(engine->requestedPercents().size(), calls) << what;
+        EXPECT_TRUE(calls == 0 || engine->effectiveTargets() == answer.value_or(Targets())) << what;
     }
 }
 
+TEST_F(ControlEngineTest, KnowsWhenNothingIsDoneOfWhatItAsks) {
+    struct Row {
+        const char* what;
+        double boost;
+        std::optional<Targets> answer;
+        bool answersStatus;
+        bool isDenied;
+    };
+    const auto denies = [&] {
+        sample(50, twoFans);
+        return engine->watch().isDenied();
+    };
+    for (const auto& [what, boost, answer, answersStatus, isDenied] : {
+             Row{"asked for nothing, silent", 0, {}, false, true},
+             Row{"asked for nothing, answers", 0, {}, true, false},
+             Row{"answers, and applies nothing", 50, {}, true, true},
+             Row{"applies zeros", 50, Targets{0, 0}, true, true},
+             Row{"applies, and tells no more", 50, Targets{0, 9}, false, false},
+         }) {
+        engine->setQuickBoostPercent(boost);
+        helper.answer = answer;
+        helper.answersStatus = answersStatus;
+        EXPECT_EQ(QTest::qWaitFor(denies, 100), isDenied) << what;
+        sample(50, {});
+        EXPECT_FALSE(engine->watch().isDenied()) << "asked for nothing any more";
+    }
+    // Who asks for nothing meanwhile stood still itself.
+    engine->setQuickBoostPercent(0);
+    helper.answersStatus = false;
+    sample(50, twoFans);
+    QTest::qWait(60);
+    EXPECT_FALSE(denies());
+    EXPECT_TRUE(QTest::qWaitFor(denies, 100));
+
+    ControlWatch watch(100ms);
+    watch.expect();
+    QTest::qWait(60);
+    watch.clear();
+    QElapsedTimer sinceExpected;
+    sinceExpected.start();
+    while (!watch.isDenied()) {
+        watch.expect();
+        QTest::qWait(10);
+    }
+    EXPECT_GE(sinceExpected.elapsed(), 99) << "the patience begins anew";
+}
+
 TEST_F(ControlEngineTest, PushesOnceAfterABurstOfChanges) {
+    engine->pushSoon();
+    QTest::qWait(150);
+    EXPECT_TRUE(helper.takeLog().isEmpty()) << "nothing is known of the fans";
     sample(50, twoFans);
     helper.takeLog();
     QElapsedTimer timer;
@@ -245,17 +305,31 @@ TEST(PresetControlState, TheFirstFactThatAppliesWins) {
     }
 }
 
-TEST_F(ControlEngineTest, CountsAsBoostingOnlyWhileTheHelperApplies) {
-    AppState state(std::make_unique<TelemetryStore>(
-                       *defaults, [] { return std::make_shared<SimulatedSMC>(); }),
-                   std::make_unique<PreviewHelperClient>(), nullptr, std::move(engine));
-    state.engine().setQuickBoostPercent(30);
+TEST_F(ControlEngineTest, TheStateOfControlFollowsEachOfItsFacts) {
+    const ControlState control(helper, *engine);
+    int changes = 0;
+    QObject::connect(&control, &ControlState::changed, &telemetry, [&] { ++changes; });
+    EXPECT_EQ(control.facts(), ControlState::Facts{.helper = HelperState::installed});
+    helper.setState(HelperState::unreachable);
+    EXPECT_EQ(control.facts().helper, HelperState::unreachable);
+    helper.setLastStatus(HelperStatus{.phase = HelperControlPhase::unlocking});
+    EXPECT_TRUE(control.facts().isTakingControl());
+    EXPECT_EQ(changes, 2);
     helper.answer = std::nullopt;
+    engine->setQuickBoostPercent(30);
     sample(50, twoFans);
-    EXPECT_EQ(ActivePresetState::current(state), PresetControlState{});
+    EXPECT_EQ(changes, 2) << "boosting only while the helper applies it";
     helper.answer = Targets{1300, 1600};
     sample(50, twoFans);
-    EXPECT_EQ(ActivePresetState::current(state).status->symbolName, u"bolt.fill"_s);
+    EXPECT_TRUE(control.facts().isQuickBoosting);
+    engine->setQuickBoostPercent(0);
+    EXPECT_FALSE(control.facts().isQuickBoosting);
+    EXPECT_EQ(changes, 4);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        sample(50, twoFans);
+        return control.facts().isDenied;
+    }));
+    EXPECT_EQ(changes, 5);
 }
 
 } // namespace

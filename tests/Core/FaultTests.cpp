@@ -3,7 +3,6 @@
 #include "Platform/AdminScriptRunner.h"
 #include "Shared/HelperShared/HelperConstants.h"
 #include "Shared/SMCKit/FourCC.h"
-#include "Shared/SMCKit/SMCCodec.h"
 #include "Simulator/SimulatedSMC.h"
 #include "Support/FakeSystemInformation.h"
 #include "Support/FaultySMC.h"
@@ -15,11 +14,8 @@
 #include <QCoroTask>
 #include <QElapsedTimer>
 #include <QLoggingCategory>
-#include <QPromise>
 #include <QTest>
-#include <gmock/gmock.h>
-
-#include <atomic>
+#include <gtest/gtest.h>
 
 // Everything between the SMC and the helper, with one thing broken at a time. Each case ends with
 // the machine mended, control regained, and the fans handed back by quitting.
@@ -61,32 +57,12 @@ private:
     qint64 m_longest = 0;
 };
 
-/// A password dialog that nobody answers, until the test does.
-class HangingScriptRunner final : public AdminScriptRunner {
-public:
-    HangingScriptRunner() { m_promise.start(); }
-    QFuture<ScriptOutcome> run(const QString& /*appleScript*/) override {
-        isAsking = true;
-        return m_promise.future();
-    }
-    void cancel() {
-        m_promise.addResult(ScriptOutcome{ScriptOutcome::Kind::failed, u"User cancelled."_s});
-        m_promise.finish();
-    }
-    bool isAsking = false;
-
-private:
-    QPromise<ScriptOutcome> m_promise;
-};
-
 /// The whole of the application but its windows, on a machine with two fans.
 class RunningState {
 public:
     RunningState() {
         information.files = {QString::fromLatin1(HelperConstants::daemonPlistPath),
                              QString::fromLatin1(HelperConstants::helperInstallPath)};
-        information.resources = {{u"KestrowindHelper"_s, u"/h"_s},
-                                 {u"app.kestrowind.helper.plist"_s, u"/p"_s}};
         smc->setByte("FNum", 2);
         for (const char* fan : {"F0", "F1"}) {
             for (const char* suffix : {"Ac", "Tg", "Mn"})
@@ -106,7 +82,7 @@ public:
         auto presets = std::make_unique<PresetStore>(2, *defaults,
                                                      PresetStore::Storage{.folder = home.path()});
         auto engine = std::make_unique<ControlEngine>(
-            *telemetry, *presets, *client, [this] { return clock(); }, controlPatience);
+            *telemetry, *presets, *client, &std::chrono::system_clock::now, controlPatience);
         state = std::make_unique<AppState>(std::move(telemetry), std::move(client),
                                            std::move(presets), std::move(engine));
         // A demand of its own, since without a temperature no curve asks for anything.
@@ -145,11 +121,10 @@ public:
     TestHome home;
     std::unique_ptr<UserDefaults> defaults = home.defaults();
     FakeSystemInformation information;
-    HangingScriptRunner scriptRunner;
+    ProcessScriptRunner scriptRunner{QString()};
     std::shared_ptr<SimulatedSMC> smc = std::make_shared<SimulatedSMC>();
     std::shared_ptr<FaultySMC> kernel = std::make_shared<FaultySMC>(smc);
     ScriptedHelper helper{callTimeout};
-    std::function<std::chrono::system_clock::time_point()> clock = &std::chrono::system_clock::now;
     int samples = 0;
     std::unique_ptr<AppState> state;
 };
@@ -226,34 +201,6 @@ TEST_F(FaultTest, EveryCallToTheSMCMayFailFromTheStartOrLater) {
     }
 }
 
-TEST_F(FaultTest, AnSMCThatDoesNotOpenLeavesEverythingElseAlive) {
-    const std::function<void(SimulatedSMC&)> faults[] = {
-        [](SimulatedSMC& smc) { smc.setServices(SimulatedSMC::Services::none); },
-        [](SimulatedSMC& smc) { smc.setOpenResult(static_cast<std::int32_t>(0xe00002c5)); },
-    };
-    for (const auto& fault : faults) {
-        RunningState mac;
-        fault(*mac.smc);
-        mac.start();
-        QTest::qWait(200); // past the delay of a push
-        EXPECT_EQ(mac.samples, 0);
-        EXPECT_EQ(mac.helper.connectionsMade, 0);
-        mac.quit();
-    }
-}
-
-TEST_F(FaultTest, ASlowSMCDelaysNobody) {
-    expectNoStalls([] {
-        RunningState mac;
-        mac.start();
-        ASSERT_TRUE(mac.regainsControl());
-        mac.smc->setCallObserver([](const SMCParamStruct&) { QThread::msleep(60); });
-        QTest::qWait(150);
-        mac.quit();
-        EXPECT_FALSE(mac.helper.isHolding);
-    });
-}
-
 TEST_F(FaultTest, FansThatVanishAreTakenAgainWhenTheyComeBack) {
     using Fault = SimulatedSMC::Fault;
     RunningState mac;
@@ -270,28 +217,6 @@ TEST_F(FaultTest, FansThatVanishAreTakenAgainWhenTheyComeBack) {
     mac.smc->setByte("FNum", 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return mac.helper.targets.size() == 1; }, limit));
     mac.smc->setByte("FNum", 2);
-    EXPECT_TRUE(mac.regainsControl());
-    mac.quit();
-}
-
-TEST_F(FaultTest, NoSpeedThatAFanReportsReachesTheHelperUnchecked) {
-    constexpr float inf = std::numeric_limits<float>::infinity();
-    RunningState mac;
-    mac.start();
-    ASSERT_TRUE(mac.regainsControl());
-    for (const char* suffix : {"Ac", "Tg", "Mn", "Mx"}) {
-        for (const float speed :
-             {std::numeric_limits<float>::quiet_NaN(), inf, -inf, 1e-42F, -1.0F, 3e38F, 0.0F}) {
-            SCOPED_TRACE(testing::Message() << suffix << " is " << speed);
-            const auto bytes = encodeFloat(speed);
-            mac.smc->holdValue(std::string("F0") + suffix, {bytes.begin(), bytes.end()});
-            ASSERT_TRUE(mac.takesSamples(3));
-            EXPECT_FALSE(mac.helper.wasAskedNonsense);
-            EXPECT_EQ(mac.helper.targets.at(1), 6000) << "the other fan is driven all the same";
-            EXPECT_EQ(mac.state->helper().state(), HelperState::installed);
-            mac.smc->setFault(std::string("F0") + suffix, std::nullopt);
-        }
-    }
     EXPECT_TRUE(mac.regainsControl());
     mac.quit();
 }
@@ -331,22 +256,6 @@ TEST_F(FaultTest, AHelperMayFailAtEachStepOfAPushAndOfQuitting) {
     }
 }
 
-TEST_F(FaultTest, ASilentHelperIsOwedNoMoreThanTheTimeOutLetsThrough) {
-    RunningState mac;
-    mac.helper.answers = {{Method::setTargets, Answer::silent}, {Method::status, Answer::silent}};
-    const SMCFanReading fan{.minRPM = 1200, .maxRPM = 6000};
-    for (int sample = 0; sample < 60; ++sample) {
-        mac.state->telemetry().ingest({.timestamp = mac.clock(), .fans = {fan, fan}});
-        QTest::qWait(interval.count());
-    }
-    // Two by the clock, and one because the user had just asked for something.
-    EXPECT_LE(mac.helper.mostWaiting, 3);
-    mac.helper.answers.clear();
-    mac.start();
-    EXPECT_TRUE(mac.regainsControl());
-    mac.quit();
-}
-
 TEST_F(FaultTest, AHelperThatDiesAgainAndAgainIsFoundAgain) {
     RunningState mac;
     mac.start();
@@ -358,39 +267,6 @@ TEST_F(FaultTest, AHelperThatDiesAgainAndAgainIsFoundAgain) {
     }
     EXPECT_TRUE(mac.regainsControl());
     EXPECT_EQ(mac.helper.connectionsMade, 1) << "an interrupted connection is kept";
-    mac.quit();
-}
-
-TEST_F(FaultTest, APasswordThatNobodyTypesHoldsNothingUp) {
-    RunningState mac;
-    mac.start();
-    ASSERT_TRUE(mac.regainsControl());
-    auto installation = mac.state->helper().install();
-    ASSERT_TRUE(mac.scriptRunner.isAsking);
-    mac.helper.restart();
-    EXPECT_TRUE(mac.regainsControl()) << "behind the dialog";
-    mac.quit();
-    mac.state.reset();
-    mac.scriptRunner.cancel();
-    EXPECT_FALSE(QCoro::waitFor(std::move(installation)));
-}
-
-TEST_F(FaultTest, AClockThatJumpsMovesNoFan) {
-    RunningState mac;
-    mac.state->presets().setActivePresetID(FanPreset::coolID);
-    mac.state->engine().setQuickBoostPercent(0);
-    std::atomic<std::chrono::seconds> offset{0s};
-    mac.clock = [&] { return std::chrono::system_clock::now() + offset.load(); };
-    mac.start();
-    const auto isDriven = [&] { return mac.state->engine().isOverriding(); };
-    ASSERT_TRUE(QTest::qWaitFor(isDriven, limit));
-    const auto before = mac.helper.targets;
-    for (const auto jump : {3600s, 0s, -3600s, 1'800'000'000s, 0s}) {
-        offset = jump;
-        ASSERT_TRUE(mac.takesSamples(3));
-        EXPECT_TRUE(isDriven());
-        EXPECT_EQ(mac.helper.targets, before) << jump.count();
-    }
     mac.quit();
 }
 

@@ -31,15 +31,21 @@ public:
     QStringList scripts;
     ScriptOutcome outcome;
     std::function<void()> effect = [] {};
+    bool isAsking = false; ///< a password dialog that nobody answers before the test does
+    QPromise<ScriptOutcome> dialog;
 
     QFuture<ScriptOutcome> run(const QString& appleScript) override {
         scripts.append(appleScript);
+        dialog = {};
+        dialog.start();
+        if (!isAsking)
+            answer();
+        return dialog.future();
+    }
+    void answer() {
         effect();
-        QPromise<ScriptOutcome> promise;
-        promise.start();
-        promise.addResult(outcome);
-        promise.finish();
-        return promise.future();
+        dialog.addResult(outcome);
+        dialog.finish();
     }
 };
 
@@ -115,10 +121,37 @@ TEST_F(HelperClientTest, AnswersOnceByReplyTimeOutOrDestruction) {
     auto first = client->setTargets({1});
     auto second = client->fetchStatus();
     const auto late = helper.calls.back().replyStatus;
+    timer.start();
     client.reset();
     EXPECT_EQ(QCoro::waitFor(std::move(first)), std::nullopt);
     EXPECT_EQ(QCoro::waitFor(std::move(second)), std::nullopt);
+    EXPECT_LT(timer.elapsed(), 50) << "not by their time-outs";
     late(QByteArray("{}"));
+
+    // A reply that is on its way meets nobody.
+    makeClient();
+    auto third = client->fetchStatus();
+    helper.calls.back().replyStatus(document({.version = "1.0.2"}));
+    client.reset();
+    EXPECT_EQ(QCoro::waitFor(std::move(third)), std::nullopt);
+}
+
+TEST_F(HelperClientTest, LosesOnlyTheConnectionThatWasInvalidated) {
+    auto first = client->fetchStatus();
+    const auto lost = helper.invalidationHandler;
+    lost();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(helper.connectionsOpen, 0);
+    auto second = client->fetchStatus();
+    lost();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(helper.connectionsOpen, 1) << "the newer one";
+    client.reset();
+    helper.invalidationHandler();
+    helper.calls.back().error(u"late"_s);
+    QCoreApplication::processEvents();
+    QCoro::waitFor(std::move(first));
+    QCoro::waitFor(std::move(second));
 }
 
 TEST_F(HelperClientTest, IsUnreachableFromAConnectionErrorToTheNextStatus) {
@@ -165,11 +198,16 @@ TEST_F(HelperClientTest, InstallsThroughTheScriptRunner) {
     using Kind = InstallError::Kind;
     machine.files.clear();
     makeClient();
-    EXPECT_EQ(QCoro::waitFor(client->install()).error().kind, Kind::resourcesMissing);
+    const QHash<QString, QString> resources{{u"KestrowindHelper"_s, u"/a b/it's"_s},
+                                            {u"app.kestrowind.helper.plist"_s, u"/p"_s}};
+    for (const QString& missing : resources.keys()) {
+        machine.resources = resources;
+        machine.resources.remove(missing);
+        EXPECT_EQ(QCoro::waitFor(client->install()).error().kind, Kind::resourcesMissing);
+    }
     EXPECT_THAT(runner.scripts, IsEmpty());
 
-    machine.resources = {{u"KestrowindHelper"_s, u"/a b/it's"_s},
-                         {u"app.kestrowind.helper.plist"_s, u"/p"_s}};
+    machine.resources = resources;
     // It may have come far: the last of its commands starts the job.
     runner.effect = [&] { machine.files = {plist, executable}; };
     runner.outcome = {ScriptOutcome::Kind::failed, u"User cancelled."_s};
@@ -183,6 +221,11 @@ TEST_F(HelperClientTest, InstallsThroughTheScriptRunner) {
     EXPECT_TRUE(QCoro::waitFor(client->install()));
     EXPECT_EQ(client->state(), HelperState::installed);
     EXPECT_EQ(helper.methods(), QStringList{u"status"_s});
+    helper.calls.back().error(u"gone"_s);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(client->state(), HelperState::unreachable);
+    EXPECT_TRUE(QCoro::waitFor(client->install()));
+    EXPECT_EQ(client->state(), HelperState::installed) << "which it says itself";
 }
 
 TEST_F(HelperClientTest, UninstallsWhateverGoesWrong) {
@@ -196,6 +239,30 @@ TEST_F(HelperClientTest, UninstallsWhateverGoesWrong) {
     runner.effect = [&] { machine.files.clear(); };
     QCoro::waitFor(client->uninstall());
     EXPECT_EQ(client->state(), HelperState::notInstalled);
+}
+
+TEST_F(HelperClientTest, APasswordThatNobodyTypesHoldsNothingUp) {
+    machine.resources = {{u"KestrowindHelper"_s, u"/h"_s},
+                         {u"app.kestrowind.helper.plist"_s, u"/p"_s}};
+    runner.isAsking = true;
+    for (const bool isClientGone : {false, true}) {
+        auto installation = client->install();
+        auto targets = client->setTargets({1200});
+        helper.calls.back().replyTargets({1200});
+        EXPECT_EQ(QCoro::waitFor(std::move(targets)), Targets{1200}) << "behind the dialog";
+        if (isClientGone)
+            client.reset();
+        runner.answer();
+        EXPECT_TRUE(QCoro::waitFor(std::move(installation)));
+    }
+    makeClient();
+    auto removal = client->uninstall();
+    helper.calls.back().replyBool(true);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(runner.scripts.size(), 3);
+    client.reset();
+    runner.answer();
+    QCoro::waitFor(std::move(removal));
 }
 
 // What is done with an administrator's password.

@@ -42,19 +42,15 @@ std::optional<bool> traced(const std::function<void()>& deed, const AtStop& atSt
     if (WIFEXITED(status))
         return std::nullopt;
     ::ptrace(PTRACE_SETOPTIONS, child, nullptr, PTRACE_O_TRACESYSGOOD);
-    int signal = 0;
-    for (;;) {
+    for (int signal = 0;;) {
         ::ptrace(PTRACE_SYSCALL, child, nullptr, signal);
         ::waitpid(child, &status, 0);
         if (WIFEXITED(status) || WIFSIGNALED(status))
             return WIFEXITED(status) && WEXITSTATUS(status) == 0;
         const bool isAtCall = WSTOPSIG(status) == (SIGTRAP | 0x80);
         signal = isAtCall ? 0 : WSTOPSIG(status);
-        if (isAtCall && !atStop(child)) {
+        if (isAtCall && !atStop(child))
             ::kill(child, SIGKILL);
-            ::waitpid(child, &status, 0);
-            return false;
-        }
     }
 }
 

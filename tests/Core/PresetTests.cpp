@@ -1,9 +1,12 @@
 #include "Core/CanonicalUuid.h"
+#include "Core/LocalizedText.h"
 #include "Core/PresetCoding.h"
+#include "Core/PresetFile.h"
 #include "Core/PresetStore.h"
 #include "Support/QtPrinters.h"
+#include "Support/TestDefaults.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <limits>
 
@@ -11,6 +14,87 @@ namespace kestrowind {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+const FanCurve slope({{30, 0}, {45, 15}, {55, 30}});
+const FanCurve storedUnsorted = FanCurve::fromStoredPoints({{50, 40}, {40, 80}});
+
+TEST(FanCurve, EvaluatesToZeroBelowLinearBetweenAndFlatAbove) {
+    struct Row {
+        FanCurve curve;
+        double temperature;
+        double percent;
+    };
+    const Row rows[] = {
+        {FanCurve(), 50, 0},
+        {slope, 29.9, 0},
+        {slope, 30, 0},
+        {slope, 37.5, 7.5},
+        {slope, 45, 15},
+        {slope, 50, 22.5},
+        {slope, 80, 30},
+        {FanCurve({{20, 100}}), 19, 0},
+        {FanCurve({{20, 100}}), 20, 100},
+        {storedUnsorted, 45, 0},
+        {storedUnsorted, 50, 80},
+        {FanCurve({{30, 0}, {40, 10}, {40, 60}, {50, 70}}), 40, 60},
+    };
+    for (const Row& row : rows)
+        EXPECT_DOUBLE_EQ(row.curve.percent(row.temperature), row.percent) << row.temperature;
+    // Not a temperature: any answer will do, as long as there is one.
+    EXPECT_EQ(slope.percent(std::numeric_limits<double>::quiet_NaN()), 30);
+}
+
+TEST(FanCurve, SortsStablyAndInsertsWithinBounds) {
+    const QList<FanCurvePoint> sorted{{20, 1}, {40, 2}, {40, 3}, {60, 4}};
+    EXPECT_EQ(FanCurve({{40, 2}, {60, 4}, {40, 3}, {20, 1}}).points(), sorted);
+
+    FanCurve curve;
+    curve.insert({15, 120});
+    curve.insert({130, -5});
+    curve.insert({50, 33});
+    const QList<FanCurvePoint> inserted{{20, 100}, {50, 33}, {110, 0}};
+    EXPECT_EQ(curve.points(), inserted);
+}
+
+TEST(FanCurve, MovesAPointOnlyBetweenItsNeighbours) {
+    struct Row {
+        qsizetype index;
+        FanCurvePoint to;
+        FanCurvePoint expected;
+    };
+    const FanCurve original({{40, 10}, {45, 20}, {50, 30}});
+    const Row rows[] = {
+        {0, {5, 11}, {20, 11}}, {0, {90, 11}, {44, 11}},   {1, {70, 25}, {49, 25}},
+        {1, {0, 25}, {41, 25}}, {2, {130, 35}, {110, 35}},
+    };
+    for (const Row& row : rows) {
+        FanCurve curve = original;
+        curve.move(row.index, row.to);
+        EXPECT_EQ(curve.points().at(row.index), row.expected) << row.index << " " << row.to.tempC;
+    }
+
+    struct Crowd {
+        FanCurve curve;
+        qsizetype index;
+        double arrives;
+    };
+    const FanCurve crowded({{40, 1}, {40.5, 2}, {41, 3}});
+    const FanCurve narrow({{40, 1}, {40.5, 2}, {42, 3}});
+    for (const auto& [curve, index, arrives] :
+         {Crowd{original, -1, 40}, {original, 3, 40}, {crowded, 1, 40.5}, {narrow, 1, 41}}) {
+        FanCurve moved = curve;
+        moved.move(index, {60, 2});
+        EXPECT_EQ(moved.points().at(index == 1 ? 1 : 0).tempC, arrives) << index;
+    }
+}
+
+TEST(FanCurve, HasRoomTwoDegreesFromEveryPoint) {
+    FanCurve curve = slope;
+    curve.remove(1);
+    for (const auto& [temperature, hasRoom] :
+         {std::pair(28.1, false), {28, true}, {31.9, false}, {32, true}, {45, true}, {54, false}})
+        EXPECT_EQ(curve.hasRoomAt(temperature), hasRoom) << temperature;
+}
 
 const FanPreset custom{.id = QUuid::fromString(u"0f0e0d0c-0b0a-4908-8706-050403020100"_s),
                        .name = u"Wöchentlich \"laut\" 🌀"_s,
@@ -112,6 +196,86 @@ TEST(PresetSlot, ReconcilesASavedOrderWithWhatExists) {
     EXPECT_EQ(moved(cool, cool), order);
     EXPECT_EQ(moved(gone, cool), order);
     EXPECT_EQ(moved(cool, gone), order);
+}
+
+FanPreset madeBy(const QString& name, QList<FanCurvePoint> points) {
+    return {.id = QUuid::createUuid(),
+            .name = name,
+            .symbolName = u"wind"_s,
+            .curves = {FanCurve::fromStoredPoints(std::move(points))},
+            .isBuiltIn = false};
+}
+
+QByteArray encoded(const QList<FanPreset>& presets) {
+    return encodePresets(presets).value_or("");
+}
+
+TEST(PresetFile, TakesWhatItGaveAndNothingThatNoEditorMakes) {
+    const FanPreset good = madeBy(u"  Night \n"_s, {{20, 0}, {60, 33.5}, {60, 40}, {110, 100}});
+    const auto content = PresetFile::encode(good);
+    ASSERT_TRUE(content);
+    const auto again = PresetFile::decode(*content);
+    ASSERT_TRUE(again) << again.error().toStdString();
+    EXPECT_EQ(again->name, u"Night"_s);
+    EXPECT_EQ(again->curves, good.curves);
+    EXPECT_EQ(again->symbolName, u"wind"_s);
+
+    const auto builtIn = PresetFile::encode(FanPreset::builtIns(2).front());
+    ASSERT_TRUE(builtIn);
+    EXPECT_FALSE(PresetFile::decode(*builtIn)->isBuiltIn);
+    EXPECT_FALSE(PresetFile::encode(madeBy(u"x"_s, {{std::nan(""), 0}})));
+
+    const auto large = [](qsizetype curves, qsizetype points, qsizetype text) {
+        FanPreset preset = madeBy(QString(text, u'x'), QList<FanCurvePoint>(points, {50, 50}));
+        preset.curves = QList<FanCurve>(curves, preset.curves.front());
+        return preset;
+    };
+    FanPreset longSymbol = good;
+    longSymbol.symbolName = QString(PresetFile::longestText + 1, u'x');
+    using namespace PresetFile;
+    EXPECT_TRUE(decode(encoded({large(mostCurves, mostPoints, longestText)})));
+    struct Row {
+        QByteArray content;
+        const char* error;
+    };
+    for (const auto& [bad, key] : {
+             Row{"", "presets.import.notAPreset"},
+             Row{"[]", "presets.import.notAPreset"},
+             Row{*content + *content, "presets.import.notAPreset"},
+             Row{encoded({good, good}), "presets.import.several"},
+             Row{encoded({madeBy(u"\u0001"_s, {{50, 50}})}), "presets.import.noName"},
+             Row{encoded({large(0, 1, 1)}), "presets.import.noCurve"},
+             Row{encoded({large(mostCurves + 1, 1, 1)}), "presets.import.tooMuch"},
+             Row{encoded({large(1, mostPoints + 1, 1)}), "presets.import.tooMuch"},
+             Row{encoded({large(1, 1, longestText + 1)}), "presets.import.tooMuch"},
+             Row{encoded({longSymbol}), "presets.import.tooMuch"},
+             Row{encoded({madeBy(u"x"_s, {})}), "presets.import.noPoint"},
+             Row{*content + '\0', "presets.import.notAPreset"},
+             Row{encoded({madeBy(u"x"_s, {{19.9, 0}})}), "presets.import.pointOutOfRange"},
+             Row{encoded({madeBy(u"x"_s, {{110.1, 0}})}), "presets.import.pointOutOfRange"},
+             Row{encoded({madeBy(u"x"_s, {{50, -1}})}), "presets.import.pointOutOfRange"},
+             Row{encoded({madeBy(u"x"_s, {{50, 100.5}})}), "presets.import.pointOutOfRange"},
+             Row{encoded({madeBy(u"x"_s, {{60, 0}, {50, 10}})}), "presets.import.pointsOutOfOrder"},
+         }) {
+        const auto decoded = PresetFile::decode(bad);
+        ASSERT_FALSE(decoded) << bad.left(200).toStdString();
+        EXPECT_EQ(decoded.error(), localized(key)) << bad.left(200).toStdString();
+    }
+}
+
+TEST(PresetFile, ReadsNothingButAFileOfASaneSize) {
+    const TestHome home;
+    const QString name = u"preset.json"_s;
+    const QByteArray content = encoded({madeBy(u"Night"_s, {{50, 50}})});
+    home.write(name, content);
+    EXPECT_TRUE(PresetFile::read(home.path(name)));
+    home.write(name, content + QByteArray(largestPresetsFile, ' '));
+    EXPECT_FALSE(PresetFile::read(home.path(name)));
+    EXPECT_FALSE(PresetFile::read(home.path()));
+    EXPECT_FALSE(PresetFile::read(u"/dev/zero"_s));
+    const auto missing = PresetFile::read(home.path(u"missing"_s));
+    ASSERT_FALSE(missing);
+    EXPECT_TRUE(missing.error().contains(u"No such file"_s)) << missing.error().toStdString();
 }
 
 } // namespace

@@ -1,13 +1,18 @@
+#include "Core/FanFacts.h"
+#include "Core/HistoryTable.h"
 #include "Core/TelemetrySampler.h"
 #include "Core/TelemetryStore.h"
+#include "Core/TemperatureText.h"
 #include "Simulator/SimulatedSMC.h"
 #include "Support/TestDefaults.h"
 
+#include <QLocale>
 #include <QSignalSpy>
 #include <QTest>
 #include <gmock/gmock.h>
 
 #include <atomic>
+#include <limits>
 #include <mutex>
 
 namespace kestrowind {
@@ -54,11 +59,12 @@ TEST_F(TelemetryStoreTest, SmoothsPeaksAndRemembers) {
     EXPECT_EQ(store.hottestTemperature(), std::nullopt);
     const std::pair<double, double> rows[] = {{50, 50}, {60, 54}, {60, 56.4}, {0, 33.84}};
     for (const auto& [measured, smoothed] : rows) {
-        store.ingest(sample(measured));
+        store.ingest(sample(measured, measured / 2));
         EXPECT_DOUBLE_EQ(store.cpuHottestSmoothed(), smoothed) << measured;
+        EXPECT_DOUBLE_EQ(store.gpuHottestSmoothed(), smoothed / 2) << measured;
     }
     EXPECT_EQ(store.peakCPU(), 60);
-    EXPECT_EQ(store.gpuHottestSmoothed(), 0);
+    EXPECT_EQ(store.peakGPU(), 30);
 
     for (int i = 0; i < 897; ++i)
         store.ingest(sample(i == 0 ? 41 : 42));
@@ -80,7 +86,11 @@ TEST_F(TelemetryStoreTest, ChoosesTheTemperatureByTheUsersSetting) {
 
 TEST_F(TelemetryStoreTest, TellsOnlyOfRealChangesAndOnlyOfWholeOnes) {
     QSignalSpy available(&store, &TelemetryStore::smcAvailableChanged);
-    QSignalSpy peak(&store, &TelemetryStore::peakCPUChanged);
+    int changes = 0;
+    for (const auto signal :
+         {&TelemetryStore::peakCPUChanged, &TelemetryStore::peakGPUChanged,
+          &TelemetryStore::cpuHottestSmoothedChanged, &TelemetryStore::gpuHottestSmoothedChanged})
+        QObject::connect(&store, signal, &store, [&] { ++changes; });
     bool sawHalf = false;
     QObject::connect(&store, &TelemetryStore::smcAvailableChanged, &store,
                      [&] { sawHalf = sawHalf || store.history().last() != *store.latest(); });
@@ -96,9 +106,9 @@ TEST_F(TelemetryStoreTest, TellsOnlyOfRealChangesAndOnlyOfWholeOnes) {
     note(&store, 3, TelemetryStore::Turn::afterControl);
     note(&store, 1, TelemetryStore::Turn::control);
 
-    store.ingest(sample(50));
-    store.ingest(sample(50));
-    EXPECT_EQ(peak.size(), 1);
+    store.ingest(sample(50, 40));
+    store.ingest(sample(50, 40));
+    EXPECT_EQ(changes, 4);
     EXPECT_TRUE(available.isEmpty());
     store.ingest(sample(0, 0, 0));
     store.ingest(sample(0, 0, 0));
@@ -122,6 +132,90 @@ TEST_F(TelemetryStoreTest, ReceivesSamplesOnTheMainThread) {
     store.start(10ms);
     ASSERT_TRUE(QTest::qWaitFor([&] { return store.history().size() >= 3; }, 3000));
     EXPECT_EQ(handlerThread, QThread::currentThread());
+}
+
+constexpr const char* header = "Time,CPU average (Celsius),CPU hottest (Celsius),"
+                               "GPU average (Celsius),GPU hottest (Celsius)";
+
+TelemetrySample sampleAt(qint64 milliseconds, const SMCTemperatureSnapshot& temperatures,
+                         std::vector<SMCFanReading> fans) {
+    return {.timestamp =
+                std::chrono::system_clock::time_point(std::chrono::milliseconds(milliseconds)),
+            .temperatures = temperatures,
+            .fans = std::move(fans)};
+}
+
+TEST(HistoryTable, HasARowForEachSampleAndAColumnForEachFan) {
+    // A language whose decimals have a comma changes nothing.
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    const qint64 summer = 1'750'000'000'123; // 2025-06-15T15:06:40.123Z
+    const QByteArray table = historyTable(
+        {sampleAt(summer, {50.126, 61.5, 40, 45, 61.5}, {{.index = 0, .actualRPM = 2317.4}}),
+         sampleAt(summer + 2000, {1e-3, std::numeric_limits<double>::quiet_NaN(), 0, 0, 0}, {}),
+         sampleAt(summer + 4000, {50, 60, 40, 45, 60},
+                  {{.index = 2, .actualRPM = std::numeric_limits<double>::infinity()},
+                   {.index = 0, .actualRPM = 0}})},
+        QTimeZone("Europe/Berlin"));
+    QLocale::setDefault(before);
+    EXPECT_EQ(table, QByteArray(header) +
+                         ",Fan 1 (rpm),Fan 3 (rpm)\r\n"
+                         "2025-06-15T17:06:40.123+02:00,50.13,61.50,40.00,45.00,2317,\r\n"
+                         "2025-06-15T17:06:42.123+02:00,0.00,,,,,\r\n"
+                         "2025-06-15T17:06:44.123+02:00,50.00,60.00,40.00,45.00,0,\r\n");
+    EXPECT_EQ(historyTable({}), QByteArray(header) + "\r\n");
+
+    // The second one of the hour that happens twice, and an offset of half an hour to the west.
+    const qint64 autumn = 1'761'442'200'000;
+    EXPECT_TRUE(historyTable({sampleAt(autumn, {}, {})}, QTimeZone("Europe/Berlin"))
+                    .contains("\r\n2025-10-26T02:30:00.000+01:00,"));
+    EXPECT_TRUE(historyTable({sampleAt(-500, {}, {})}, QTimeZone("America/St_Johns"))
+                    .contains("\r\n1969-12-31T20:29:59.500-03:30,"));
+}
+
+TEST(FanFacts, SaysOfAFanWhatIsKnown) {
+    constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    struct Row {
+        double actual, most;
+        FanFacts expected;
+    };
+    for (const auto& [actual, most, expected] : {
+             Row{1500.9, 6000, {2, u"Fan 3"_s, u"1500"_s, false, 1500.9 / 6000, true}},
+             Row{7000, 6000, {2, u"Fan 3"_s, u"7000"_s, false, 1, true}},
+             Row{0, 6000, {2, u"Fan 3"_s, u"0"_s, true, 0, true}},
+             Row{2000, 0, {2, u"Fan 3"_s, u"2000"_s, false, 0, false}},
+             Row{2000, nan, {2, u"Fan 3"_s, u"2000"_s, false, 0, false}},
+             Row{inf, 6000, {2, u"Fan 3"_s, u"--"_s, false, 1, false}},
+             Row{inf, inf, {2, u"Fan 3"_s, u"--"_s, false, 0, false}},
+         })
+        EXPECT_EQ(FanFacts::of({.index = 2, .actualRPM = actual, .maxRPM = most}, 3), expected)
+            << actual << " of " << most;
+}
+
+TEST(TemperatureText, FollowsTheLocale) {
+    struct Row {
+        QLocale locale;
+        double celsius;
+        QString text;
+    };
+    const QLocale english(QLocale::English, QLocale::UnitedStates);
+    const QLocale german(QLocale::German, QLocale::Germany);
+    const Row rows[] = {
+        {english, 54.24, u"54.2"_s},
+        {german, 54.26, u"54,3"_s},
+        {english, 0, u"--"_s},
+        {german, 99.94, u"99,9"_s},
+        {english, 100, u"100"_s},
+        {german, 104.6, u"105"_s},
+        {english, std::numeric_limits<double>::quiet_NaN(), u"--"_s},
+    };
+    const QLocale before;
+    for (const Row& row : rows) {
+        QLocale::setDefault(row.locale);
+        EXPECT_EQ(TemperatureText::precise(row.celsius), row.text);
+    }
+    QLocale::setDefault(before);
 }
 
 /// A sampler whose samples arrive in a guarded list.

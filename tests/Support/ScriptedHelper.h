@@ -5,15 +5,12 @@
 #include "Shared/HelperShared/HelperConstants.h"
 #include "Shared/HelperShared/HelperStatus.h"
 
-#include <QElapsedTimer>
 #include <QHash>
 #include <QObject>
 #include <QTimer>
 
-#include <algorithm>
 #include <chrono>
 #include <limits>
-#include <set>
 
 namespace kestrowind {
 
@@ -36,9 +33,7 @@ public:
     };
 
     explicit ScriptedHelper(std::chrono::milliseconds patience)
-        : m_patience(patience) {
-        m_clock.start();
-    }
+        : m_patience(patience) {}
     ScriptedHelper(const ScriptedHelper&) = delete;
     ScriptedHelper& operator=(const ScriptedHelper&) = delete;
 
@@ -47,7 +42,6 @@ public:
     bool wasAskedNonsense = false; ///< targets that no helper takes
     std::vector<double> targets;
     int connectionsMade = 0;
-    qsizetype mostWaiting = 0; ///< sets of targets that somebody waited for at the same time
 
     /// The process is killed and started again: it hands the fans back first, and calls that wait
     /// fail.
@@ -75,16 +69,11 @@ private:
                         ErrorHandler error) override {
             m_helper.wasAskedNonsense =
                 m_helper.wasAskedNonsense || targets.empty() || !checkFanSpeeds(targets);
-            const qint64 number = m_helper.beginWait();
-            answer(Method::setTargets, std::move(error),
-                   [this, targets, reply, number](Answer how) {
-                       m_helper.isHolding = true;
-                       m_helper.targets = targets;
-                       return [this, number, reply, applied = spoiled(targets, how)] {
-                           m_helper.m_waiting.erase(number);
-                           reply(applied);
-                       };
-                   });
+            answer(Method::setTargets, std::move(error), [this, targets, reply](Answer how) {
+                m_helper.isHolding = true;
+                m_helper.targets = targets;
+                return [reply, applied = spoiled(targets, how)] { reply(applied); };
+            });
         }
         void releaseControl(Reply<> reply, ErrorHandler error) override {
             answer(Method::releaseControl, std::move(error), [this, reply](Answer) {
@@ -165,18 +154,7 @@ private:
         QObject m_context;
     };
 
-    qint64 beginWait() {
-        const qint64 now = m_clock.nsecsElapsed();
-        const qint64 oldest = now - std::chrono::nanoseconds(m_patience).count();
-        m_waiting.erase(m_waiting.begin(), m_waiting.upper_bound(oldest));
-        m_waiting.insert(now);
-        mostWaiting = std::max(mostWaiting, static_cast<qsizetype>(m_waiting.size()));
-        return now;
-    }
-
     std::chrono::milliseconds m_patience; ///< how long a caller waits for a reply
-    QElapsedTimer m_clock;
-    std::set<qint64> m_waiting; ///< when they were sent, in nanoseconds
     int m_generation = 0;
 };
 

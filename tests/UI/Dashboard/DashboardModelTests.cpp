@@ -1,5 +1,4 @@
 #include "Core/LocalizedText.h"
-#include "Core/TemperatureText.h"
 #include "Support/QtPrinters.h"
 #include "UI/Dashboard/DashboardModel.h"
 #include "UI/TestState.h"
@@ -45,27 +44,6 @@ TEST(FanGaugeFacts, ShowsSpeedAndSpin) {
         EXPECT_DOUBLE_EQ(facts.revolutionsPerSecond, 2.2 * row.fraction) << row.actual;
         EXPECT_EQ(facts.isParked, row.fraction == 0) << row.actual;
     }
-}
-
-TEST(TemperatureText, FollowsTheLocale) {
-    struct Row {
-        QLocale locale;
-        double celsius;
-        QString text;
-    };
-    const QLocale english(QLocale::English, QLocale::UnitedStates);
-    const QLocale german(QLocale::German, QLocale::Germany);
-    const Row rows[] = {
-        {english, 54.24, u"54.2"_s}, {german, 54.26, u"54,3"_s}, {english, 0, u"--"_s},
-        {german, 99.94, u"99,9"_s},  {english, 100, u"100"_s},   {german, 104.6, u"105"_s},
-        {english, nan, u"--"_s},
-    };
-    const QLocale before;
-    for (const Row& row : rows) {
-        QLocale::setDefault(row.locale);
-        EXPECT_EQ(TemperatureText::precise(row.celsius), row.text);
-    }
-    QLocale::setDefault(before);
 }
 
 class DashboardModelTest : public testing::Test {
