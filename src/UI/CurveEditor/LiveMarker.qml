@@ -53,7 +53,6 @@ Item {
             text: root.live.text
             font: Typography.weighted(Typography.caption2, Font.DemiBold)
             color: "white"
-            Accessible.ignored: true
         }
     }
 }

@@ -10,13 +10,11 @@ Item {
 
     implicitHeight: picker.implicitHeight
 
-    Text {
+    Label {
         id: label
 
         anchors.verticalCenter: parent.verticalCenter
         text: qsTrId("curves.selector.editing")
-        textFormat: Text.PlainText
-        font: Typography.body
         color: AppColors.secondaryText
     }
 

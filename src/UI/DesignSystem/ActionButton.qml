@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Kestrowind.DesignSystem
 
 // What every button answers to besides the pointer and the space bar: Return, Enter, and what assistive
 // technology does with it.
@@ -14,6 +15,5 @@ T.AbstractButton {
     hoverEnabled: true
     Accessible.name: text
     Accessible.onPressAction: press()
-    Keys.onReturnPressed: press()
-    Keys.onEnterPressed: press()
+    AcceptKeys.onPressed: press()
 }

@@ -31,6 +31,5 @@ Item {
         text: root.text
         font: root.isQuiet ? Typography.caption : Typography.weighted(Typography.subheadline, Font.Medium)
         color: root.isQuiet ? AppColors.secondaryText : AppColors.primaryText
-        Accessible.ignored: true
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Kestrowind.DesignSystem
 
 // An ActionButton that is one of several siblings, of which one is chosen. The owner answers clicked()
 // by setting isChosen. In Qt 6.4 a button's class and its own state are all that assistive technology
@@ -21,6 +22,5 @@ T.RadioButton {
     Accessible.name: text
     Accessible.onPressAction: press()
     Accessible.onToggleAction: press()
-    Keys.onReturnPressed: press()
-    Keys.onEnterPressed: press()
+    AcceptKeys.onPressed: press()
 }

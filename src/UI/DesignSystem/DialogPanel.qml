@@ -12,7 +12,6 @@ T.Dialog {
     property string confirmText
     property string cancelText // none: there is nothing to decide
     property bool destructive: false
-    property bool canConfirm: true
     readonly property Item confirmButton: confirm
     readonly property Item cancelButton: cancel
     default property alias body: extra.data
@@ -51,14 +50,30 @@ T.Dialog {
         Behavior on opacity { NumberAnimation { duration: 160 } }
     }
 
-    background: DialogBackground {}
+    background: Item {
+        SoftShadow {
+            anchors.fill: parent
+            anchors.margins: -2 * blurRadius
+            blurRadius: 24
+            offset: 10
+            cornerRadius: Radius.banner
+            opacity: AppColors.isDark ? 0.6 : 0.3
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: Radius.banner
+            color: AppColors.popupBackground
+            border.width: 1
+            border.color: AppColors.popupBorder
+        }
+    }
 
     // qmllint disable deferred-property-id
     contentItem: FocusScope {
         // qmllint enable deferred-property-id
         focus: true
-        Keys.onReturnPressed: if (root.canConfirm && !root.destructive) root.confirmed()
-        Keys.onEnterPressed: if (root.canConfirm && !root.destructive) root.confirmed()
+        AcceptKeys.onPressed: if (!root.destructive) root.confirmed()
 
         Column {
             id: column
@@ -66,25 +81,19 @@ T.Dialog {
             width: parent.width
             spacing: Spacing.small
 
-            Text {
+            Heading {
                 width: parent.width
                 text: root.shownTitle
-                textFormat: Text.PlainText
-                font: Typography.headline
-                color: AppColors.primaryText
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
                 elide: Text.ElideRight
                 maximumLineCount: 4
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
 
-            Text {
+            Label {
                 width: parent.width
                 visible: text.length > 0
                 text: root.message
-                textFormat: Text.PlainText
                 font: Typography.subheadline
                 color: AppColors.secondaryText
                 horizontalAlignment: Text.AlignHCenter
@@ -129,7 +138,6 @@ T.Dialog {
                     text: root.confirmText
                     prominent: true
                     destructive: root.destructive
-                    enabled: root.canConfirm
                     onClicked: root.confirmed()
                 }
             }

@@ -17,20 +17,16 @@ Item {
 
         onItemAdded: (index, item) => widest = Math.max(widest, item.implicitWidth)
 
-        delegate: Text {
+        delegate: Label {
             required property int index
             required property string modelData
 
             y: parent ? Math.round((parent.height - height) / 2) : 0
             text: modelData
-            textFormat: Text.PlainText
-            font: Typography.body
-            color: AppColors.primaryText
             // The delegate lives inside its root: Qt 6.4 has no way to say so to the linter.
             // qmllint disable unqualified
             opacity: index === root.currentIndex ? 1 : 0
             // qmllint enable unqualified
-            Accessible.ignored: true
         }
     }
 }

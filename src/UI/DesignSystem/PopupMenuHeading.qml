@@ -13,14 +13,12 @@ Item {
     Accessible.role: Accessible.Heading
     Accessible.name: text
 
-    Text {
+    Label {
         id: label
 
         x: 9
         y: 5
-        textFormat: Text.PlainText
         font: Typography.weighted(Typography.caption, Font.DemiBold)
         color: AppColors.tertiaryText
-        Accessible.ignored: true
     }
 }

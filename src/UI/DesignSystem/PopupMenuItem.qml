@@ -32,8 +32,7 @@ T.MenuItem {
     opacity: enabled ? 1 : 0.45
     Accessible.name: text
     Accessible.onPressAction: choose()
-    Keys.onReturnPressed: choose()
-    Keys.onEnterPressed: choose()
+    AcceptKeys.onPressed: choose()
 
     background: Rectangle {
         radius: Radius.small

@@ -3,15 +3,12 @@ import QtQuick.Templates as T
 import Kestrowind.DesignSystem
 
 // Stepped by the arrow keys and while dragged. The owner answers chosen(value) by setting `setting`,
-// whether a pointer, a key or assistive technology chose. The filled part may carry a gradient's two
-// colours.
+// whether a pointer, a key or assistive technology chose.
 T.Slider {
     id: root
 
     required property string label
     required property real setting
-    property color startColor: AppColors.fanGradientStart
-    property color endColor: AppColors.fanGradientEnd
 
     // Read by their names for assistive technology.
     readonly property real minimumValue: from
@@ -43,23 +40,62 @@ T.Slider {
         SpringMotion { timing: Springs.hover }
     }
 
-    background: SliderTrack {
+    // The groove, filled up to the knob.
+    background: Item {
         x: root.leftPadding
         y: root.topPadding
         width: root.availableWidth
         height: root.availableHeight
-        filledWidth: root.knobPosition > 0 ? root.knobPosition * (root.availableWidth - root.knobSize)
-                                             + root.knobSize / 2 : 0
-        startColor: root.startColor
-        endColor: root.endColor
+
+        Rectangle {
+            y: Math.round((parent.height - height) / 2)
+            width: parent.width
+            height: 4
+            radius: 2
+            color: AppColors.track
+        }
+
+        Rectangle {
+            y: Math.round((parent.height - height) / 2)
+            width: root.knobPosition > 0 ? root.knobPosition * (parent.width - root.knobSize)
+                                           + root.knobSize / 2 : 0
+            height: 4
+            radius: 2
+            gradient: Gradient {
+                orientation: Gradient.Horizontal
+                GradientStop { position: 0; color: AppColors.fanGradientStart }
+                GradientStop { position: 1; color: AppColors.fanGradientEnd }
+            }
+        }
     }
 
-    handle: SliderKnob {
+    handle: Rectangle {
         x: root.leftPadding + root.knobPosition * (root.availableWidth - width)
         y: root.topPadding + (root.availableHeight - height) / 2
         width: root.knobSize
         height: root.knobSize
-        pressed: root.pressed
-        focused: root.visualFocus
+        radius: width / 2
+        color: AppColors.knob
+        border.width: 1
+        border.color: Qt.alpha("black", 0.16)
+
+        // A soft edge below, in place of a blurred shadow.
+        Rectangle {
+            z: -1
+            x: -1
+            width: parent.width + 2
+            height: parent.height + 2
+            radius: width / 2
+            color: Qt.alpha("black", 0.10)
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: Qt.alpha("black", 0.06)
+            visible: root.pressed
+        }
+
+        FocusRing { shown: root.visualFocus; cornerRadius: parent.radius; gap: 0 }
     }
 }

@@ -33,16 +33,37 @@ T.Switch {
     Accessible.name: label
     Accessible.onPressAction: flip()
     Accessible.onToggleAction: flip()
-    Keys.onReturnPressed: flip()
-    Keys.onEnterPressed: flip()
+    AcceptKeys.onPressed: flip()
 
     // In the right padding, in its middle.
-    indicator: SwitchTrack {
+    indicator: Rectangle {
         x: root.width - (root.rightPadding + width) / 2
         y: Math.round((root.height - height) / 2)
-        checked: root.checked
-        pressed: root.down
-        focused: root.visualFocus
-        visualPosition: root.visualPosition
+        implicitWidth: 38
+        implicitHeight: 22
+        radius: height / 2
+        color: root.checked ? AppColors.accentFill : AppColors.track
+        border.width: 1
+        border.color: root.checked ? "transparent" : AppColors.controlBorder
+
+        Behavior on color { ColorAnimation { duration: 150 } }
+
+        Rectangle {
+            x: 2 + root.visualPosition * (parent.width - width - 4)
+            y: 2
+            width: parent.height - 4
+            height: width
+            radius: width / 2
+            color: AppColors.knob
+            border.width: 1
+            border.color: Qt.alpha("black", 0.12)
+
+            Behavior on x {
+                enabled: !root.down
+                SpringMotion { timing: Springs.hover }
+            }
+        }
+
+        FocusRing { shown: root.visualFocus; cornerRadius: parent.radius }
     }
 }

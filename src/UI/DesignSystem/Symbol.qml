@@ -12,7 +12,6 @@ Item {
 
     implicitWidth: size
     implicitHeight: size
-    Accessible.ignored: true
 
     Text {
         visible: !root.isFan

@@ -37,14 +37,13 @@ Item {
             color: root.symbolColor
         }
 
-        Text {
+        Label {
             id: label
 
             x: root.textLeft
             y: Math.round((root.height - height) / 2)
             width: Math.min(implicitWidth, root.width - root.textLeft)
             text: root.text
-            textFormat: Text.PlainText
             font: root.font
             color: root.color
             elide: Text.ElideRight

@@ -1,7 +1,7 @@
 import QtQuick
 import Kestrowind.DesignSystem
 
-// A number that stands still while it changes: every digit has the same width.
+// A Label whose number stands still while it changes: every digit has the same width.
 Item {
     id: root
 
@@ -12,8 +12,6 @@ Item {
     implicitWidth: row.implicitWidth
     implicitHeight: metrics.implicitHeight
     baselineOffset: metrics.baselineOffset
-    Accessible.role: Accessible.StaticText
-    Accessible.name: text
 
     // Gives height and base line even to an empty text.
     Text {
@@ -46,7 +44,6 @@ Item {
                 horizontalAlignment: Text.AlignHCenter
                 text: cell.character
                 textFormat: Text.PlainText
-                Accessible.ignored: true
             }
         }
     }

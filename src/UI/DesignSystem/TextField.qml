@@ -34,18 +34,16 @@ T.TextField {
         FocusRing { shown: root.activeFocus; gap: -1 }
     }
 
-    Text {
+    Label {
         x: root.leftPadding
         y: root.topPadding
         width: root.width - root.leftPadding - root.rightPadding
         height: root.height - root.topPadding - root.bottomPadding
         visible: root.length === 0 && root.preeditText.length === 0
         text: root.placeholderText
-        textFormat: Text.PlainText
         font: root.font
         color: root.placeholderTextColor
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
 }

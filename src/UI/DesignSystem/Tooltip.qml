@@ -25,11 +25,9 @@ T.ToolTip {
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
-    contentItem: Text {
+    contentItem: Label {
         text: root.text
-        textFormat: Text.PlainText
         font: Typography.caption
-        color: AppColors.primaryText
         wrapMode: Text.Wrap
         elide: Text.ElideRight
         maximumLineCount: 8

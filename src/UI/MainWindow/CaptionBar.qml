@@ -31,16 +31,14 @@ Item {
             color: root.color
         }
 
-        Text {
+        Label {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, root.width - 2 * Spacing.huge)
             text: root.model.text
-            textFormat: Text.PlainText
             font: Typography.headline
             color: root.color
             elide: Text.ElideRight
             maximumLineCount: 1
-            Accessible.ignored: true
         }
     }
 }

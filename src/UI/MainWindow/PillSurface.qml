@@ -11,15 +11,10 @@ Item {
     required property bool isPressed
     required property bool isFocused
 
-    SoftShadow {
-        anchors.fill: parent
-        anchors.margins: -2 * blurRadius
+    GlowShadow {
         blurRadius: 6
         offset: 2
-        visible: opacity > 0
-        opacity: root.isLifted ? 0.18 : 0
-
-        Behavior on opacity { SpringMotion { timing: Springs.hover } }
+        strength: root.isLifted ? 0.18 : 0
     }
 
     CardBackground {

@@ -49,10 +49,10 @@ FocusScope {
             onChosen: root.model.activateShown(index)
         }
 
-        add: PillMotion { appears: true; travels: false }
-        remove: PillMotion { appears: false }
-        move: PillMotion { appears: true }
-        displaced: PillMotion { appears: true }
+        add: CollectionMotion { appears: true; travels: false }
+        remove: CollectionMotion { appears: false; least: 0.85 }
+        move: CollectionMotion { appears: true }
+        displaced: CollectionMotion { appears: true }
 
         Behavior on opacity { NumberAnimation { duration: 150 } }
     }

@@ -23,13 +23,11 @@ Item {
             color: AppColors.tertiaryText
         }
 
-        Text {
+        Label {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.title
-            textFormat: Text.PlainText
             font: Typography.title2
             color: AppColors.secondaryText
-            Accessible.ignored: true
         }
     }
 }

@@ -29,6 +29,8 @@ Column {
             text: root.model.boostText
             font: Typography.weighted(Typography.caption, Font.DemiBold)
             color: root.model.isBoosting ? AppColors.accent : AppColors.secondaryText
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 

@@ -2,8 +2,7 @@ import QtQuick
 import Kestrowind.DesignSystem
 
 // Above a group of controls.
-Text {
-    textFormat: Text.PlainText
+Label {
     font: Typography.sectionCaption
     color: AppColors.secondaryText
     elide: Text.ElideRight

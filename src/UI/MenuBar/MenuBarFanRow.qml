@@ -21,17 +21,14 @@ Item {
         color: AppColors.secondaryText
     }
 
-    Text {
+    Label {
         id: name
 
         x: 28
         width: speed.x - x - Spacing.small
         text: root.row.name
-        textFormat: Text.PlainText
         font: Typography.weighted(Typography.subheadline, Font.Medium)
-        color: AppColors.primaryText
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
 
     TabularText {
@@ -43,10 +40,9 @@ Item {
         font: root.row.isParked ? Typography.caption
                                 : Typography.weighted(Typography.subheadline, Font.Bold)
         color: root.row.isParked ? AppColors.secondaryText : AppColors.primaryText
-        Accessible.ignored: true
     }
 
-    Text {
+    Label {
         id: unit
 
         anchors.baseline: name.baseline
@@ -55,7 +51,6 @@ Item {
         text: qsTrId("menuBar.fan.rpmUnit")
         font: Typography.caption2
         color: AppColors.secondaryText
-        Accessible.ignored: true
     }
 
     MenuBarSpeedBar {

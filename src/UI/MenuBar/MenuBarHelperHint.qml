@@ -31,10 +31,9 @@ Rectangle {
             Accessible.name: text
         }
 
-        Text {
+        Label {
             width: parent.width
             text: qsTrId("menuBar.helperMissing.body")
-            textFormat: Text.PlainText
             font: Typography.caption
             color: AppColors.secondaryText
             wrapMode: Text.Wrap

@@ -39,14 +39,13 @@ Column {
 
         Spinner { anchors.verticalCenter: parent.verticalCenter; color: AppColors.secondaryText }
 
-        Text {
+        Label {
             id: waiting
 
             anchors.verticalCenter: parent.verticalCenter
             text: qsTrId("menuBar.waitingForSensors")
             font: Typography.subheadline
             color: AppColors.secondaryText
-            Accessible.ignored: true
         }
     }
 }

@@ -21,13 +21,11 @@ Row {
         revolutionsPerSecond: 0.8
     }
 
-    Text {
+    Label {
         id: text
 
         anchors.verticalCenter: parent.verticalCenter
         text: qsTrId("shared.mode.startingBoost")
         font: Typography.subheadline
-        color: AppColors.primaryText
-        Accessible.ignored: true
     }
 }

@@ -20,16 +20,13 @@ Item {
         color: AppColors.secondaryText
     }
 
-    Text {
+    Label {
         id: label
 
         x: 28
         anchors.verticalCenter: parent.verticalCenter
         text: root.row.label
-        textFormat: Text.PlainText
         font: Typography.subheadline
-        color: AppColors.primaryText
-        Accessible.ignored: true
     }
 
     TabularText {
@@ -41,6 +38,5 @@ Item {
         font: Typography.weighted(Typography.subheadline, Font.DemiBold)
         color: root.row.isKnown ? AppColors.temperatureColor(root.row.celsius)
                                 : AppColors.secondaryText
-        Accessible.ignored: true
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Kestrowind.DesignSystem
 import Kestrowind.Presets
 
 // One Tab stop for all the cards, where the arrow keys go from one to the next, and one for the
@@ -57,10 +58,10 @@ Item {
             // qmllint enable unqualified
         }
 
-        add: CardMotion { appears: true; travels: false }
-        remove: CardMotion { appears: false }
-        move: CardMotion { appears: true }
-        displaced: CardMotion { appears: true }
+        add: CollectionMotion { appears: true; travels: false }
+        remove: CollectionMotion { appears: false }
+        move: CollectionMotion { appears: true }
+        displaced: CollectionMotion { appears: true }
     }
 
     // The keyboard comes in at the active card, as long as it is not among the cards already.

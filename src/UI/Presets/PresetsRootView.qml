@@ -19,10 +19,9 @@ Item {
         width: root.width - 2 * Spacing.large
         spacing: Spacing.regular
 
-        Text {
+        Label {
             width: parent.width
             text: qsTrId("presets.explainer")
-            textFormat: Text.PlainText
             font: Typography.subheadline
             color: AppColors.secondaryText
             wrapMode: Text.Wrap

@@ -18,9 +18,8 @@ Row {
         height: childrenRect.height
     }
 
-    Text {
+    Label {
         text: root.text
-        textFormat: Text.PlainText
         font: Typography.caption
         color: AppColors.secondaryText
     }

@@ -34,17 +34,14 @@ Item {
         y: 31
         text: root.readout
         font: Typography.gaugeNumber
-        Accessible.ignored: true
     }
 
-    Text {
+    Label {
         anchors.horizontalCenter: arcsCentre.horizontalCenter
         y: 60
         text: root.caption
-        textFormat: Text.PlainText
         font: Typography.caption
         color: AppColors.secondaryText
-        Accessible.ignored: true
     }
 
     Item {
@@ -62,16 +59,14 @@ Item {
         }
     }
 
-    Text {
+    Label {
         id: nameLabel
 
         visible: root.showsName
         anchors.horizontalCenter: arcsCentre.horizontalCenter
         y: root.diameter + Spacing.small
         text: root.name
-        textFormat: Text.PlainText
         font: Typography.weighted(Typography.subheadline, Font.Medium)
         color: AppColors.secondaryText
-        Accessible.ignored: true
     }
 }

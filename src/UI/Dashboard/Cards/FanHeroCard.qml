@@ -3,24 +3,18 @@ import Kestrowind.DesignSystem
 import Kestrowind.Dashboard
 
 // The fans side by side.
-DashboardCard {
+Card {
     id: root
 
     required property FanGaugeRows fans
-
-    padding: Spacing.large
 
     Column {
         width: parent.width
         spacing: Spacing.regular
 
-        Text {
+        Heading {
             text: qsTrId("dashboard.fans.title")
-            textFormat: Text.PlainText
             font: Typography.title
-            color: AppColors.primaryText
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
         }
 
         // As many in each line as evenly fit, every line in the middle.

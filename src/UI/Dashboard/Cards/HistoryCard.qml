@@ -3,12 +3,10 @@ import Kestrowind.DesignSystem
 import Kestrowind.Dashboard
 
 // The last half hour as two charts.
-DashboardCard {
+Card {
     id: root
 
     required property DashboardModel model
-
-    padding: Spacing.large
 
     Column {
         width: parent.width
@@ -18,15 +16,11 @@ DashboardCard {
             width: parent.width
             height: title.height
 
-            Text {
+            Heading {
                 id: title
 
                 text: qsTrId("dashboard.history.title")
-                textFormat: Text.PlainText
                 font: Typography.title3
-                color: AppColors.primaryText
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
 
             TabularText {
@@ -36,6 +30,8 @@ DashboardCard {
                 text: root.model.windowCaption
                 font: Typography.subheadline
                 color: AppColors.secondaryText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
 
             IconButton {

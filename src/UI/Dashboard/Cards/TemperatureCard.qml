@@ -3,13 +3,12 @@ import Kestrowind.DesignSystem
 import Kestrowind.Dashboard
 
 // One processor's temperatures.
-DashboardCard {
+Card {
     id: root
 
     required property temperatureFacts facts
     required property color accentColor
 
-    padding: Spacing.large
     Accessible.role: Accessible.StaticText
     Accessible.name: facts.spoken
 
@@ -29,12 +28,9 @@ DashboardCard {
                 color: root.accentColor
             }
 
-            Text {
+            Label {
                 text: root.facts.title
-                textFormat: Text.PlainText
                 font: Typography.headline
-                color: AppColors.primaryText
-                Accessible.ignored: true
             }
         }
 
@@ -45,16 +41,13 @@ DashboardCard {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: root.facts.average
                 font: Typography.heroNumber
-                Accessible.ignored: true
             }
 
-            Text {
+            Label {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: qsTrId("dashboard.temperature.averageLabel")
-                textFormat: Text.PlainText
                 font: Typography.caption
                 color: AppColors.secondaryText
-                Accessible.ignored: true
             }
         }
 
@@ -67,7 +60,6 @@ DashboardCard {
                 text: root.facts.hottestCore
                 font: Typography.body
                 color: AppColors.primaryText
-                Accessible.ignored: true
             }
 
             TabularText {
@@ -75,7 +67,6 @@ DashboardCard {
                 text: root.facts.sessionPeak
                 font: Typography.caption
                 color: AppColors.secondaryText
-                Accessible.ignored: true
             }
         }
     }

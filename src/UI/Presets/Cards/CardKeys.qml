@@ -5,7 +5,6 @@ import QtQuick
 QtObject {
     id: root
 
-    signal activated()
     signal menuRequested()
     signal renameRequested()
     signal deletionRequested()
@@ -16,10 +15,6 @@ QtObject {
         if (modifiers & Qt.ControlModifier)
             return move(key)
         switch (key) {
-        case Qt.Key_Return:
-        case Qt.Key_Enter:
-            activated()
-            return true
         case Qt.Key_F10:
             if (!(modifiers & Qt.ShiftModifier))
                 return false

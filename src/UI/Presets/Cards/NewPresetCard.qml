@@ -53,28 +53,16 @@ FocusScope {
                 Behavior on opacity { SpringMotion { timing: Springs.hover } }
             }
 
-            CardOutline {
-                anchors.fill: parent
-                cornerRadius: Radius.card
-                lineWidth: 1.5
-                dashes: [6, 5]
+            DashedOutline {
                 topColor: Qt.alpha(AppColors.secondaryText, 0.45)
-                bottomColor: topColor
                 opacity: 1 - lit.opacity
-                visible: opacity > 0
             }
 
-            CardOutline {
+            DashedOutline {
                 id: lit
 
-                anchors.fill: parent
-                cornerRadius: Radius.card
-                lineWidth: 1.5
-                dashes: [6, 5]
                 topColor: Qt.alpha(AppColors.accent, 0.7)
-                bottomColor: topColor
                 opacity: root.isHovering ? 1 : 0
-                visible: opacity > 0
 
                 Behavior on opacity { SpringMotion { timing: Springs.hover } }
             }
@@ -95,15 +83,13 @@ FocusScope {
                     color: root.canCreate ? AppColors.accent : AppColors.tertiaryText
                 }
 
-                Text {
+                Label {
                     width: parent.width
                     text: button.text
-                    textFormat: Text.PlainText
                     font: Typography.headline
                     color: root.canCreate ? AppColors.primaryText : AppColors.secondaryText
                     horizontalAlignment: Text.AlignHCenter
                     wrapMode: Text.Wrap
-                    Accessible.ignored: true
                 }
             }
         }

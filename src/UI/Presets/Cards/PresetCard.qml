@@ -75,7 +75,6 @@ ChoiceButton {
     CardKeys {
         id: keys
 
-        onActivated: root.clicked()
         onMenuRequested: root.requestMenu(Qt.point(root.width / 2, root.height / 2))
         onRenameRequested: root.screen.rename(root.slotID)
         onDeletionRequested: root.screen.requestDeletion(root.slotID)

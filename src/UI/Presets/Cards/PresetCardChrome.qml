@@ -12,29 +12,20 @@ Item {
     required property bool isFocused
     required property bool isTarget
 
-    SoftShadow {
-        anchors.fill: parent
-        anchors.margins: -2 * blurRadius
+    GlowShadow {
         blurRadius: 9
         offset: 4
         cornerRadius: Radius.card
-        visible: opacity > 0
-        opacity: root.isLifted ? 0.12 : 0
-
-        Behavior on opacity { SpringMotion { timing: Springs.hover } }
+        strength: root.isLifted ? 0.12 : 0
     }
 
-    SoftShadow {
-        anchors.fill: parent
-        anchors.margins: -2 * blurRadius
+    GlowShadow {
         blurRadius: 9
         offset: 2
         cornerRadius: Radius.card
         color: AppColors.accent
-        visible: opacity > 0
-        opacity: root.isActive ? 0.35 : 0
-
-        Behavior on opacity { SpringMotion { timing: Springs.collection } }
+        strength: root.isActive ? 0.35 : 0
+        timing: Springs.collection
     }
 
     CardBackground {

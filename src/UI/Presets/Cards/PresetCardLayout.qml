@@ -42,7 +42,7 @@ Item {
             }
         }
 
-        Text {
+        Label {
             id: nameText
 
             width: parent.width - root.menuWidth
@@ -50,20 +50,17 @@ Item {
             verticalAlignment: Text.AlignVCenter
             horizontalAlignment: Text.AlignLeft
             text: root.name
-            textFormat: Text.PlainText
             font: Typography.headline
-            color: AppColors.primaryText
             elide: Text.ElideRight
             maximumLineCount: 1
         }
 
-        Text {
+        Label {
             width: parent.width
             height: 13
             verticalAlignment: Text.AlignVCenter
             horizontalAlignment: Text.AlignLeft
             text: root.caption
-            textFormat: Text.PlainText
             font: Typography.caption
             color: AppColors.secondaryText
             elide: Text.ElideRight

@@ -5,12 +5,15 @@ import Kestrowind.DesignSystem
 Item {
     id: root
 
-    property real padding: Spacing.section
+    property real padding: Spacing.large
+    property alias cornerRadius: surface.cornerRadius
     default property alias content: body.data
 
     implicitHeight: body.implicitHeight + 2 * padding
 
     CardBackground {
+        id: surface
+
         anchors.fill: parent
         cornerRadius: Radius.card
     }
