@@ -11,17 +11,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_CurveEditorPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_CurvesPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_DashboardPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_MainWindowPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_MenuBarPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_PresetsPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_SettingsPlugin)
-
 namespace {
 
 /// A standard descriptor that was closed would be the next socket's or file's number, and what is

@@ -10,16 +10,6 @@
 
 #include <QGuiApplication>
 #include <QQuickView>
-#include <QtQml/qqmlextensionplugin.h>
-
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_DashboardPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_CurveEditorPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_CurvesPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_MainWindowPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_MenuBarPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_PresetsPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_SettingsPlugin)
 
 namespace kestrowind {
 namespace {

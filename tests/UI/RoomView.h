@@ -7,13 +7,11 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QTest>
-#include <QtQml/qqmlextensionplugin.h>
 
 #include <optional>
 #include <utility>
 
 // Every screen is made of it.
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 
 namespace kestrowind {
 

@@ -8,8 +8,6 @@
 
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_CurveEditorPlugin)
-
 namespace kestrowind {
 namespace {
 

@@ -6,9 +6,6 @@
 
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_CurveEditorPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_CurvesPlugin)
-
 namespace kestrowind {
 namespace {
 

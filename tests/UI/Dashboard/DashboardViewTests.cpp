@@ -10,8 +10,6 @@
 #include <QSignalSpy>
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_DashboardPlugin)
-
 namespace kestrowind {
 namespace {
 

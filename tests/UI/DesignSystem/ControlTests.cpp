@@ -6,10 +6,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
-
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
 
 namespace kestrowind {
 namespace {

@@ -9,11 +9,7 @@
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
-#include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
-
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_MainWindowPlugin)
 
 namespace kestrowind {
 namespace {

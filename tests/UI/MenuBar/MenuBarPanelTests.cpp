@@ -6,11 +6,7 @@
 #include <QQuickItem>
 #include <QSignalSpy>
 #include <QTest>
-#include <QtQml/qqmlextensionplugin.h>
 #include <gmock/gmock.h>
-
-Q_IMPORT_QML_PLUGIN(Kestrowind_DesignSystemPlugin)
-Q_IMPORT_QML_PLUGIN(Kestrowind_MenuBarPlugin)
 
 namespace kestrowind {
 namespace {

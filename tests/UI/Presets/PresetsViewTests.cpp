@@ -8,8 +8,6 @@
 #include <QPixmap>
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_PresetsPlugin)
-
 namespace kestrowind {
 namespace {
 

@@ -6,8 +6,6 @@
 
 #include <gmock/gmock.h>
 
-Q_IMPORT_QML_PLUGIN(Kestrowind_SettingsPlugin)
-
 namespace kestrowind {
 namespace {
 
