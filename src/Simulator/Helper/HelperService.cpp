@@ -1,7 +1,6 @@
 #include "Simulator/Helper/HelperService.h"
 
 #include "Shared/HelperShared/HelperConstants.h"
-#include "Simulator/Helper/ConnectionWatch.h"
 #include "Simulator/Link/HelperWire.h"
 #include "Simulator/Link/SimulatedMac.h"
 
@@ -57,18 +56,17 @@ HelperService::HelperService(FanController& controller, QDBusServer& server,
     connect(&server, &QDBusServer::newConnection, this, &HelperService::accept);
 }
 
-HelperService::~HelperService() = default;
-
 void HelperService::accept(const QDBusConnection& connection) {
     if (m_peers.size() >= mostPeers)
         makeRoom();
     QDBusConnection peer = connection;
     peer.registerVirtualObject(QLatin1StringView(HelperWire::objectPath), this);
-    auto* const watch = new ConnectionWatch(peer, this);
-    connect(watch, &ConnectionWatch::lost, this, &HelperService::loseConnection);
+    // What the library tells itself when a connection has ended, without saying which.
+    if (!peer.connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
+                      u"Disconnected"_s, this, SLOT(dropLostPeers())))
+        qWarning() << "cannot tell when a caller goes";
     const auto now = Clock::now();
-    m_peers.insert_or_assign(connection.name(),
-                             Peer{.watch = watch, .lastWord = now, .secondBegan = now});
+    m_peers.insert_or_assign(connection.name(), Peer{.lastWord = now, .secondBegan = now});
 }
 
 void HelperService::makeRoom() {
@@ -103,20 +101,25 @@ bool HelperService::admitCall(const QString& name) {
 }
 
 void HelperService::hangUp(const QString& name) {
-    m_peers.at(name).watch->deleteLater();
-    loseConnection(name);
     // Not while the connection is delivering a call.
     QMetaObject::invokeMethod(
         this, [name] { QDBusConnection::disconnectFromPeer(name); }, Qt::QueuedConnection);
-}
-
-void HelperService::loseConnection(const QString& name) {
     m_peers.erase(name);
     if (name != m_owner)
         return;
     m_controller.releaseControl();
     m_owner.clear();
     tick();
+}
+
+void HelperService::dropLostPeers() {
+    QStringList lost;
+    for (const auto& [name, peer] : m_peers) {
+        if (!QDBusConnection(name).isConnected())
+            lost.append(name);
+    }
+    for (const QString& name : lost)
+        hangUp(name);
 }
 
 void HelperService::tick() {

@@ -15,8 +15,6 @@
 
 namespace kestrowind {
 
-class ConnectionWatch;
-
 /// The helper's D-Bus side: answers the five methods on every connection, drives the controller's
 /// clock while it holds fans, and gives them back as soon as the connection that set the targets is
 /// gone.
@@ -34,7 +32,6 @@ public:
 
     /// root is the folder of the simulated Mac. Both references must outlive the service.
     HelperService(FanController& controller, QDBusServer& server, std::filesystem::path root);
-    ~HelperService() override;
 
     /// Nobody asks: both sides know the methods.
     [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
@@ -44,11 +41,13 @@ Q_SIGNALS:
     /// The helper is to end; the last reply has reached its caller.
     void finished();
 
+private Q_SLOTS:
+    void dropLostPeers();
+
 private:
     using Clock = std::chrono::steady_clock;
 
     struct Peer {
-        ConnectionWatch* watch = nullptr;
         bool hasCalled = false;
         Clock::time_point lastWord; ///< or when it came
         Clock::time_point secondBegan;
@@ -58,9 +57,9 @@ private:
     /// Counts a call; false when the peer makes too many, or was hung up on.
     [[nodiscard]] bool admitCall(const QString& name);
     void makeRoom();
+    /// The fans that the peer held are the system's at once.
     void hangUp(const QString& name);
     void accept(const QDBusConnection& connection);
-    void loseConnection(const QString& name);
     [[nodiscard]] QDBusMessage act(const QDBusMessage& message, const QDBusConnection& connection,
                                    const HelperBehaviour& behaviour);
     [[nodiscard]] QDBusMessage setTargets(const QDBusMessage& message,
