@@ -13,7 +13,6 @@
 namespace kestrowind {
 namespace {
 
-using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(filesLog, "app.kestrowind.files", QtInfoMsg)
 

@@ -16,15 +16,12 @@ std::array<std::uint8_t, 4> encodeFloat(float value) noexcept {
 }
 
 std::uint32_t decodeBigEndian32(std::span<const std::uint8_t, 4> bytes) noexcept {
-    std::uint32_t value = 0;
-    for (const std::uint8_t byte : bytes)
-        value = (value << 8) | byte;
-    return value;
+    return std::byteswap(
+        std::bit_cast<std::uint32_t>(std::array{bytes[0], bytes[1], bytes[2], bytes[3]}));
 }
 
 std::array<std::uint8_t, 4> encodeBigEndian32(std::uint32_t value) noexcept {
-    return {static_cast<std::uint8_t>(value >> 24), static_cast<std::uint8_t>(value >> 16),
-            static_cast<std::uint8_t>(value >> 8), static_cast<std::uint8_t>(value)};
+    return std::bit_cast<std::array<std::uint8_t, 4>>(std::byteswap(value));
 }
 
 } // namespace kestrowind
