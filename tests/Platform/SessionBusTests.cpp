@@ -1,6 +1,7 @@
 #include "Platform/Linux/BusNotifications.h"
 #include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/SessionBus.h"
+#include "Platform/Platform.h"
 #include "Support/QtPrinters.h"
 #include "Support/SilentSocket.h"
 
@@ -207,6 +208,16 @@ TEST(PortalAppearance, FollowsAPortalThatComesLate) {
 
     const PortalAppearance busless(QDBusConnection(u"no such connection"_s));
     EXPECT_EQ(busless.colorScheme(), std::nullopt);
+}
+
+TEST(Platform, DrawsWithoutOpenGLAndDoesWithoutABusThatIsSilent) {
+    const SilentSocket socket;
+    for (const char* unset : {"QT_QUICK_BACKEND", "QSG_RHI_BACKEND"})
+        qunsetenv(unset);
+    qputenv("DBUS_SESSION_BUS_ADDRESS", socket.busAddress());
+    prepareDesktop();
+    EXPECT_EQ(qgetenv("QT_QUICK_BACKEND"), "software");
+    EXPECT_EQ(qgetenv("DBUS_SESSION_BUS_ADDRESS"), "disabled:");
 }
 
 TEST(SessionBus, IsSilentWhenItTakesConnectionsAndSaysNothing) {

@@ -9,9 +9,7 @@ namespace {
 using namespace std::chrono_literals;
 using Phase = HelperControlPhase;
 using Targets = std::vector<double>;
-using testing::DoubleNear;
 using testing::ElementsAre;
-using testing::Ge;
 using testing::HasSubstr;
 using testing::Optional;
 

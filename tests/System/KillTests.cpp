@@ -7,7 +7,6 @@
 namespace kestrowind {
 namespace {
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 int environmentNumber(const char* name, int otherwise) {
