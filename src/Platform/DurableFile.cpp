@@ -13,7 +13,6 @@
 namespace kestrowind {
 namespace {
 
-
 Q_LOGGING_CATEGORY(filesLog, "app.kestrowind.files", QtInfoMsg)
 
 QString systemReason(int code = errno) {
