@@ -6,15 +6,10 @@ import Kestrowind.CurveEditor
 CurvePointItem {
     id: root
 
-    required property real plotX
-    required property real plotY
-    required property string spokenLabel
-    required property string spokenValue
-
     readonly property bool isDragged: index === chart.draggedPoint
     readonly property bool isHovered: index === chart.hoveredPoint
-    property real centreX: plotX
-    property real centreY: plotY
+    property real centreX: row.x
+    property real centreY: row.y
 
     x: centreX - width / 2
     y: centreY - height / 2
@@ -23,8 +18,8 @@ CurvePointItem {
     scale: isDragged ? 1.4 : isHovered ? 1.1 : 1
     activeFocusOnTab: index === chart.currentPoint || activeFocus
     Accessible.role: Accessible.Slider
-    Accessible.name: spokenLabel
-    Accessible.description: spokenValue
+    Accessible.name: row.spokenLabel
+    Accessible.description: row.spokenValue
     Accessible.focusable: true
     Accessible.onPressAction: chart.pressKey(index, Qt.Key_Menu, Qt.NoModifier)
 

@@ -14,12 +14,16 @@ void CurvePointItem::setIndex(int index) {
         Q_EMIT indexChanged();
 }
 
-void CurvePointItem::setPercent(double percent) {
-    if (assignIfChanged(m_percent, percent))
+void CurvePointItem::setRow(const CurvePointRow& row) {
+    const double before = value();
+    if (!assignIfChanged(m_row, row))
+        return;
+    Q_EMIT rowChanged();
+    if (value() != before)
         Q_EMIT valueChanged();
 }
 
-void CurvePointItem::requestPercent(double percent) {
+void CurvePointItem::requestValue(double percent) {
     if (m_chart)
         m_chart->setPercent(m_index, percent);
 }

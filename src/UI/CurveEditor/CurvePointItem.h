@@ -14,9 +14,9 @@ class CurvePointItem : public QQuickItem {
     Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY chartChanged
                    FINAL REQUIRED)
     Q_PROPERTY(int index READ index WRITE setIndex NOTIFY indexChanged FINAL REQUIRED)
-    Q_PROPERTY(double percent READ percent WRITE setPercent NOTIFY valueChanged FINAL REQUIRED)
+    Q_PROPERTY(kestrowind::CurvePointRow row READ row WRITE setRow NOTIFY rowChanged FINAL REQUIRED)
     // The names by which the toolkit reads and sets a number.
-    Q_PROPERTY(double value READ percent WRITE requestPercent NOTIFY valueChanged FINAL)
+    Q_PROPERTY(double value READ value WRITE requestValue NOTIFY valueChanged FINAL)
     Q_PROPERTY(double minimumValue READ minimumValue CONSTANT FINAL)
     Q_PROPERTY(double maximumValue READ maximumValue CONSTANT FINAL)
     Q_PROPERTY(double stepSize READ stepSize CONSTANT FINAL)
@@ -31,10 +31,11 @@ public:
     void setChart(FanCurveChartModel* chart);
     [[nodiscard]] int index() const { return m_index; }
     void setIndex(int index);
-    [[nodiscard]] double percent() const { return m_percent; }
-    void setPercent(double percent);
-    /// Asks the chart to move the point.
-    void requestPercent(double percent);
+    [[nodiscard]] const CurvePointRow& row() const { return m_row; }
+    void setRow(const CurvePointRow& row);
+    [[nodiscard]] double value() const { return m_row.percent; }
+    /// Asks the chart to move the point to that percent.
+    void requestValue(double percent);
     [[nodiscard]] static double minimumValue() { return 0; }
     [[nodiscard]] static double maximumValue() { return FanCurve::highestPercent; }
     [[nodiscard]] static double stepSize() { return FanCurveChartModel::fineStep; }
@@ -43,6 +44,7 @@ public:
 Q_SIGNALS:
     void chartChanged();
     void indexChanged();
+    void rowChanged();
     void valueChanged();
 
 protected:
@@ -52,7 +54,7 @@ protected:
 private:
     QPointer<FanCurveChartModel> m_chart;
     int m_index = -1;
-    double m_percent = 0;
+    CurvePointRow m_row;
 };
 
 } // namespace kestrowind

@@ -99,7 +99,7 @@ FocusScope {
         function onContextMenuRequested(index: int) {
             const handle = handles.itemAt(index)
             menu.point = index
-            menu.title = (handle as CurvePointHandle).spokenLabel
+            menu.title = (handle as CurvePointHandle).row.spokenLabel
             menu.isByKeyboard = !root.model.isLedByPointer
             menu.openAt(plot, Qt.point(handle.x + handle.width, handle.y + handle.height))
         }

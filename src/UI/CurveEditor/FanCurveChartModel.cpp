@@ -21,12 +21,13 @@ void FanCurveChartModel::setCurve(const FanCurve& curve) {
         return;
     // The answer to a step of the drag comes at once; everything else is seen to move.
     setMotion(m_draggedPoint >= 0 ? Motion::None : Motion::Edit);
+    m_identities.follow(m_curve.points(), curve.points());
     m_curve = curve;
     if (!isPoint(m_draggedPoint))
         setDraggedPoint(-1);
     // The keyboard stays with its point; when that is gone, the next one takes its place.
     const QPersistentModelIndex current = m_points.index(m_currentPoint);
-    m_points.setGeometry(geometry());
+    m_points.setRows(m_identities.rows(geometry()));
     setCurrentPoint(current.isValid() ? current.row() : m_currentPoint);
     Q_EMIT curveChanged();
     updateMarks();
@@ -64,7 +65,7 @@ void FanCurveChartModel::startOver() {
 void FanCurveChartModel::setSize(const QSizeF& size) {
     if (!assignIfChanged(m_plot, CurvePlotGeometry::plotIn(size)))
         return;
-    m_points.setGeometry(geometry());
+    m_points.setRows(m_identities.rows(geometry()));
     Q_EMIT plotChanged();
     updateMarks();
 }

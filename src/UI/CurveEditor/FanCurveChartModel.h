@@ -2,7 +2,8 @@
 
 #include "UI/CurveEditor/CurveMarks.h"
 #include "UI/CurveEditor/CurvePlotGeometry.h"
-#include "UI/CurveEditor/CurvePointRows.h"
+#include "UI/CurveEditor/CurvePointRow.h"
+#include "UI/DesignSystem/RowListModel.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -19,7 +20,7 @@ class FanCurveChartModel : public QObject {
     Q_PROPERTY(bool isEditable READ isEditable NOTIFY isEditableChanged FINAL)
     Q_PROPERTY(bool canDelete READ canDelete NOTIFY curveChanged FINAL)
     Q_PROPERTY(QRectF plot READ plot NOTIFY plotChanged FINAL)
-    Q_PROPERTY(kestrowind::CurvePointRows* points READ points CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* points READ points CONSTANT FINAL)
     Q_PROPERTY(Motion motion READ motion NOTIFY motionChanged FINAL)
     Q_PROPERTY(int draggedPoint READ draggedPoint NOTIFY draggedPointChanged FINAL)
     Q_PROPERTY(int hoveredPoint READ hoveredPoint NOTIFY marksChanged FINAL)
@@ -67,7 +68,8 @@ public:
     [[nodiscard]] bool canDelete() const { return m_curve.points().size() > 1; }
     [[nodiscard]] const QRectF& plot() const { return m_plot; }
     [[nodiscard]] CurvePlotGeometry geometry() const;
-    [[nodiscard]] CurvePointRows* points() { return &m_points; }
+    /// By their order.
+    [[nodiscard]] auto* points() { return &m_points; }
     [[nodiscard]] Motion motion() const { return m_motion; }
     /// These are -1 for none.
     [[nodiscard]] int draggedPoint() const { return m_draggedPoint; }
@@ -162,7 +164,8 @@ private:
     std::optional<double> m_liveTemperature;
     std::optional<SMCFanReading> m_fan;
     QRectF m_plot;
-    CurvePointRows m_points;
+    CurvePointIdentities m_identities;
+    RowListModel<CurvePointRow, &CurvePointRow::identity> m_points;
     Motion m_motion = Motion::None;
     int m_draggedPoint = -1;
     int m_hoveredPoint = -1;

@@ -101,14 +101,10 @@ QString CurvesModel::customizeHelp() const {
                : localized("presets.limitReachedHelp").arg(PresetStore::maximumUserPresets);
 }
 
-void CurvesModel::selectUserPreset(int row) {
-    if (row >= 0 && row < m_userPresets.rowCount())
-        setSelectedPresetID(m_userPresets.choices()[row].id);
-}
-
-void CurvesModel::selectBuiltInPreset(int row) {
-    if (row >= 0 && row < m_builtInPresets.rowCount())
-        setSelectedPresetID(m_builtInPresets.choices()[row].id);
+void CurvesModel::select(const QString& slotID) {
+    const auto slot = PresetSlot::fromId(slotID);
+    if (slot && !slot->isAutomatic())
+        setSelectedPresetID(slot->presetID());
 }
 
 void CurvesModel::createPreset() {
@@ -305,17 +301,17 @@ void CurvesModel::refresh() {
 
 void CurvesModel::refreshChoices() {
     const auto selected = selectedPreset();
-    QList<PresetChoices::Choice> user;
-    QList<PresetChoices::Choice> builtIn;
+    QList<Choice> user;
+    QList<Choice> builtIn;
     for (const FanPreset& preset : m_appState.presets().presets()) {
         (preset.isBuiltIn ? builtIn : user)
-            .append({.id = preset.id,
-                     .name = oneLine(preset.name),
+            .append({.identifier = PresetSlot::preset(preset.id).id(),
+                     .title = oneLine(preset.name),
                      .symbolName = preset.symbolName,
-                     .isSelected = selected && preset.id == selected->id});
+                     .isChosen = selected && preset.id == selected->id});
     }
-    m_userPresets.setChoices(user);
-    m_builtInPresets.setChoices(builtIn);
+    m_userPresets.setRows(user);
+    m_builtInPresets.setRows(builtIn);
 }
 
 void CurvesModel::refreshTelemetry() {

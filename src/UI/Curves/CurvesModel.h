@@ -3,7 +3,7 @@
 #include "Core/FanPreset.h"
 #include "Core/OneLine.h"
 #include "UI/CurveEditor/FanCurveChartModel.h"
-#include "UI/Curves/PresetChoices.h"
+#include "UI/DesignSystem/Choice.h"
 #include "UI/DesignSystem/VisibilityWatch.h"
 
 #include <QObject>
@@ -39,8 +39,8 @@ class CurvesModel final : public QObject {
     Q_PROPERTY(bool canRedo READ canRedo NOTIFY presetChanged FINAL)
     Q_PROPERTY(QString undoHelp READ undoHelp CONSTANT FINAL)
     Q_PROPERTY(QString redoHelp READ redoHelp CONSTANT FINAL)
-    Q_PROPERTY(kestrowind::PresetChoices* userPresets READ userPresets CONSTANT FINAL)
-    Q_PROPERTY(kestrowind::PresetChoices* builtInPresets READ builtInPresets CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* userPresets READ userPresets CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* builtInPresets READ builtInPresets CONSTANT FINAL)
     Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart CONSTANT FINAL)
     Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged FINAL)
     QML_ELEMENT
@@ -83,12 +83,12 @@ public:
     /// The command with its keys as the platform writes them.
     [[nodiscard]] static QString undoHelp();
     [[nodiscard]] static QString redoHelp();
-    [[nodiscard]] PresetChoices* userPresets() { return &m_userPresets; }
-    [[nodiscard]] PresetChoices* builtInPresets() { return &m_builtInPresets; }
+    [[nodiscard]] ChoiceList* userPresets() { return &m_userPresets; }
+    [[nodiscard]] ChoiceList* builtInPresets() { return &m_builtInPresets; }
     [[nodiscard]] FanCurveChartModel* chart() { return &m_chart; }
 
-    Q_INVOKABLE void selectUserPreset(int row);
-    Q_INVOKABLE void selectBuiltInPreset(int row);
+    /// Ignored for what is no preset's slot.
+    Q_INVOKABLE void select(const QString& slotID);
     /// Adds a preset under a name that no other has, and selects it. It is not activated.
     Q_INVOKABLE void createPreset();
     /// Selects an editable copy of the displayed built-in.
@@ -133,8 +133,8 @@ private:
     std::optional<QUuid> m_selectedPresetID;
     std::optional<FanPreset> m_draftPreset;
     std::optional<FanPreset> m_shown; ///< the displayed preset as of the last refresh
-    PresetChoices m_userPresets;
-    PresetChoices m_builtInPresets;
+    ChoiceList m_userPresets;
+    ChoiceList m_builtInPresets;
     FanCurveChartModel m_chart;
     /// The point whose nudges are in the draft; -1 for none.
     int m_nudgedPoint = -1;

@@ -21,14 +21,14 @@ PopupMenu {
         id: userRows
 
         model: root.model.userPresets
-        delegate: PresetMenuItem { onChosen: root.model.selectUserPreset(index) }
+        delegate: PopupMenuChoiceRow { onChosen: slotID => root.model.select(slotID) }
     }
 
     PopupMenuHeading { text: qsTrId("curves.toolbar.builtInSection") }
 
     Repeater {
         model: root.model.builtInPresets
-        delegate: PresetMenuItem { onChosen: root.model.selectBuiltInPreset(index) }
+        delegate: PopupMenuChoiceRow { onChosen: slotID => root.model.select(slotID) }
     }
 
     PopupMenuSeparator {}

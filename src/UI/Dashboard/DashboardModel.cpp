@@ -49,7 +49,7 @@ void DashboardModel::refreshIfSeen() {
     const TelemetryStore& telemetry = m_appState.telemetry();
     if ((m_visibility.item() && !m_visibility.isSeen()) || select(telemetry) != State::Content)
         return;
-    m_fans.setFans(telemetry.latest()->fans);
+    m_fans.setRows(FanGaugeFacts::of(telemetry.latest()->fans));
     refreshTemperatures();
     refreshHistory();
 }

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "UI/Dashboard/FanGaugeRows.h"
+#include "UI/Dashboard/FanGaugeFacts.h"
 #include "UI/Dashboard/HistoryExport.h"
 #include "UI/Dashboard/LineChart.h"
 #include "UI/Dashboard/TemperatureFacts.h"
+#include "UI/DesignSystem/RowListModel.h"
 #include "UI/DesignSystem/VisibilityWatch.h"
 
 #include <QObject>
@@ -22,7 +23,7 @@ class DashboardModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(State state READ state NOTIFY stateChanged FINAL)
     Q_PROPERTY(bool helperMissing READ helperMissing NOTIFY helperMissingChanged FINAL)
-    Q_PROPERTY(kestrowind::FanGaugeRows* fans READ fans CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* fans READ fans CONSTANT FINAL)
     Q_PROPERTY(kestrowind::TemperatureFacts cpu READ cpu NOTIFY cpuChanged FINAL)
     Q_PROPERTY(kestrowind::TemperatureFacts gpu READ gpu NOTIFY gpuChanged FINAL)
     Q_PROPERTY(QString windowCaption READ windowCaption NOTIFY windowCaptionChanged FINAL)
@@ -49,7 +50,8 @@ public:
 
     [[nodiscard]] State state() const { return m_state; }
     [[nodiscard]] bool helperMissing() const;
-    [[nodiscard]] FanGaugeRows* fans() { return &m_fans; }
+    /// Of the newest sample.
+    [[nodiscard]] auto* fans() { return &m_fans; }
     [[nodiscard]] const TemperatureFacts& cpu() const { return m_cpu; }
     [[nodiscard]] const TemperatureFacts& gpu() const { return m_gpu; }
     [[nodiscard]] const QString& windowCaption() const { return m_windowCaption; }
@@ -82,7 +84,7 @@ private:
 
     AppState& m_appState;
     State m_state = State::Loading;
-    FanGaugeRows m_fans;
+    RowListModel<FanGaugeFacts, &FanGaugeFacts::index> m_fans;
     TemperatureFacts m_cpu;
     TemperatureFacts m_gpu;
     QString m_windowCaption;

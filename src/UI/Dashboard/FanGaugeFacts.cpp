@@ -33,4 +33,11 @@ FanGaugeFacts FanGaugeFacts::of(const SMCFanReading& fan, qsizetype position,
     };
 }
 
+QList<FanGaugeFacts> FanGaugeFacts::of(const std::vector<SMCFanReading>& fans) {
+    QList<FanGaugeFacts> all;
+    for (const SMCFanReading& fan : fans)
+        all.append(of(fan, all.size(), static_cast<qsizetype>(fans.size())));
+    return all;
+}
+
 } // namespace kestrowind

@@ -2,10 +2,28 @@
 
 #include "Core/FanFacts.h"
 
+#include <QList>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+#include <vector>
+
 namespace kestrowind {
 
 /// What the gauge of one fan shows.
 struct FanGaugeFacts {
+    Q_GADGET
+    Q_PROPERTY(QString name MEMBER name CONSTANT FINAL)
+    Q_PROPERTY(QString readout MEMBER readout CONSTANT FINAL)
+    Q_PROPERTY(QString caption MEMBER caption CONSTANT FINAL)
+    Q_PROPERTY(QString spoken MEMBER spoken CONSTANT FINAL)
+    Q_PROPERTY(double fraction MEMBER fraction CONSTANT FINAL)
+    Q_PROPERTY(double revolutionsPerSecond MEMBER revolutionsPerSecond CONSTANT FINAL)
+    Q_PROPERTY(bool isParked MEMBER isParked CONSTANT FINAL)
+    Q_PROPERTY(bool isDashed MEMBER isDashed CONSTANT FINAL)
+    QML_VALUE_TYPE(fanGaugeFacts)
+
+public:
     int index = 0; ///< the fan's number, its identity
     QString name = {};
     QString readout = {};
@@ -20,6 +38,7 @@ struct FanGaugeFacts {
 
     [[nodiscard]] static FanGaugeFacts of(const SMCFanReading& fan, qsizetype position,
                                           qsizetype totalFanCount);
+    [[nodiscard]] static QList<FanGaugeFacts> of(const std::vector<SMCFanReading>& fans);
 };
 
 } // namespace kestrowind

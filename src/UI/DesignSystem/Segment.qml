@@ -6,8 +6,7 @@ PointerWatch {
     id: root
 
     required property int index
-    required property string title
-    required property string symbolName
+    required property choice row
     required property bool isCurrent
     property real padding: 14
 
@@ -17,7 +16,7 @@ PointerWatch {
     height: 26
     activeFocusOnTab: isCurrent || activeFocus
     Accessible.role: Accessible.PageTab
-    Accessible.name: title
+    Accessible.name: row.title
     Accessible.selectable: true
     Accessible.selected: isCurrent
     Accessible.onPressAction: chosen()
@@ -26,8 +25,8 @@ PointerWatch {
         id: label
 
         anchors.centerIn: parent
-        text: root.title
-        symbolName: root.symbolName
+        text: root.row.title
+        symbolName: root.row.symbolName
         font: Typography.weighted(Typography.body, Font.Medium)
         color: root.isCurrent || (root.hovered && root.enabled) ? AppColors.primaryText : AppColors.secondaryText
     }

@@ -1,8 +1,7 @@
 import QtQuick
 import Kestrowind.DesignSystem
 
-// One of a few. The model has the roles title and symbolName; the owner answers selected(index) by
-// setting currentIndex.
+// One of a few choices. The owner answers selected(index) by setting currentIndex.
 FocusScope {
     id: root
 

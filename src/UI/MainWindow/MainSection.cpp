@@ -26,22 +26,13 @@ constexpr std::array descriptions = {
 };
 static_assert(descriptions.size() == mainSections.size());
 
-const Description& description(MainSection section) {
-    return descriptions.at(static_cast<std::size_t>(section));
-}
-
 } // namespace
 
-QString rawValue(MainSection section) {
-    return description(section).rawValue;
-}
-
-QString title(MainSection section) {
-    return localized(description(section).titleKey);
-}
-
-QString symbolName(MainSection section) {
-    return description(section).symbolName;
+Choice sectionChoice(MainSection section) {
+    const Description& description = descriptions.at(static_cast<std::size_t>(section));
+    return {.identifier = description.rawValue,
+            .title = localized(description.titleKey),
+            .symbolName = description.symbolName};
 }
 
 MainSection sectionNamed(const QString& name) {
@@ -50,30 +41,6 @@ MainSection sectionNamed(const QString& name) {
             return candidate.section;
     }
     return MainSection::dashboard;
-}
-
-int MainSectionsModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(mainSections.size());
-}
-
-QVariant MainSectionsModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const MainSection section = mainSections.at(static_cast<std::size_t>(index.row()));
-    switch (role) {
-    case Qt::DisplayRole:
-    case TitleRole:
-        return title(section);
-    case SymbolNameRole:
-        return symbolName(section);
-    default:
-        return {};
-    }
-}
-
-QHash<int, QByteArray> MainSectionsModel::roleNames() const {
-    return {{TitleRole, QByteArrayLiteral("title")},
-            {SymbolNameRole, QByteArrayLiteral("symbolName")}};
 }
 
 } // namespace kestrowind

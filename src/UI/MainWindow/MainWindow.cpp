@@ -150,8 +150,7 @@ void MainWindow::showSection(MainSection section) {
         m_sectionHost->load(view->qmlUrl, {}, view->makeModel ? view->makeModel() : nullptr))
         return;
     m_sectionHost->load(QUrl(u"qrc:/qt/qml/Kestrowind/MainWindow/SectionTitle.qml"_s),
-                        {{u"title"_s, title(section)}, {u"symbolName"_s, symbolName(section)}},
-                        nullptr);
+                        {{u"section"_s, QVariant::fromValue(sectionChoice(section))}}, nullptr);
 }
 
 } // namespace kestrowind

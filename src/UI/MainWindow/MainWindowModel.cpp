@@ -7,7 +7,12 @@ namespace kestrowind {
 MainWindowModel::MainWindowModel(AppState& appState, MainSection section)
     : m_section(section)
     , m_pills(appState)
-    , m_caption(appState) {}
+    , m_caption(appState) {
+    QList<Choice> choices;
+    for (const MainSection each : mainSections)
+        choices.append(sectionChoice(each));
+    m_sections.setRows(choices);
+}
 
 void MainWindowModel::setSection(MainSection section) {
     if (assignIfChanged(m_section, section))
@@ -15,7 +20,7 @@ void MainWindowModel::setSection(MainSection section) {
 }
 
 void MainWindowModel::selectSection(int index) {
-    if (index >= 0 && index < m_sections.rowCount())
+    if (index >= 0 && index < m_sections.count())
         setSection(mainSections.at(static_cast<std::size_t>(index)));
 }
 

@@ -12,7 +12,7 @@ namespace kestrowind {
 /// What the frame of the main window shows and the commands that it takes.
 class MainWindowModel final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(kestrowind::MainSectionsModel* sections READ sections CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* sections READ sections CONSTANT FINAL)
     Q_PROPERTY(int sectionIndex READ sectionIndex NOTIFY sectionChanged FINAL)
     Q_PROPERTY(kestrowind::PresetPillsModel* pills READ pills CONSTANT FINAL)
     Q_PROPERTY(kestrowind::CaptionModel* caption READ caption CONSTANT FINAL)
@@ -22,7 +22,7 @@ class MainWindowModel final : public QObject {
 public:
     MainWindowModel(AppState& appState, MainSection section);
 
-    [[nodiscard]] MainSectionsModel* sections() { return &m_sections; }
+    [[nodiscard]] ChoiceList* sections() { return &m_sections; }
     [[nodiscard]] MainSection section() const { return m_section; }
     void setSection(MainSection section);
     [[nodiscard]] int sectionIndex() const { return static_cast<int>(m_section); }
@@ -39,7 +39,7 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
-    MainSectionsModel m_sections;
+    ChoiceList m_sections;
     MainSection m_section;
     PresetPillsModel m_pills;
     CaptionModel m_caption;

@@ -6,11 +6,11 @@ import Kestrowind.MainWindow
 MenuButton {
     id: root
 
-    required property PillListModel model
+    required property RowList model
     required property bool containsActive
     readonly property int count: model.count
 
-    signal chosen(int index)
+    signal chosen(string slotID)
 
     text: qsTrId("mainWindow.presetBar.morePresets")
     focusPolicy: Qt.TabFocus
@@ -38,17 +38,10 @@ MenuButton {
 
         Repeater {
             model: root.model
-            delegate: PopupMenuChoice {
-                required property int index
-                required property string fullName
-                required property bool isActive
-                required symbolName
-
-                text: fullName
+            delegate: PopupMenuChoiceRow {
                 // The active one among them makes room for its tick in all.
                 checkable: root.containsActive
-                isChosen: isActive
-                onTriggered: root.chosen(index)
+                onChosen: slotID => root.chosen(slotID)
             }
         }
     }

@@ -88,6 +88,16 @@ QList<PresetPill> pills(const QList<PresetSlot>& slotOrder, const QList<FanPrese
     return pills;
 }
 
+QList<Choice> choices(const QList<PresetPill>& pills) {
+    QList<Choice> choices;
+    for (const PresetPill& pill : pills)
+        choices.append({.identifier = pill.slotID(),
+                        .title = pill.fullName,
+                        .symbolName = pill.symbolName,
+                        .isChosen = pill.isActive});
+    return choices;
+}
+
 Row fittingRow(const QList<double>& pillWidths, double availableWidth) {
     for (const qsizetype count : candidateCounts) {
         const Row candidate = row(pillWidths, count);

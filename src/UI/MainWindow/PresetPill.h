@@ -2,9 +2,12 @@
 
 #include "Core/FanPreset.h"
 #include "Core/PresetSlot.h"
+#include "UI/DesignSystem/Choice.h"
 
 #include <QList>
+#include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 #include <optional>
 
@@ -12,13 +15,24 @@ namespace kestrowind {
 
 /// One slot as the preset bar shows it.
 struct PresetPill {
-    PresetSlot slot;
+    Q_GADGET
+    Q_PROPERTY(QString slotID READ slotID CONSTANT FINAL)
+    Q_PROPERTY(QString title MEMBER title CONSTANT FINAL)
+    Q_PROPERTY(QString fullName MEMBER fullName CONSTANT FINAL)
+    Q_PROPERTY(QString symbolName MEMBER symbolName CONSTANT FINAL)
+    Q_PROPERTY(bool isActive MEMBER isActive CONSTANT FINAL)
+    Q_PROPERTY(double width MEMBER width CONSTANT FINAL)
+    QML_VALUE_TYPE(presetPill)
+
+public:
+    PresetSlot slot = PresetSlot::automatic();
     QString title; ///< shortened so that a row of pills stays a row
     QString fullName;
     QString symbolName;
     bool isActive = false;
     double width = 0; ///< points; the same whether active or not, so that choosing moves nothing
 
+    [[nodiscard]] QString slotID() const { return slot.id(); }
     bool operator==(const PresetPill&) const = default;
 };
 
@@ -35,6 +49,8 @@ inline constexpr double overflowWidth = 18 + 2 * 10;
 [[nodiscard]] QList<PresetPill> pills(const QList<PresetSlot>& slotOrder,
                                       const QList<FanPreset>& presets,
                                       const std::optional<QUuid>& activePresetID);
+/// As a menu has them, which never shortens a name.
+[[nodiscard]] QList<Choice> choices(const QList<PresetPill>& pills);
 
 /// A row of the first pills, and the overflow menu if there are more.
 struct Row {

@@ -6,12 +6,7 @@ import Kestrowind.MainWindow
 ChoiceButton {
     id: root
 
-    required property int index
-    required property string title
-    required property string fullName
-    required property string symbolName
-    required property bool isActive
-    required property real pillWidth
+    required property presetPill row
 
     // Grows to 1 as the pill enters the row.
     property real entrance: 1
@@ -20,12 +15,12 @@ ChoiceButton {
 
     signal chosen()
 
-    width: pillWidth
+    width: row.width
     scale: entrance * lift
     z: isLifted ? 1 : 0
     focusPolicy: Qt.NoFocus
-    isChosen: isActive
-    Accessible.name: fullName
+    isChosen: row.isActive
+    Accessible.name: row.fullName
     onClicked: chosen()
 
     Behavior on lift { SpringMotion { timing: Springs.hover } }
@@ -36,7 +31,7 @@ ChoiceButton {
     }
 
     background: PillSurface {
-        isTinted: root.isActive
+        isTinted: root.row.isActive
         isLifted: root.isLifted
         isPressed: root.down
         isFocused: root.activeFocus
@@ -49,14 +44,14 @@ ChoiceButton {
         SymbolLabel {
             anchors.centerIn: parent
             width: Math.min(implicitWidth, parent.width)
-            symbolName: root.symbolName
-            text: root.title
-            font: root.isActive ? Typography.weighted(Typography.callout, Font.DemiBold)
+            symbolName: root.row.symbolName
+            text: root.row.title
+            font: root.row.isActive ? Typography.weighted(Typography.callout, Font.DemiBold)
                                 : Typography.callout
-            color: root.isActive || root.isLifted ? AppColors.primaryText : AppColors.secondaryText
+            color: root.row.isActive || root.isLifted ? AppColors.primaryText : AppColors.secondaryText
         }
     }
 
     // Below the caption, which it would else hide.
-    Tooltip { text: root.fullName; shown: root.hovered; gap: 36 }
+    Tooltip { text: root.row.fullName; shown: root.hovered; gap: 36 }
 }

@@ -46,7 +46,7 @@ FocusScope {
         delegate: PresetPill {
             height: pills.height
             Accessible.description: root.model.hindrance
-            onChosen: root.model.activateShown(index)
+            onChosen: root.model.activate(row.slotID)
         }
 
         add: CollectionMotion { appears: true; travels: false }
@@ -67,6 +67,6 @@ FocusScope {
         Accessible.description: root.model.hindrance
         opacity: root.enabled ? 1 : 0.7
         visible: count > 0
-        onChosen: index => root.model.activateOverflow(index)
+        onChosen: slotID => root.model.activate(slotID)
     }
 }

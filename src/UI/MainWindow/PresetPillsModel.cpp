@@ -24,14 +24,6 @@ void PresetPillsModel::setAvailableWidth(double width) {
     updatePills();
 }
 
-void PresetPillsModel::activateShown(int row) {
-    activate(m_shown, row);
-}
-
-void PresetPillsModel::activateOverflow(int row) {
-    activate(m_overflow, row);
-}
-
 void PresetPillsModel::updatePills() {
     if (!(m_availableWidth > 0))
         return;
@@ -43,16 +35,13 @@ void PresetPillsModel::updatePills() {
         widths.append(pill.width);
     const PresetPills::Row row = PresetPills::fittingRow(widths, m_availableWidth);
 
-    m_shown.setPills(pills.first(row.count));
-    m_overflow.setPills(pills.sliced(row.count));
+    m_shown.setRows(pills.first(row.count));
+    m_overflow.setRows(PresetPills::choices(pills.sliced(row.count)));
     if (assignIfChanged(m_rowWidth, row.width))
         Q_EMIT rowWidthChanged();
-    const auto active = std::ranges::find(m_shown.pills(), true, &PresetPill::isActive);
-    const auto activeRow = active == m_shown.pills().end() ? 0 : active - m_shown.pills().begin();
-    if (assignIfChanged(m_activeRow, static_cast<int>(activeRow)))
+    if (assignIfChanged(m_activeRow, std::max(m_shown.find(true, &PresetPill::isActive), 0)))
         Q_EMIT activeRowChanged();
-    if (assignIfChanged(m_isActiveInOverflow,
-                        std::ranges::any_of(m_overflow.pills(), &PresetPill::isActive)))
+    if (assignIfChanged(m_isActiveInOverflow, m_overflow.find(true, &Choice::isChosen) >= 0))
         Q_EMIT isActiveInOverflowChanged();
 }
 
@@ -62,12 +51,11 @@ QString PresetPillsModel::hindrance() const {
                                                               : state.status->text.string();
 }
 
-void PresetPillsModel::activate(const PillListModel& list, int row) {
-    if (!isSwitchable() || row < 0 || row >= list.count())
+void PresetPillsModel::activate(const QString& slotID) {
+    const auto slot = PresetSlot::fromId(slotID);
+    if (!isSwitchable() || !slot)
         return;
-    // A copy: the activation changes the list.
-    const PresetSlot slot = list.pills().at(row).slot;
-    m_appState.presets().setActivePresetID(slot.presetID());
+    m_appState.presets().setActivePresetID(slot->presetID());
     m_appState.engine().pushSoon();
 }
 

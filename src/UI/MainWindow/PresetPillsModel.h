@@ -1,6 +1,7 @@
 #pragma once
 
-#include "UI/MainWindow/PillListModel.h"
+#include "UI/DesignSystem/Choice.h"
+#include "UI/MainWindow/PresetPill.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -12,8 +13,8 @@ class AppState;
 /// The preset bar: the pills that have room, the overflow menu's items, and what choosing one does.
 class PresetPillsModel final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(kestrowind::PillListModel* shown READ shown CONSTANT FINAL)
-    Q_PROPERTY(kestrowind::PillListModel* overflow READ overflow CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* shown READ shown CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* overflow READ overflow CONSTANT FINAL)
     Q_PROPERTY(double availableWidth READ availableWidth WRITE setAvailableWidth NOTIFY
                    availableWidthChanged FINAL)
     Q_PROPERTY(double rowWidth READ rowWidth NOTIFY rowWidthChanged FINAL)
@@ -30,8 +31,9 @@ class PresetPillsModel final : public QObject {
 public:
     explicit PresetPillsModel(AppState& appState, QObject* parent = nullptr);
 
-    [[nodiscard]] PillListModel* shown() { return &m_shown; }
-    [[nodiscard]] PillListModel* overflow() { return &m_overflow; }
+    [[nodiscard]] auto* shown() { return &m_shown; }
+    /// Under the full names.
+    [[nodiscard]] ChoiceList* overflow() { return &m_overflow; }
     /// Points. No pill is shown before there is room at all.
     [[nodiscard]] double availableWidth() const { return m_availableWidth; }
     void setAvailableWidth(double width);
@@ -47,8 +49,8 @@ public:
     /// The active slot has no pill of its own now.
     [[nodiscard]] bool isActiveInOverflow() const { return m_isActiveInOverflow; }
 
-    Q_INVOKABLE void activateShown(int row);
-    Q_INVOKABLE void activateOverflow(int row);
+    /// Ignored for what is no slot's identifier, and while nothing can be chosen.
+    Q_INVOKABLE void activate(const QString& slotID);
 
 Q_SIGNALS:
     void availableWidthChanged();
@@ -59,11 +61,10 @@ Q_SIGNALS:
 
 private:
     void updatePills();
-    void activate(const PillListModel& list, int row);
 
     AppState& m_appState;
-    PillListModel m_shown;
-    PillListModel m_overflow;
+    RowListModel<PresetPill, &PresetPill::slot> m_shown;
+    ChoiceList m_overflow;
     double m_availableWidth = 0;
     double m_rowWidth = 0;
     int m_activeRow = 0;

@@ -5,12 +5,11 @@ import Kestrowind.DesignSystem
 Item {
     id: root
 
-    required property string title
-    required property string symbolName
+    required property choice section
 
     implicitHeight: 240
     Accessible.role: Accessible.Heading
-    Accessible.name: title
+    Accessible.name: section.title
 
     Column {
         anchors.centerIn: parent
@@ -18,14 +17,14 @@ Item {
 
         Symbol {
             anchors.horizontalCenter: parent.horizontalCenter
-            name: root.symbolName
+            name: root.section.symbolName
             size: 44
             color: AppColors.tertiaryText
         }
 
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: root.title
+            text: root.section.title
             font: Typography.title2
             color: AppColors.secondaryText
         }

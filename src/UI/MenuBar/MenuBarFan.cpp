@@ -9,7 +9,8 @@ MenuBarFan MenuBarFan::of(const SMCFanReading& fan, qsizetype totalFanCount) {
     const FanFacts facts = FanFacts::of(fan, totalFanCount);
     const QString parked = localized("menuBar.fan.parked");
     const bool showsBar = facts.hasFraction && !facts.isStill;
-    return {.name = facts.name,
+    return {.index = facts.index,
+            .name = facts.name,
             .isParked = facts.isStill,
             .speedText = facts.isStill ? parked : facts.speed,
             .spokenText =

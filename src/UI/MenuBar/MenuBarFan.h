@@ -20,6 +20,7 @@ struct MenuBarFan {
     QML_VALUE_TYPE(menuBarFan)
 
 public:
+    int index = 0; ///< the fan's number, its identity
     QString name;
     bool isParked = false;
     QString speedText;  ///< digits, or that the fan is parked

@@ -65,19 +65,17 @@ void MenuBarModel::refreshReadings() {
 
 void MenuBarModel::refreshPresets() {
     const PresetStore& store = m_appState.presets();
-    QList<MenuBarPreset> rows{{.slotID = PresetSlot::automatic().id(),
-                               .title = localized("shared.mode.automatic"),
-                               .symbolName = u"gearshape"_s,
-                               .isActive = !store.activePresetID()}};
+    QList<Choice> rows{{.identifier = PresetSlot::automatic().id(),
+                        .title = localized("shared.mode.automatic"),
+                        .symbolName = u"gearshape"_s,
+                        .isChosen = !store.activePresetID()}};
     for (const FanPreset& preset : store.presets())
-        rows.append({.slotID = PresetSlot::preset(preset.id).id(),
+        rows.append({.identifier = PresetSlot::preset(preset.id).id(),
                      .title = oneLine(preset.name),
                      .symbolName = preset.symbolName,
-                     .isActive = store.activePresetID() == preset.id});
-    const auto active = std::ranges::find(rows, true, &MenuBarPreset::isActive);
-    const int index = active == rows.end() ? -1 : static_cast<int>(active - rows.begin());
+                     .isChosen = store.activePresetID() == preset.id});
     m_presets.setRows(rows);
-    if (assignIfChanged(m_activePresetIndex, index))
+    if (assignIfChanged(m_activePresetIndex, m_presets.find(true, &Choice::isChosen)))
         Q_EMIT activePresetIndexChanged();
 }
 

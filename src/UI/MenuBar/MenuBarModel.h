@@ -1,9 +1,8 @@
 #pragma once
 
+#include "UI/DesignSystem/Choice.h"
 #include "UI/MenuBar/MenuBarFan.h"
-#include "UI/MenuBar/MenuBarPreset.h"
 #include "UI/MenuBar/MenuBarTemperature.h"
-#include "UI/MenuBar/RowListModel.h"
 
 #include <QObject>
 #include <QTimer>
@@ -16,22 +15,15 @@ namespace kestrowind {
 
 class AppState;
 
-/// Tells the linter of QML what the panel's lists are.
-struct ItemModelForeign {
-    Q_GADGET
-    QML_FOREIGN(QAbstractItemModel)
-    QML_ANONYMOUS
-};
-
 /// What the menu-bar panel shows and does. It follows the application's state only while somebody
 /// looks at it.
 class MenuBarModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isWaiting READ isWaiting NOTIFY readingsChanged FINAL)
-    Q_PROPERTY(QAbstractItemModel* fans READ fans CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* fans READ fans CONSTANT FINAL)
     Q_PROPERTY(kestrowind::MenuBarTemperature cpu READ cpu NOTIFY readingsChanged FINAL)
     Q_PROPERTY(kestrowind::MenuBarTemperature gpu READ gpu NOTIFY readingsChanged FINAL)
-    Q_PROPERTY(QAbstractItemModel* presets READ presets CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* presets READ presets CONSTANT FINAL)
     Q_PROPERTY(int activePresetIndex READ activePresetIndex NOTIFY activePresetIndexChanged FINAL)
     Q_PROPERTY(bool isHelperInstalled READ isHelperInstalled NOTIFY helperChanged FINAL)
     Q_PROPERTY(bool isTakingControl READ isTakingControl NOTIFY helperChanged FINAL)
@@ -59,12 +51,12 @@ public:
 
     /// Whether there is no sample yet.
     [[nodiscard]] bool isWaiting() const { return m_readings.isWaiting; }
-    [[nodiscard]] RowListModel<MenuBarFan>* fans() { return &m_fans; }
+    [[nodiscard]] auto* fans() { return &m_fans; }
     [[nodiscard]] const MenuBarTemperature& cpu() const { return m_readings.cpu; }
     [[nodiscard]] const MenuBarTemperature& gpu() const { return m_readings.gpu; }
 
     /// Automatic control, then every preset in the store's order.
-    [[nodiscard]] RowListModel<MenuBarPreset>* presets() { return &m_presets; }
+    [[nodiscard]] ChoiceList* presets() { return &m_presets; }
     /// -1 when none is.
     [[nodiscard]] int activePresetIndex() const { return m_activePresetIndex; }
 
@@ -123,8 +115,8 @@ private:
     AppState& m_appState;
     std::unique_ptr<QObject> m_following; ///< holds the connections to the state
     Readings m_readings;
-    RowListModel<MenuBarFan> m_fans;
-    RowListModel<MenuBarPreset> m_presets;
+    RowListModel<MenuBarFan, &MenuBarFan::index> m_fans;
+    ChoiceList m_presets;
     int m_activePresetIndex = -1;
     Helper m_helper;
     double m_boostPercent = 0;

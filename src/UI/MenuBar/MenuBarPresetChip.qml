@@ -1,12 +1,11 @@
 import QtQuick
 import Kestrowind.DesignSystem
-import Kestrowind.MenuBar
 
 // One choice; a name longer than the panel is cut short.
 ChoiceButton {
     id: root
 
-    required property menuBarPreset row
+    required property choice row
     required property real maximumWidth
 
     leftPadding: 9
@@ -16,12 +15,12 @@ ChoiceButton {
     implicitWidth: Math.min(maximumWidth, Math.ceil(label.implicitWidth) + leftPadding + rightPadding)
     implicitHeight: label.implicitHeight + topPadding + bottomPadding
     text: row.title
-    isChosen: row.isActive
+    isChosen: row.isChosen
 
     background: Item {
         CardBackground {
             anchors.fill: parent
-            visible: root.row.isActive
+            visible: root.row.isChosen
             cornerRadius: height / 2
             tint: Qt.alpha(AppColors.accent, 0.2)
         }
@@ -32,7 +31,7 @@ ChoiceButton {
             color: root.down ? AppColors.pressedFill
                  : root.hovered ? AppColors.hoverFill : "transparent"
             border.width: 1
-            border.color: root.row.isActive ? Qt.alpha(AppColors.accent, 0.5)
+            border.color: root.row.isChosen ? Qt.alpha(AppColors.accent, 0.5)
                                             : Qt.alpha(AppColors.tertiaryText, 0.5)
         }
 
@@ -47,6 +46,6 @@ ChoiceButton {
         text: root.row.title
         font: Typography.caption
         color: AppColors.primaryText
-        symbolColor: root.row.isActive ? AppColors.accent : AppColors.secondaryText
+        symbolColor: root.row.isChosen ? AppColors.accent : AppColors.secondaryText
     }
 }

@@ -66,7 +66,7 @@ Column {
                                                                      : Qt.ClickFocus
                 onClicked: {
                     root.currentIndex = index
-                    root.model.activate(row.slotID)
+                    root.model.activate(row.identifier)
                 }
                 Keys.onLeftPressed: root.moveTo(index - 1)
                 Keys.onUpPressed: root.moveTo(index - 1)

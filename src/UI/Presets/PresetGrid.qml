@@ -51,10 +51,10 @@ Item {
             height: root.cardHeight
             screen: root.model
             isKeyboardInUse: cards.isKeyboardInUse
-            isMenuOpen: menu.visible && menu.slotID === slotID
+            isMenuOpen: menu.visible && menu.row.slotID === row.slotID
             onPressed: cards.isKeyboardInUse = false
             onKeyboardUsed: cards.isKeyboardInUse = true
-            onContextMenuRequested: at => menu.show(this, name, slotID, isEditable, at)
+            onContextMenuRequested: at => menu.show(this, row, at)
             // qmllint enable unqualified
         }
 

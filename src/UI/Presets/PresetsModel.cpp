@@ -54,12 +54,10 @@ QString PresetsModel::limitHelp() const {
 }
 
 void PresetsModel::update() {
-    m_cards.setCards(currentCards());
+    m_cards.setRows(currentCards());
     if (assignIfChanged(m_canAddPreset, m_appState.presets().canAddPreset()))
         Q_EMIT canAddPresetChanged();
-    const auto active = std::ranges::find(m_cards.cards(), true, &PresetCard::isActive);
-    const auto row = active == m_cards.cards().end() ? 0 : active - m_cards.cards().begin();
-    if (assignIfChanged(m_activeRow, static_cast<int>(row)))
+    if (assignIfChanged(m_activeRow, std::max(m_cards.find(true, &PresetCard::isActive), 0)))
         Q_EMIT activeRowChanged();
 }
 
@@ -115,10 +113,9 @@ void PresetsModel::createPreset() {
 }
 
 void PresetsModel::tellCreated(const FanPreset& created) {
-    const auto found =
-        std::ranges::find(m_cards.cards(), PresetSlot::preset(created.id), &PresetCard::slot);
-    if (found != m_cards.cards().end())
-        Q_EMIT cardCreated(static_cast<int>(found - m_cards.cards().begin()));
+    const int row = m_cards.find(PresetSlot::preset(created.id));
+    if (row >= 0)
+        Q_EMIT cardCreated(row);
 }
 
 bool PresetsModel::drop(const QString& text, const QString& ontoSlotID) {
@@ -132,12 +129,12 @@ bool PresetsModel::drop(const QString& text, const QString& ontoSlotID) {
 
 void PresetsModel::moveBy(int row, int places) {
     const qsizetype onto = row + places;
-    const auto count = m_cards.cards().size();
+    const auto count = m_cards.rows().size();
     if (row < 0 || row >= count || onto < 0 || onto >= count)
         return;
     // Copies: the move changes the list.
-    const PresetSlot slot = m_cards.cards().at(row).slot;
-    const PresetSlot target = m_cards.cards().at(onto).slot;
+    const PresetSlot slot = m_cards.rows().at(row).slot;
+    const PresetSlot target = m_cards.rows().at(onto).slot;
     m_appState.presets().moveSlot(slot, target);
 }
 

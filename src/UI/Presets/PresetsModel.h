@@ -1,8 +1,9 @@
 #pragma once
 
 #include "Core/FanPreset.h"
+#include "UI/DesignSystem/RowListModel.h"
 #include "UI/Presets/CardGrid.h"
-#include "UI/Presets/PresetCards.h"
+#include "UI/Presets/PresetCard.h"
 #include "UI/Presets/PresetExchange.h"
 
 #include <QObject>
@@ -18,7 +19,7 @@ class AppState;
 /// their text identifiers; what names none is ignored. Belongs to the main thread.
 class PresetsModel final : public QObject {
     Q_OBJECT
-    Q_PROPERTY(kestrowind::PresetCards* cards READ cards CONSTANT FINAL)
+    Q_PROPERTY(kestrowind::RowList* cards READ cards CONSTANT FINAL)
     Q_PROPERTY(kestrowind::PresetExchange* exchange READ exchange CONSTANT FINAL)
     Q_PROPERTY(bool canAddPreset READ canAddPreset NOTIFY canAddPresetChanged FINAL)
     Q_PROPERTY(QString limitHelp READ limitHelp NOTIFY canAddPresetChanged FINAL)
@@ -43,7 +44,8 @@ public:
     /// Both must outlive the model.
     PresetsModel(AppState& appState, FileDialogs& fileDialogs, QObject* parent = nullptr);
 
-    [[nodiscard]] PresetCards* cards() { return &m_cards; }
+    /// In the user's order.
+    [[nodiscard]] auto* cards() { return &m_cards; }
     [[nodiscard]] PresetExchange* exchange() { return &m_exchange; }
     [[nodiscard]] bool canAddPreset() const { return m_canAddPreset; }
     /// Why no preset can be added; empty while one can.
@@ -109,7 +111,7 @@ private:
     void beginRenaming(const FanPreset& preset);
 
     AppState& m_appState;
-    PresetCards m_cards;
+    RowListModel<PresetCard, &PresetCard::slot> m_cards;
     PresetExchange m_exchange;
     bool m_canAddPreset;
     int m_activeRow = 0;

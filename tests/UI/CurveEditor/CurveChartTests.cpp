@@ -161,20 +161,18 @@ TEST_F(CurveChart, AddsPointsForThoseWhoCannotPoint) {
 TEST_F(CurveChart, KeepsWhatShowsAPointWithIt) {
     QSignalSpy inserted(chart.points(), &QAbstractItemModel::rowsInserted);
     QSignalSpy removed(chart.points(), &QAbstractItemModel::rowsRemoved);
-    const auto value = [&](int row, int role) {
-        return chart.points()->data(chart.points()->index(row), role);
-    };
+    const auto row = [&](int index) { return chart.points()->rows()[index]; };
     chart.setCurve(FanCurve({{40, 20}, {50, 90}, {60, 50}, {80, 100}}));
     ASSERT_EQ(inserted.size(), 1);
     EXPECT_EQ(inserted[0][1].toInt(), 1);
-    EXPECT_EQ(value(2, CurvePointRows::SpokenLabelRole), u"Point 3"_s);
-    EXPECT_EQ(value(2, CurvePointRows::SpokenValueRole), u"60 °C, 50 percent"_s);
+    EXPECT_EQ(row(2).spokenLabel, u"Point 3"_s);
+    EXPECT_EQ(row(2).spokenValue, u"60 °C, 50 percent"_s);
     chart.setCurve(FanCurve({{40, 20}, {50, 90}, {80, 100}}));
     ASSERT_EQ(removed.size(), 1);
     EXPECT_EQ(removed[0][1].toInt(), 2);
-    EXPECT_EQ(value(2, CurvePointRows::XRole), 300);
+    EXPECT_EQ(row(2).x, 300);
     chart.setSize({900 + 64, 200 + 44});
-    EXPECT_EQ(value(2, CurvePointRows::XRole), 600);
+    EXPECT_EQ(row(2).x, 600);
 }
 
 } // namespace

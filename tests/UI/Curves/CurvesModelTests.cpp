@@ -42,6 +42,8 @@ protected:
         model->chart()->setSize({450 + 64, 200 + 44}); // 5 points a degree, 2 a percent
         return *model;
     }
+    void chooseUser(int row) { model->select(model->userPresets()->rows()[row].identifier); }
+    void chooseCool() { model->select(model->builtInPresets()->rows().first().identifier); }
     void sample(double temperature, int fanCount) {
         const std::vector<double> speeds(static_cast<std::size_t>(fanCount), 2000);
         state->telemetry().ingest(sampleAt(0, temperature, 0, speeds, 6001));
@@ -76,11 +78,11 @@ TEST_F(CurvesScreen, ChoosesWhatIsChosenElseActiveElseTheUsersElseCool) {
     state->presets().setActivePresetID(FanPreset::fullSpeedID);
     EXPECT_EQ(model->presetName(), u"A"_s) << "independent of the active one";
     EXPECT_EQ(reopen().presetName(), u"Full Speed"_s);
-    model->selectUserPreset(1);
+    chooseUser(1);
     EXPECT_EQ(model->presetName(), u"B"_s);
-    EXPECT_TRUE(model->userPresets()->choices()[1].isSelected);
+    EXPECT_TRUE(model->userPresets()->rows()[1].isChosen);
     EXPECT_EQ(model->builtInPresets()->rowCount(), 2);
-    model->selectUserPreset(2);
+    model->select(u"automatic"_s);
     EXPECT_EQ(model->presetName(), u"B"_s);
     state->presets().remove(*model->displayedPreset());
     EXPECT_EQ(model->presetName(), u"Full Speed"_s);
@@ -92,7 +94,7 @@ TEST_F(CurvesScreen, MakesPresetsUpToTheLimitUnderNamesOfTheirOwn) {
     model->createPreset();
     EXPECT_EQ(model->presetName(), u"New Preset 2"_s);
     EXPECT_FALSE(state->presets().activePresetID());
-    model->selectBuiltInPreset(0);
+    chooseCool();
     model->duplicateForEditing();
     EXPECT_EQ(model->presetName(), u"Cool Copy"_s);
     EXPECT_EQ(model->chart()->curve().points().size(), 6);
@@ -100,7 +102,7 @@ TEST_F(CurvesScreen, MakesPresetsUpToTheLimitUnderNamesOfTheirOwn) {
     EXPECT_EQ(state->presets().presets().size(), 5) << "a copy is no built-in";
 
     EXPECT_FALSE(model->canAddPreset());
-    model->selectBuiltInPreset(0);
+    chooseCool();
     EXPECT_THAT(model->customizeHelp().toStdString(), testing::HasSubstr("3"));
     model->createPreset();
     model->duplicateForEditing();
@@ -148,7 +150,7 @@ TEST_F(CurvesScreen, DiscardsADragThatIsCancelledOrLeft) {
     open({preset(u"A"_s), preset(u"B"_s)});
     const ino_t before = fileNumber();
     const auto end = [&](const std::function<void()>& how) {
-        model->selectUserPreset(0);
+        chooseUser(0);
         model->chart()->drag(1, {300, 20});
         ASSERT_TRUE(model->draftPreset());
         how();
@@ -160,9 +162,9 @@ TEST_F(CurvesScreen, DiscardsADragThatIsCancelledOrLeft) {
         EXPECT_EQ(fileNumber(), before);
     };
     end([&] { model->chart()->cancelDrag(); });
-    end([&] { model->selectUserPreset(1); });
-    end([&] { model->selectBuiltInPreset(0); });
-    model->selectUserPreset(0);
+    end([&] { chooseUser(1); });
+    end([&] { chooseCool(); });
+    chooseUser(0);
     model->chart()->drag(1, {300, 20});
     state->presets().remove(*state->presets().preset(*model->selectedPresetID()));
     EXPECT_EQ(model->chart()->draggedPoint(), -1) << "the other preset is not dragged on";
@@ -186,7 +188,7 @@ TEST_F(CurvesScreen, AddsAndDeletesWithinTheRules) {
     Q_EMIT model->chart()->deletePointRequested(5);
     EXPECT_EQ(stored()[0].points().size(), 1);
 
-    model->selectBuiltInPreset(0);
+    chooseCool();
     const ino_t before = fileNumber();
     Q_EMIT model->chart()->addPoint(90, 50);
     Q_EMIT model->chart()->movePoint(0, 90, 50, true);
@@ -203,9 +205,10 @@ TEST_F(CurvesScreen, TakesEditsBackAndMakesThemAgain) {
     model->chart()->pressKey(0, Qt::Key_Right, Qt::NoModifier);
     model->chart()->deletePoint(1);
     const QList<FanCurve> edited = stored();
-    model->selectUserPreset(1);
+    chooseUser(1);
     EXPECT_FALSE(model->canUndo()) << "each preset has its own";
-    reopen().selectUserPreset(0);
+    reopen();
+    chooseUser(0);
     EXPECT_TRUE(model->canUndo()) << "for the run of the application";
     model->undo();
     EXPECT_EQ(stored()[0].points().size(), 3);
@@ -242,7 +245,7 @@ TEST_F(CurvesScreen, StoresARowOfNudgesAsOneEdit) {
             list.append(point.percent);
         return list;
     };
-    model->selectUserPreset(1);
+    chooseUser(1);
     const ino_t before = fileNumber();
     nudge(2, 5); // at the top already
     EXPECT_FALSE(model->canUndo());
@@ -262,9 +265,9 @@ TEST_F(CurvesScreen, StoresARowOfNudgesAsOneEdit) {
     EXPECT_EQ(percents(), QList<double>({21, 53, 100}));
     model->chart()->cancelDrag();
     nudge(1, 1);
-    model->selectUserPreset(0);
+    chooseUser(0);
     EXPECT_EQ(percents(), QList<double>({21, 54, 100}));
-    model->selectUserPreset(1);
+    chooseUser(1);
     nudge(1, 1);
     FanPreset renamed = state->presets().presets().last();
     renamed.name = u"C"_s;
@@ -277,7 +280,8 @@ TEST_F(CurvesScreen, StoresARowOfNudgesAsOneEdit) {
     EXPECT_EQ(percents(), QList<double>({21, 56}));
 
     nudgePause = 1ms;
-    reopen().selectUserPreset(1);
+    reopen();
+    chooseUser(1);
     nudge(1, 1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return percents() == QList<double>({21, 57}); }));
     state->presets().remove(state->presets().presets().last());

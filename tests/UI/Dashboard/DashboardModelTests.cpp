@@ -49,9 +49,7 @@ TEST(FanGaugeFacts, ShowsSpeedAndSpin) {
 class DashboardModelTest : public testing::Test {
 protected:
     void ingest(const TelemetrySample& sample) { state.telemetry().ingest(sample); }
-    QVariant fan(int row, FanGaugeRows::Role role) {
-        return model.fans()->data(model.fans()->index(row), role);
-    }
+    const FanGaugeFacts& fan(int row) { return model.fans()->rows().at(row); }
 
     TestState state;
     DashboardModel model{*state.appState, state.fileDialogs};
@@ -76,33 +74,33 @@ TEST_F(DashboardModelTest, ChoosesItsState) {
 TEST_F(DashboardModelTest, KeepsTheRowsOfFansThatStay) {
     ingest(sampleAt(0, 50, 50, {2000, 2100}));
     ASSERT_EQ(model.fans()->rowCount(), 2);
-    EXPECT_EQ(fan(0, FanGaugeRows::NameRole), localized("shared.fan.left"));
+    EXPECT_EQ(fan(0).name, localized("shared.fan.left"));
 
     QSignalSpy changed(model.fans(), &QAbstractItemModel::dataChanged);
     QSignalSpy inserted(model.fans(), &QAbstractItemModel::rowsInserted);
     QSignalSpy removed(model.fans(), &QAbstractItemModel::rowsRemoved);
     QSignalSpy reset(model.fans(), &QAbstractItemModel::modelReset);
-    QSignalSpy several(model.fans(), &FanGaugeRows::hasSeveralChanged);
+    QSignalSpy count(model.fans(), &RowList::countChanged);
     // 2100.4 reads and turns as 2100 does.
     ingest(sampleAt(2, 50, 50, {2050, 2100.4}));
     ASSERT_EQ(changed.size(), 1);
     EXPECT_EQ(changed[0][0].toModelIndex().row(), 0);
-    EXPECT_EQ(fan(0, FanGaugeRows::ReadoutRole), u"2050"_s);
-    EXPECT_EQ(inserted.size() + removed.size() + reset.size() + several.size(), 0);
+    EXPECT_EQ(fan(0).readout, u"2050"_s);
+    EXPECT_EQ(inserted.size() + removed.size() + reset.size() + count.size(), 0);
 
     ingest(sampleAt(4, 50, 50, {2050}));
-    EXPECT_EQ(fan(0, FanGaugeRows::NameRole), localized("shared.fan.numbered").arg(1));
+    EXPECT_EQ(fan(0).name, localized("shared.fan.numbered").arg(1));
     ingest(sampleAt(6, 50, 50, {2050, 2100}));
     EXPECT_EQ(removed.size(), 1);
     EXPECT_EQ(inserted.size(), 1);
-    EXPECT_EQ(several.size(), 2);
+    EXPECT_EQ(count.size(), 2);
 
     TelemetrySample other = sampleAt(8, 50, 50, {2050, 2100});
     other.fans.erase(other.fans.begin());
     ingest(other);
     EXPECT_EQ(removed.last()[1].toInt(), 0) << "the row of the first fan is not the other's";
     ASSERT_EQ(model.fans()->rowCount(), 1);
-    EXPECT_EQ(fan(0, FanGaugeRows::NameRole), localized("shared.fan.numbered").arg(2));
+    EXPECT_EQ(fan(0).name, localized("shared.fan.numbered").arg(2));
 }
 
 TEST_F(DashboardModelTest, ShowsAverageSmoothedMaximumAndPeak) {

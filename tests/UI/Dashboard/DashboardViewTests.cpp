@@ -94,7 +94,7 @@ TEST_F(DashboardViewTest, RestsWhileNobodySeesIt) {
     EXPECT_EQ(history.size(), 1);
     view.rootObject()->setVisible(true);
     EXPECT_EQ(history.size(), 2);
-    EXPECT_EQ(model.fans()->data(model.fans()->index(0), FanGaugeRows::ReadoutRole), u"4000"_s);
+    EXPECT_EQ(model.fans()->rows().front().readout, u"4000"_s);
 }
 
 TEST_F(DashboardViewTest, SavesTheHistoryOrSaysWhyNot) {

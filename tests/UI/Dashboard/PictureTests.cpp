@@ -1,3 +1,4 @@
+#include "UI/Dashboard/FanGaugeFacts.h"
 #include "UI/Dashboard/FanSpeedHistory.h"
 #include "UI/Dashboard/HistoryChart.h"
 #include "UI/Dashboard/TemperatureHistory.h"
@@ -53,16 +54,13 @@ TEST(PictureTests, AGaugeStandsAroundItsSpeedAndAboveItsName) {
     Scene scene(R"(
         import Kestrowind.Dashboard
         Column {
+            property fanGaugeFacts left
+            property fanGaugeFacts right
+
             Row {
                 padding: 16; spacing: 40
-                FanGaugeView {
-                    name: 'Left'; readout: '2317'; caption: 'rpm'; spoken: ''
-                    fraction: 0.35; revolutionsPerSecond: 0; isParked: false; showsName: true
-                }
-                FanGaugeView {
-                    name: 'Right'; readout: '0'; caption: 'parked'; spoken: ''
-                    fraction: 0; revolutionsPerSecond: 0; isParked: true; showsName: true
-                }
+                FanGaugeView { row: left; showsName: true }
+                FanGaugeView { row: right; showsName: true }
             }
             Row {
                 padding: 16; spacing: 16
@@ -71,6 +69,14 @@ TEST(PictureTests, AGaugeStandsAroundItsSpeedAndAboveItsName) {
             }
         })",
                 {292, 204});
+    scene.item().setProperty(
+        "left",
+        QVariant::fromValue(FanGaugeFacts{
+            .name = u"Left"_s, .readout = u"2317"_s, .caption = u"rpm"_s, .fraction = 0.35}));
+    scene.item().setProperty(
+        "right",
+        QVariant::fromValue(FanGaugeFacts{
+            .name = u"Right"_s, .readout = u"0"_s, .caption = u"parked"_s, .isParked = true}));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
     EXPECT_TRUE(looksLike(u"Dashboard/gauges"_s, scene.inBothSchemes()));
 }

@@ -1,5 +1,6 @@
 #include "UI/DesignSystem/Scene.h"
 
+#include "UI/DesignSystem/Choice.h"
 #include "UI/DesignSystem/Spinner.h"
 
 #include <QAccessible>
@@ -10,6 +11,8 @@
 
 namespace kestrowind {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 class Shown : public Scene {
 public:
@@ -50,9 +53,10 @@ TEST(ControlTests, ButtonsAreClickedBySpaceReturnAndPointerUnlessDisabled) {
 
 TEST(ControlTests, WhatLiesUnderThePointerIsLit) {
     for (const char* body :
-         {"Segment { index: 0; title: 'Curves'; symbolName: 'fanblades'; isCurrent: false }",
+         {"Segment { index: 0; row: section; padding: 40; isCurrent: false }",
           "PushButton { text: 'New'; toolTip: 'No more than three'; enabled: false }"}) {
-        Shown scene(QByteArray("Item { Repeater { model: 1\n") + body + "} }");
+        Shown scene(QByteArray("Item { property choice section; Repeater { model: 1\n") + body +
+                    "} }");
         const auto* const control = scene.item().childItems().value(0);
         ASSERT_NE(control, nullptr);
         for (const int x : {20, 30, 250}) {
@@ -114,10 +118,11 @@ TEST(ControlTests, ASpinnerTurnsOnlyWhileSomebodySeesIt) {
 }
 
 TEST(ControlTests, ASegmentedPickerAsksForTheNeighbourOrTheClickedSegmentOnly) {
-    Shown scene("SegmentedPicker { currentIndex: 1; label: 'Section'\n"
-                " model: ListModel { ListElement { title: 'One'; symbolName: '' }\n"
-                " ListElement { title: 'Two'; symbolName: 'plus' }\n"
-                " ListElement { title: 'Three'; symbolName: '' } } }");
+    ChoiceList sections;
+    sections.setRows({{u"1"_s, u"One"_s}, {u"2"_s, u"Two"_s, u"plus"_s}, {u"3"_s, u"Three"_s}});
+    Shown scene("SegmentedPicker { currentIndex: 1; label: 'Section' }");
+    scene.item().setProperty("model", QVariant::fromValue<QObject*>(&sections));
+    static_cast<void>(scene.window().grabWindow()); // which puts the segments side by side
     QSignalSpy selected(&scene.item(), SIGNAL(selected(int)));
     scene.press(Qt::Key_Right);
     ASSERT_EQ(selected.count(), 1);

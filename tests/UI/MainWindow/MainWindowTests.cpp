@@ -175,7 +175,7 @@ TEST_F(MainWindowTest, ShowsTheTitleOfASectionThatCannotBeMade) {
     scene->show();
     scene->selectSection(MainSection::settings);
     ASSERT_TRUE(hasContent());
-    EXPECT_EQ(host().childItems().last()->property("title").toString(), u"Settings"_s);
+    EXPECT_EQ(host().childItems().last()->property("section").value<Choice>().title, u"Settings"_s);
 }
 
 TEST_F(MainWindowTest, TakesItsCommandsFromTheKeyboard) {

@@ -13,10 +13,10 @@ using namespace Qt::StringLiterals;
 using MessageTone::Tone;
 using testing::ElementsAre;
 
-QStringList titles(const PillListModel* list) {
+QStringList titles(const auto* list) {
     QStringList titles;
-    for (const PresetPill& pill : list->pills())
-        titles.append(pill.title);
+    for (const auto& each : list->rows())
+        titles.append(each.title);
     return titles;
 }
 
@@ -67,32 +67,33 @@ TEST(PresetPillsModelTest, ShowsTheSlotsInOrderAndTheRestInTheMenu) {
     model.setAvailableWidth(2000);
     EXPECT_THAT(titles(model.shown()),
                 ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s, u"Performan…"_s));
-    EXPECT_EQ(model.shown()->pills().last().fullName, u"Performance"_s);
-    EXPECT_TRUE(model.shown()->pills().first().isActive);
+    EXPECT_EQ(model.shown()->rows().last().fullName, u"Performance"_s);
+    EXPECT_TRUE(model.shown()->rows().first().isActive);
 
     state.presets().setActivePresetID(mine->id);
     model.setAvailableWidth(model.rowWidth() - 1);
     EXPECT_THAT(titles(model.shown()), ElementsAre(u"Automatic"_s, u"Cool"_s));
-    EXPECT_THAT(titles(model.overflow()), ElementsAre(u"Full Speed"_s, u"Performan…"_s));
+    EXPECT_THAT(titles(model.overflow()), ElementsAre(u"Full Speed"_s, u"Performance"_s));
     EXPECT_TRUE(model.isActiveInOverflow());
-    model.activateOverflow(0);
+    model.activate(model.overflow()->rows().first().identifier);
     EXPECT_EQ(state.presets().activePresetID(), FanPreset::fullSpeedID);
-    model.activateShown(0);
+    model.activate(u"automatic"_s);
     EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
     EXPECT_FALSE(model.isActiveInOverflow());
-    model.activateShown(7);
+    model.activate(u"nonsense"_s);
+    EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
 }
 
 TEST(PresetPillsModelTest, TellsMovesAndSingleChangesOnly) {
     TestState state;
     PresetPillsModel model(*state.appState);
     model.setAvailableWidth(2000);
-    PillListModel& shown = *model.shown();
-    QSignalSpy inserted(&shown, &PillListModel::rowsInserted);
-    QSignalSpy removed(&shown, &PillListModel::rowsRemoved);
-    QSignalSpy moved(&shown, &PillListModel::rowsMoved);
-    QSignalSpy changed(&shown, &PillListModel::dataChanged);
-    QSignalSpy reset(&shown, &PillListModel::modelReset);
+    RowList& shown = *model.shown();
+    QSignalSpy inserted(&shown, &RowList::rowsInserted);
+    QSignalSpy removed(&shown, &RowList::rowsRemoved);
+    QSignalSpy moved(&shown, &RowList::rowsMoved);
+    QSignalSpy changed(&shown, &RowList::dataChanged);
+    QSignalSpy reset(&shown, &RowList::modelReset);
 
     state.presets().moveSlot(PresetSlot::automatic(), PresetSlot::preset(FanPreset::fullSpeedID));
     EXPECT_GT(moved.size(), 0);
@@ -114,7 +115,7 @@ TEST(PresetPillsModelTest, SwitchesOnlyWhileTheHelperCan) {
     QSignalSpy changed(&model, &PresetPillsModel::hindranceChanged);
     state.setPhase(HelperControlPhase::unlocking);
     EXPECT_FALSE(model.isSwitchable());
-    model.activateShown(1);
+    model.activate(model.shown()->rows()[1].slotID());
     EXPECT_EQ(state.presets().activePresetID(), std::nullopt);
     state.setPhase(HelperControlPhase::failed);
     EXPECT_TRUE(model.isSwitchable());

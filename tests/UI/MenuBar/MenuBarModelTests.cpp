@@ -19,8 +19,8 @@ protected:
 
     QStringList activeTitles() {
         QStringList titles;
-        for (const MenuBarPreset& preset : model.presets()->rows()) {
-            if (preset.isActive)
+        for (const Choice& preset : model.presets()->rows()) {
+            if (preset.isChosen)
                 titles.append(preset.title);
         }
         return titles;
@@ -73,7 +73,7 @@ TEST_F(MenuBarModelTest, FollowsTheSamplesInPlaceAndOnlyWhileItShall) {
     EXPECT_EQ(model.gpu().text, u"71°C"_s);
     ingest(sampleAt(2, 71.5, 71.4, {2000, 2200}));
     EXPECT_EQ(changed.size(), 1);
-    EXPECT_EQ(inserted.size(), 1);
+    EXPECT_EQ(inserted.size(), 2);
     EXPECT_EQ(readings.size(), 1);
     ingest(sampleAt(4, 71.5, std::numeric_limits<double>::infinity()));
     ingest(sampleAt(6, 71.5, std::numeric_limits<double>::quiet_NaN()));
@@ -81,7 +81,7 @@ TEST_F(MenuBarModelTest, FollowsTheSamplesInPlaceAndOnlyWhileItShall) {
     EXPECT_EQ(model.gpu().text, u"--°C"_s);
     EXPECT_FALSE(model.gpu().isKnown);
     EXPECT_EQ(readings.size(), 2);
-    EXPECT_EQ(removed.size(), 1);
+    EXPECT_EQ(removed.size(), 2);
 
     model.setIsFollowing(false);
     ingest(sampleAt(8, 40, 40, {2000}));
@@ -100,12 +100,12 @@ TEST_F(MenuBarModelTest, OffersAutomaticAndEveryPresetInTheStoresOrder) {
     const auto mine = state.presets().addPreset(u"Mine"_s);
     state.presets().moveSlot(PresetSlot::preset(mine->id), PresetSlot::automatic());
     QStringList shown;
-    for (const MenuBarPreset& preset : model.presets()->rows())
+    for (const Choice& preset : model.presets()->rows())
         shown.append(preset.title);
     EXPECT_EQ(shown, (QStringList{u"Automatic"_s, u"Cool"_s, u"Full Speed"_s, u"Mine"_s}));
     EXPECT_EQ(activeTitles(), QStringList(u"Automatic"_s));
 
-    model.activate(model.presets()->rows().back().slotID);
+    model.activate(model.presets()->rows().back().identifier);
     EXPECT_EQ(state.presets().activePresetID(), mine->id);
     EXPECT_EQ(activeTitles(), QStringList(u"Mine"_s));
     EXPECT_EQ(model.activePresetIndex(), 3);

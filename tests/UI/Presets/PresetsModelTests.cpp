@@ -67,7 +67,7 @@ class PresetsModelTest : public testing::Test {
 protected:
     QStringList names() {
         QStringList names;
-        for (const PresetCard& card : model.cards()->cards())
+        for (const PresetCard& card : model.cards()->rows())
             names.append(card.name);
         return names;
     }
@@ -79,16 +79,16 @@ protected:
 TEST_F(PresetsModelTest, ShowsTheSlotsInTheUsersOrder) {
     EXPECT_THAT(names(), ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
     EXPECT_EQ(model.activeRow(), 0);
-    EXPECT_TRUE(model.cards()->cards()[0].isActive);
-    EXPECT_FALSE(model.cards()->cards()[1].isEditable);
+    EXPECT_TRUE(model.cards()->rows()[0].isActive);
+    EXPECT_FALSE(model.cards()->rows()[1].isEditable);
 
     auto mine = state.presets().addPreset(u"Two\nlines"_s);
     mine->curves.clear();
     state.presets().update(*mine);
     state.presets().moveSlot(PresetSlot::preset(mine->id), PresetSlot::automatic());
     EXPECT_THAT(names(), ElementsAre(u"Two lines"_s, u"Automatic"_s, u"Cool"_s, u"Full Speed"_s));
-    EXPECT_TRUE(model.cards()->cards().front().isEditable);
-    EXPECT_EQ(model.cards()->cards().front().curve, ThumbnailCurve());
+    EXPECT_TRUE(model.cards()->rows().front().isEditable);
+    EXPECT_EQ(model.cards()->rows().front().curve, ThumbnailCurve());
     EXPECT_EQ(model.activeRow(), 1);
 }
 
@@ -98,7 +98,7 @@ TEST(PresetCardsTest, BearASlotThatWasSavedTwice) {
     ASSERT_EQ(model.cards()->rowCount(), 4);
     EXPECT_TRUE(model.drop(u"automatic"_s, fullSpeedID));
     EXPECT_EQ(model.cards()->rowCount(), 4);
-    EXPECT_EQ(model.cards()->cards()[1].name, u"Cool"_s);
+    EXPECT_EQ(model.cards()->rows()[1].name, u"Cool"_s);
 }
 
 TEST_F(PresetsModelTest, RefusesWhateverTextNamesNoSlot) {

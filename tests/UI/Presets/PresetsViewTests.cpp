@@ -31,7 +31,7 @@ protected:
     }
     QStringList order() {
         QStringList names;
-        for (const PresetCard& card : model.cards()->cards())
+        for (const PresetCard& card : model.cards()->rows())
             names.append(card.name);
         return names;
     }
@@ -70,7 +70,7 @@ TEST_F(PresetsViewTest, AClickActivatesACardAndMakesAPreset) {
     view.press(Qt::Key_Escape);
     EXPECT_FALSE(model.isRenaming());
     ASSERT_TRUE(view.isGone(u"Cancel"_s));
-    EXPECT_EQ(view.named(u"New Preset"_s)->property("isActive"), false)
+    EXPECT_EQ(view.named(u"New Preset"_s)->property("isChosen"), false)
         << "the card now, not the button";
     view.click(u"No Room for More"_s);
     EXPECT_FALSE(model.isRenaming());
@@ -263,7 +263,7 @@ TEST_F(PresetsViewTest, AwkwardNamesStayInsideTheirCards) {
           u"👩🏽‍🍳 Z\u0351\u036b\u0343\u036a\u0302\u036b\u033d\u034f"_s.repeated(12)}) {
         auto preset = state.presets().addPreset(name);
         ASSERT_TRUE(preset);
-        const QQuickItem* card = view.awaited(model.cards()->cards().last().name);
+        const QQuickItem* card = view.awaited(model.cards()->rows().last().name);
         ASSERT_NE(card, nullptr);
         EXPECT_EQ(card->width(), width);
         EXPECT_EQ(card->height(), 188);

@@ -1,17 +1,12 @@
 import QtQuick
 import Kestrowind.DesignSystem
+import Kestrowind.Dashboard
 
 // One fan: the ring, the speed in it and the turning glyph in the ring's opening.
 Item {
     id: root
 
-    required property string name
-    required property string readout
-    required property string caption
-    required property string spoken
-    required property real fraction
-    required property real revolutionsPerSecond
-    required property bool isParked
+    required property fanGaugeFacts row
     property bool showsName: false
 
     readonly property real diameter: 110
@@ -19,27 +14,27 @@ Item {
     implicitWidth: diameter
     implicitHeight: diameter + (showsName ? Spacing.small + nameLabel.implicitHeight : 0)
     Accessible.role: Accessible.StaticText
-    Accessible.name: spoken
+    Accessible.name: row.spoken
 
     FanGaugeArcs {
         diameter: root.diameter
         lineWidth: 8
         gapDegrees: 90
         animationDuration: 0.8
-        fraction: root.fraction
+        fraction: root.row.fraction
     }
 
     TabularText {
         anchors.horizontalCenter: arcsCentre.horizontalCenter
         y: 31
-        text: root.readout
+        text: root.row.readout
         font: Typography.gaugeNumber
     }
 
     Label {
         anchors.horizontalCenter: arcsCentre.horizontalCenter
         y: 60
-        text: root.caption
+        text: root.row.caption
         font: Typography.caption
         color: AppColors.secondaryText
     }
@@ -54,8 +49,8 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             y: 84
             diameter: 24
-            revolutionsPerSecond: root.revolutionsPerSecond
-            fill: root.isParked ? SpinningFanBlades.Parked : SpinningFanBlades.Airflow
+            revolutionsPerSecond: root.row.revolutionsPerSecond
+            fill: root.row.isParked ? SpinningFanBlades.Parked : SpinningFanBlades.Airflow
         }
     }
 
@@ -65,7 +60,7 @@ Item {
         visible: root.showsName
         anchors.horizontalCenter: arcsCentre.horizontalCenter
         y: root.diameter + Spacing.small
-        text: root.name
+        text: root.row.name
         font: Typography.weighted(Typography.subheadline, Font.Medium)
         color: AppColors.secondaryText
     }

@@ -6,7 +6,9 @@ import Kestrowind.Dashboard
 Card {
     id: root
 
-    required property FanGaugeRows fans
+    required property RowList fans
+    // Fans side by side seldom turn alike, which wants a word and names.
+    readonly property bool hasSeveral: fans.count > 1
 
     Column {
         width: parent.width
@@ -46,14 +48,14 @@ Card {
                     y: line * (height + Spacing.large)
                     width: gauges.diameter
                     height: implicitHeight
-                    showsName: root.fans.hasSeveral
+                    showsName: root.hasSeveral
                     // qmllint enable unqualified
                 }
             }
         }
 
         SymbolLabel {
-            visible: root.fans.hasSeveral
+            visible: root.hasSeveral
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(implicitWidth, parent.width)
             text: qsTrId("dashboard.fans.differentSpeedsNote")

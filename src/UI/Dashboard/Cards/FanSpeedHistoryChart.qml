@@ -7,7 +7,7 @@ Column {
     id: root
 
     required property lineChart chart
-    required property FanGaugeRows fans
+    required property RowList fans
 
     spacing: Spacing.small
 
@@ -21,11 +21,10 @@ Column {
             ChartLegendEntry {
                 id: entry
 
-                required property string name
-                required property bool isDashed
+                required property fanGaugeFacts row
 
-                text: name
-                LineSample { isDashed: entry.isDashed }
+                text: row.name
+                LineSample { isDashed: entry.row.isDashed }
             }
         }
     }

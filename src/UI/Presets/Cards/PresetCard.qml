@@ -7,15 +7,7 @@ ChoiceButton {
     id: root
 
     required property int index
-    required property string slotID
-    required property string name
-    required property string caption
-    required property string symbolName
-    required property string help
-    required property thumbnailCurve curve
-    required property bool isAutomatic
-    required property bool isActive
-    required property bool isEditable
+    required property presetCard row
     required property PresetsModel screen
     // Not where the keyboard is, but whether it is being used.
     property bool isKeyboardInUse: false
@@ -38,22 +30,22 @@ ChoiceButton {
 
     function beginDrag(at: point): void {
         wasDragged = true
-        drag.start(root, Radius.card, slotID, at)
+        drag.start(root, Radius.card, row.slotID, at)
     }
 
     function requestMenu(at: point): void {
-        if (!isAutomatic)
+        if (!row.isAutomatic)
             contextMenuRequested(at)
     }
 
-    text: name
+    text: row.name
     scale: entrance * lift
     opacity: 1
     z: isPointedAt ? 1 : 0
     focusPolicy: Qt.ClickFocus
-    isChosen: isActive
+    isChosen: row.isActive
     // With its place, which is how a move by the keyboard is heard.
-    Accessible.description: qsTrId("presets.card.spokenCaption").arg(caption).arg(index + 1)
+    Accessible.description: qsTrId("presets.card.spokenCaption").arg(row.caption).arg(index + 1)
                                                                 .arg(GridView.view?.count ?? 0)
     Accessible.focusable: true
     onActiveFocusChanged: if (activeFocus) GridView.view.currentIndex = index
@@ -63,7 +55,7 @@ ChoiceButton {
         event.accepted = keys.handle(event.key, event.modifiers)
     }
 
-    onClicked: screen.activate(slotID)
+    onClicked: screen.activate(row.slotID)
 
     GridView.onAdd: {
         opacity = 0
@@ -76,13 +68,13 @@ ChoiceButton {
         id: keys
 
         onMenuRequested: root.requestMenu(Qt.point(root.width / 2, root.height / 2))
-        onRenameRequested: root.screen.rename(root.slotID)
-        onDeletionRequested: root.screen.requestDeletion(root.slotID)
+        onRenameRequested: root.screen.rename(root.row.slotID)
+        onDeletionRequested: root.screen.requestDeletion(root.row.slotID)
         onMoveRequested: (columns, rows) => root.screen.moveBy(root.index, columns + rows * root.screen.columns)
     }
 
     background: PresetCardChrome {
-        isActive: root.isActive
+        isActive: root.row.isActive
         isLifted: root.isLifted
         isPressed: root.down
         isFocused: root.activeFocus && root.isKeyboardInUse
@@ -108,12 +100,7 @@ ChoiceButton {
         id: layout
 
         opacity: drag.isDragging ? 0.35 : 1
-        symbolName: root.symbolName
-        name: root.name
-        caption: root.caption
-        curve: root.curve
-        isAutomatic: root.isAutomatic
-        isActive: root.isActive
+        row: root.row
     }
 
     DropArea {
@@ -121,7 +108,7 @@ ChoiceButton {
 
         anchors.fill: parent
         onEntered: drag => drag.accepted = drag.hasText
-        onDropped: drop => drop.accepted = root.screen.drop(drop.text, root.slotID)
+        onDropped: drop => drop.accepted = root.screen.drop(drop.text, root.row.slotID)
     }
 
     CardDrag { id: drag }
@@ -131,14 +118,14 @@ ChoiceButton {
 
         anchors { right: parent.right; rightMargin: Spacing.medium }
         y: 66
-        visible: !root.isAutomatic
-        cardName: root.name
+        visible: !root.row.isAutomatic
+        cardName: root.row.name
         shown: root.isLifted || (root.activeFocus && root.isKeyboardInUse)
         onClicked: root.requestMenu(Qt.point(x, y + height))
     }
 
     Tooltip {
-        text: root.help.length > 0 ? root.help : layout.isNameTruncated ? root.name : ""
+        text: root.row.help.length > 0 ? root.row.help : layout.isNameTruncated ? root.row.name : ""
         shown: root.hovered && !drag.isDragging && !root.isMenuOpen
     }
 }

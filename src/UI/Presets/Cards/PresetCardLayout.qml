@@ -6,12 +6,7 @@ import Kestrowind.Presets
 Item {
     id: root
 
-    required property string symbolName
-    required property string name
-    required property string caption
-    required property thumbnailCurve curve
-    required property bool isAutomatic
-    required property bool isActive
+    required property presetCard row
     // Beside the name, for the button of the card's menu.
     readonly property real menuWidth: 24
     readonly property bool isNameTruncated: nameText.truncated
@@ -32,13 +27,13 @@ Item {
             PresetIconBadge {
                 id: badge
 
-                symbolName: root.symbolName
-                isActive: root.isActive
+                symbolName: root.row.symbolName
+                isActive: root.row.isActive
             }
 
             ActivePresetBadge {
                 anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-                visible: root.isActive
+                visible: root.row.isActive
             }
         }
 
@@ -49,7 +44,7 @@ Item {
             height: 17
             verticalAlignment: Text.AlignVCenter
             horizontalAlignment: Text.AlignLeft
-            text: root.name
+            text: root.row.name
             font: Typography.headline
             elide: Text.ElideRight
             maximumLineCount: 1
@@ -60,7 +55,7 @@ Item {
             height: 13
             verticalAlignment: Text.AlignVCenter
             horizontalAlignment: Text.AlignLeft
-            text: root.caption
+            text: root.row.caption
             font: Typography.caption
             color: AppColors.secondaryText
             elide: Text.ElideRight
@@ -75,15 +70,15 @@ Item {
 
             MiniCurveThumbnail {
                 anchors.fill: parent
-                visible: !root.isAutomatic
-                curve: root.curve
-                lineColor: root.isActive ? AppColors.accent : AppColors.secondaryText
-                areaColor: Qt.alpha(root.isActive ? AppColors.accent : AppColors.primaryText, 0.12)
+                visible: !root.row.isAutomatic
+                curve: root.row.curve
+                lineColor: root.row.isActive ? AppColors.accent : AppColors.secondaryText
+                areaColor: Qt.alpha(root.row.isActive ? AppColors.accent : AppColors.primaryText, 0.12)
             }
 
             AutomaticBaselineThumbnail {
                 anchors.fill: parent
-                visible: root.isAutomatic
+                visible: root.row.isAutomatic
             }
         }
     }

@@ -8,20 +8,19 @@ PopupMenu {
     id: root
 
     required property PresetsModel screen
-    property string slotID
-    property bool isEditable: false
+    property presetCard row
 
-    function show(card: Item, name: string, id: string, editable: bool, at: point): void {
-        title = qsTrId("presets.card.menuButton").arg(name)
-        slotID = id
-        isEditable = editable
+    function show(card: Item, preset: presetCard, at: point): void {
+        row = preset
         openAt(card, at)
     }
+
+    title: qsTrId("presets.card.menuButton").arg(row.name)
 
     PopupMenuItem {
         text: qsTrId("presets.contextMenu.activate")
         symbolName: "checkmark"
-        onTriggered: Qt.callLater(() => root.screen.activate(root.slotID)) // qmllint disable
+        onTriggered: Qt.callLater(() => root.screen.activate(root.row.slotID)) // qmllint disable
     }
 
     PopupMenuSeparator {}
@@ -30,26 +29,26 @@ PopupMenu {
         text: qsTrId("presets.contextMenu.duplicate")
         symbolName: "plus.square.on.square"
         enabled: root.screen.canAddPreset
-        onTriggered: Qt.callLater(() => root.screen.duplicate(root.slotID)) // qmllint disable
+        onTriggered: Qt.callLater(() => root.screen.duplicate(root.row.slotID)) // qmllint disable
     }
 
     PopupMenuItem {
         text: qsTrId("presets.contextMenu.rename")
         symbolName: "pencil"
-        visible: root.isEditable
+        visible: root.row.isEditable
         enabled: visible
         height: visible ? implicitHeight : 0
-        onTriggered: Qt.callLater(() => root.screen.rename(root.slotID)) // qmllint disable
+        onTriggered: Qt.callLater(() => root.screen.rename(root.row.slotID)) // qmllint disable
     }
 
     PopupMenuItem {
         text: qsTrId("presets.contextMenu.export")
         symbolName: "square.and.arrow.up"
-        onTriggered: Qt.callLater(() => root.screen.exchange.exportPreset(root.slotID)) // qmllint disable
+        onTriggered: Qt.callLater(() => root.screen.exchange.exportPreset(root.row.slotID)) // qmllint disable
     }
 
     PopupMenuSeparator {
-        visible: root.isEditable
+        visible: root.row.isEditable
         height: visible ? implicitHeight : 0
     }
 
@@ -57,9 +56,9 @@ PopupMenu {
         text: qsTrId("presets.contextMenu.delete")
         symbolName: "trash"
         destructive: true
-        visible: root.isEditable
+        visible: root.row.isEditable
         enabled: visible
         height: visible ? implicitHeight : 0
-        onTriggered: Qt.callLater(() => root.screen.requestDeletion(root.slotID)) // qmllint disable
+        onTriggered: Qt.callLater(() => root.screen.requestDeletion(root.row.slotID)) // qmllint disable
     }
 }
