@@ -40,6 +40,14 @@ AppState::AppState(std::unique_ptr<TelemetryStore> telemetry,
 
 AppState::~AppState() = default;
 
+void AppState::activate(const QString& slotID) {
+    const auto slot = PresetSlot::fromId(slotID);
+    if (!slot || !(slot->isAutomatic() || m_presets->preset(*slot->presetID())))
+        return;
+    m_presets->setActivePresetID(slot->presetID());
+    m_engine->pushSoon();
+}
+
 void AppState::setOpenMainWindow(OpenMainWindow openMainWindow) {
     m_openMainWindow = std::move(openMainWindow);
     Q_EMIT openMainWindowChanged();

@@ -41,6 +41,10 @@ public:
     [[nodiscard]] const OpenMainWindow& openMainWindow() const { return m_openMainWindow; }
     void setOpenMainWindow(OpenMainWindow openMainWindow);
 
+    /// Has the preset of the slot, or the machine itself, control the fans from now on. Ignored for
+    /// what is no slot's text identifier, and when the preset is gone.
+    void activate(const QString& slotID);
+
 Q_SIGNALS:
     void openMainWindowChanged();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UI/CurveEditor/CurvePlotGeometry.h"
+#include "UI/DesignSystem/RowListModel.h"
 
 #include <QObject>
 #include <QString>
@@ -28,6 +29,8 @@ public:
 
     bool operator==(const CurvePointRow&) const = default;
 };
+
+using CurvePointRows = RowListModel<CurvePointRow, &CurvePointRow::identity>;
 
 /// Tells the points of a curve apart while it changes: a number for each, by their order.
 class CurvePointIdentities {

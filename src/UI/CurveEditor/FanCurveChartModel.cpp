@@ -185,15 +185,13 @@ void FanCurveChartModel::drag(int index, const QPointF& position) {
         return;
     setDraggedPoint(index);
     setCurrentPoint(index);
-    const FanCurvePoint to = geometry().value(position);
-    Q_EMIT movePoint(index, to.tempC, to.percent, false);
+    Q_EMIT movePoint(index, geometry().value(position), false);
 }
 
 void FanCurveChartModel::release(const QPointF& position) {
     if (m_draggedPoint < 0)
         return;
-    const FanCurvePoint to = geometry().value(position);
-    Q_EMIT movePoint(m_draggedPoint, to.tempC, to.percent, true);
+    Q_EMIT movePoint(m_draggedPoint, geometry().value(position), true);
     setDraggedPoint(-1);
 }
 
@@ -213,7 +211,7 @@ bool FanCurveChartModel::add(const std::optional<Candidate>& candidate) {
         return false;
     const QList<FanCurvePoint>& points = m_curve.points();
     const qsizetype count = points.size();
-    Q_EMIT addPoint(candidate->point.tempC, candidate->point.percent);
+    Q_EMIT addPoint(candidate->point);
     if (points.size() == count)
         return false;
     const auto added = std::ranges::find(points, candidate->point.tempC, &FanCurvePoint::tempC);
@@ -313,9 +311,9 @@ bool FanCurveChartModel::nudge(int index, int key, double step) {
 }
 
 void FanCurveChartModel::requestNudge(int index, const FanCurvePoint& to) {
-    Q_EMIT nudgePoint(
-        index, std::clamp(to.tempC, FanCurve::lowestTemperature, FanCurve::highestTemperature),
-        std::clamp(to.percent, 0.0, FanCurve::highestPercent));
+    Q_EMIT nudgePoint(index, {.tempC = std::clamp(to.tempC, FanCurve::lowestTemperature,
+                                                  FanCurve::highestTemperature),
+                              .percent = std::clamp(to.percent, 0.0, FanCurve::highestPercent)});
 }
 
 void FanCurveChartModel::setPercent(int index, double percent) {

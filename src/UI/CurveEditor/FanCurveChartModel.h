@@ -3,7 +3,6 @@
 #include "UI/CurveEditor/CurveMarks.h"
 #include "UI/CurveEditor/CurvePlotGeometry.h"
 #include "UI/CurveEditor/CurvePointRow.h"
-#include "UI/DesignSystem/RowListModel.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -69,7 +68,7 @@ public:
     [[nodiscard]] const QRectF& plot() const { return m_plot; }
     [[nodiscard]] CurvePlotGeometry geometry() const;
     /// By their order.
-    [[nodiscard]] auto* points() { return &m_points; }
+    [[nodiscard]] CurvePointRows* points() { return &m_points; }
     [[nodiscard]] Motion motion() const { return m_motion; }
     /// These are -1 for none.
     [[nodiscard]] int draggedPoint() const { return m_draggedPoint; }
@@ -122,11 +121,12 @@ public:
     Q_INVOKABLE bool hasRoomAfter(int index) const { return candidateAfter(index).has_value(); }
 
 Q_SIGNALS:
-    /// A point is to go to whole degrees and percent; only the final step is to be kept.
-    void movePoint(int index, double temperature, double percent, bool isFinal);
+    /// A point is to go to whole degrees and percent inside the axes; only the final step is to be
+    /// kept.
+    void movePoint(int index, const kestrowind::FanCurvePoint& to, bool isFinal);
     /// The same by keyboard, a small step of perhaps many.
-    void nudgePoint(int index, double temperature, double percent);
-    void addPoint(double temperature, double percent);
+    void nudgePoint(int index, const kestrowind::FanCurvePoint& to);
+    void addPoint(const kestrowind::FanCurvePoint& point);
     void deletePointRequested(int index);
     /// The steps since the last final one are to be forgotten.
     void dragCancelled();
@@ -165,7 +165,7 @@ private:
     std::optional<SMCFanReading> m_fan;
     QRectF m_plot;
     CurvePointIdentities m_identities;
-    RowListModel<CurvePointRow, &CurvePointRow::identity> m_points;
+    CurvePointRows m_points;
     Motion m_motion = Motion::None;
     int m_draggedPoint = -1;
     int m_hoveredPoint = -1;

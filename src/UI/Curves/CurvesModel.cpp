@@ -74,13 +74,8 @@ void CurvesModel::setSelectedPresetID(const std::optional<QUuid>& id) {
         forgetDraft();
 }
 
-std::optional<FanPreset> CurvesModel::displayedPreset() const {
+std::optional<FanPreset> CurvesModel::shownPreset() const {
     return m_draftPreset ? m_draftPreset : selectedPreset();
-}
-
-const FanPreset& CurvesModel::shown() const {
-    static const FanPreset none;
-    return m_shown ? *m_shown : none;
 }
 
 QString CurvesModel::builtInNote() const {
@@ -115,10 +110,9 @@ void CurvesModel::createPreset() {
 }
 
 void CurvesModel::duplicateForEditing() {
-    const auto displayed = displayedPreset();
-    if (!displayed || !displayed->isBuiltIn)
+    if (!isBuiltIn())
         return;
-    if (const auto copy = m_appState.presets().duplicate(*displayed))
+    if (const auto copy = m_appState.presets().duplicate(shown()))
         setSelectedPresetID(copy->id);
 }
 
@@ -133,51 +127,39 @@ QString CurvesModel::newPresetName() const {
 
 // --- edits --------------------------------------------------------------------------------------
 
-std::optional<FanPreset> CurvesModel::editablePreset() const {
-    auto preset = displayedPreset();
-    return preset && !preset->isBuiltIn ? preset : std::nullopt;
-}
-
 qsizetype CurvesModel::fanCount() const {
     const auto& latest = m_appState.telemetry().latest();
     return latest && !latest->fans.empty() ? static_cast<qsizetype>(latest->fans.size()) : 1;
 }
 
-FanPreset CurvesModel::withCurve(FanPreset preset, const FanCurve& curve) const {
-    preset.curves = QList<FanCurve>(fanCount(), curve);
+std::optional<FanPreset> CurvesModel::edited(const std::function<void(FanCurve&)>& edit) const {
+    auto preset = shownPreset();
+    if (!preset || preset->isBuiltIn)
+        return std::nullopt;
+    FanCurve curve = displayedCurve(*preset);
+    edit(curve);
+    preset->curves = QList<FanCurve>(fanCount(), curve);
     return preset;
 }
 
-std::optional<FanPreset> CurvesModel::withMovedPoint(int index, double temperature,
-                                                     double percent) const {
-    const auto preset = editablePreset();
-    if (!preset)
-        return std::nullopt;
-    FanCurve curve = displayedCurve(*preset);
-    curve.move(index, {.tempC = std::clamp(temperature, FanCurve::lowestTemperature,
-                                           FanCurve::highestTemperature),
-                       .percent = std::clamp(percent, 0.0, FanCurve::highestPercent)});
-    return withCurve(*preset, curve);
-}
-
-void CurvesModel::movePoint(int index, double temperature, double percent, bool isFinal) {
+void CurvesModel::movePoint(int index, const FanCurvePoint& to, bool isFinal) {
     storeNudges();
-    const auto edited = withMovedPoint(index, temperature, percent);
-    if (edited && isFinal)
-        commit(*edited);
-    else if (edited)
-        setDraft(edited);
+    const auto moved = edited([&](FanCurve& curve) { curve.move(index, to); });
+    if (moved && isFinal)
+        commit(*moved);
+    else if (moved)
+        setDraft(moved);
 }
 
-void CurvesModel::nudgePoint(int index, double temperature, double percent) {
+void CurvesModel::nudgePoint(int index, const FanCurvePoint& to) {
     if (index != m_nudgedPoint)
         storeNudges();
-    const auto edited = withMovedPoint(index, temperature, percent);
-    if (!edited || edited->curves == displayedPreset()->curves)
+    const auto nudged = edited([&](FanCurve& curve) { curve.move(index, to); });
+    if (!nudged || nudged->curves == shown().curves)
         return;
     m_nudgedPoint = index;
     m_nudges.start();
-    setDraft(edited);
+    setDraft(nudged);
 }
 
 void CurvesModel::storeNudges() {
@@ -186,28 +168,21 @@ void CurvesModel::storeNudges() {
         commit(FanPreset(*m_draftPreset));
 }
 
-void CurvesModel::addPoint(double temperature, double percent) {
+void CurvesModel::addPoint(const FanCurvePoint& point) {
     storeNudges();
-    const auto preset = editablePreset();
-    if (!preset)
+    if (!displayedCurve(shown()).hasRoomAt(point.tempC))
         return;
-    FanCurve curve = displayedCurve(*preset);
-    if (!curve.hasRoomAt(temperature))
-        return;
-    curve.insert({.tempC = temperature, .percent = percent});
-    commit(withCurve(*preset, curve));
+    if (const auto grown = edited([&](FanCurve& curve) { curve.insert(point); }))
+        commit(*grown);
 }
 
 void CurvesModel::deletePoint(int index) {
     storeNudges();
-    const auto preset = editablePreset();
-    if (!preset)
+    const auto count = displayedCurve(shown()).points().size();
+    if (count <= 1 || index < 0 || index >= count)
         return;
-    FanCurve curve = displayedCurve(*preset);
-    if (curve.points().size() <= 1 || index < 0 || index >= curve.points().size())
-        return;
-    curve.remove(index);
-    commit(withCurve(*preset, curve));
+    if (const auto shrunk = edited([&](FanCurve& curve) { curve.remove(index); }))
+        commit(*shrunk);
 }
 
 void CurvesModel::commit(const FanPreset& edited) {
@@ -241,11 +216,11 @@ void CurvesModel::forgetDraft() {
 bool CurvesModel::canUndo() const {
     if (m_nudgedPoint >= 0)
         return true;
-    return !m_draftPreset && m_shown && m_history.canUndo(m_shown->id, m_shown->curves);
+    return !m_draftPreset && m_history.canUndo(shown().id, shown().curves);
 }
 
 bool CurvesModel::canRedo() const {
-    return !m_draftPreset && m_shown && m_history.canRedo(m_shown->id, m_shown->curves);
+    return !m_draftPreset && m_history.canRedo(shown().id, shown().curves);
 }
 
 QString CurvesModel::undoHelp() {
@@ -288,13 +263,12 @@ void CurvesModel::refresh() {
         m_draftPreset.reset();
         m_nudgedPoint = -1;
     }
-    const QUuid shownBefore = shown().id;
-    m_shown = displayedPreset();
-    if (shown().id != shownBefore)
+    const auto preset = shownPreset();
+    if (assignIfChanged(m_chartedPresetID, preset ? preset->id : QUuid()))
         m_chart.startOver();
     refreshChoices();
-    m_chart.setIsEditable(m_shown && !m_shown->isBuiltIn);
-    m_chart.setCurve(displayedCurve(shown()));
+    m_chart.setIsEditable(preset && !preset->isBuiltIn);
+    m_chart.setCurve(preset ? displayedCurve(*preset) : FanCurve());
     m_history.keepOnly(m_appState.presets().presets());
     Q_EMIT presetChanged();
 }

@@ -12,6 +12,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 
 namespace kestrowind {
@@ -67,9 +68,9 @@ public:
     /// The preset in the middle of a drag or of nudges; nothing of it is stored.
     [[nodiscard]] const std::optional<FanPreset>& draftPreset() const { return m_draftPreset; }
     /// The draft, else the selected one.
-    [[nodiscard]] std::optional<FanPreset> displayedPreset() const;
+    [[nodiscard]] std::optional<FanPreset> shownPreset() const;
 
-    [[nodiscard]] bool hasPreset() const { return m_shown.has_value(); }
+    [[nodiscard]] bool hasPreset() const { return shownPreset().has_value(); }
     [[nodiscard]] QString presetName() const { return oneLine(shown().name); }
     [[nodiscard]] QString presetSymbolName() const { return shown().symbolName; }
     [[nodiscard]] bool isBuiltIn() const { return shown().isBuiltIn; }
@@ -106,23 +107,21 @@ Q_SIGNALS:
     void viewChanged();
 
 private:
-    void movePoint(int index, double temperature, double percent, bool isFinal);
-    void nudgePoint(int index, double temperature, double percent);
+    void movePoint(int index, const FanCurvePoint& to, bool isFinal);
+    void nudgePoint(int index, const FanCurvePoint& to);
     void storeNudges();
-    void addPoint(double temperature, double percent);
+    void addPoint(const FanCurvePoint& point);
     void deletePoint(int index);
     void forgetDraft();
 
-    [[nodiscard]] std::optional<FanPreset> editablePreset() const;
-    [[nodiscard]] FanPreset withCurve(FanPreset preset, const FanCurve& curve) const;
-    [[nodiscard]] const FanPreset& shown() const;
+    /// What is shown with another curve, once for each fan; absent when it cannot be edited.
+    [[nodiscard]] std::optional<FanPreset> edited(const std::function<void(FanCurve&)>& edit) const;
+    [[nodiscard]] FanPreset shown() const { return shownPreset().value_or(FanPreset()); }
     [[nodiscard]] qsizetype fanCount() const;
     [[nodiscard]] QString newPresetName() const;
     /// Stores an edit and asks for a push.
     void commit(const FanPreset& edited);
     void setDraft(const std::optional<FanPreset>& draft);
-    [[nodiscard]] std::optional<FanPreset> withMovedPoint(int index, double temperature,
-                                                          double percent) const;
     void storeAndPush(const FanPreset& preset);
     void refresh();
     void refreshChoices();
@@ -132,7 +131,7 @@ private:
     CurveEditHistory& m_history;
     std::optional<QUuid> m_selectedPresetID;
     std::optional<FanPreset> m_draftPreset;
-    std::optional<FanPreset> m_shown; ///< the displayed preset as of the last refresh
+    QUuid m_chartedPresetID; ///< the one whose curve the chart has
     ChoiceList m_userPresets;
     ChoiceList m_builtInPresets;
     FanCurveChartModel m_chart;

@@ -4,7 +4,6 @@
 #include "UI/Dashboard/HistoryExport.h"
 #include "UI/Dashboard/LineChart.h"
 #include "UI/Dashboard/TemperatureFacts.h"
-#include "UI/DesignSystem/RowListModel.h"
 #include "UI/DesignSystem/VisibilityWatch.h"
 
 #include <QObject>
@@ -51,7 +50,7 @@ public:
     [[nodiscard]] State state() const { return m_state; }
     [[nodiscard]] bool helperMissing() const;
     /// Of the newest sample.
-    [[nodiscard]] auto* fans() { return &m_fans; }
+    [[nodiscard]] FanGauges* fans() { return &m_fans; }
     [[nodiscard]] const TemperatureFacts& cpu() const { return m_cpu; }
     [[nodiscard]] const TemperatureFacts& gpu() const { return m_gpu; }
     [[nodiscard]] const QString& windowCaption() const { return m_windowCaption; }
@@ -84,7 +83,7 @@ private:
 
     AppState& m_appState;
     State m_state = State::Loading;
-    RowListModel<FanGaugeFacts, &FanGaugeFacts::index> m_fans;
+    FanGauges m_fans;
     TemperatureFacts m_cpu;
     TemperatureFacts m_gpu;
     QString m_windowCaption;

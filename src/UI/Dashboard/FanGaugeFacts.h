@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/FanFacts.h"
+#include "UI/DesignSystem/RowListModel.h"
 
 #include <QList>
 #include <QObject>
@@ -40,5 +41,7 @@ public:
                                           qsizetype totalFanCount);
     [[nodiscard]] static QList<FanGaugeFacts> of(const std::vector<SMCFanReading>& fans);
 };
+
+using FanGauges = RowListModel<FanGaugeFacts, &FanGaugeFacts::index>;
 
 } // namespace kestrowind

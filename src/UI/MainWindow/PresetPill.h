@@ -36,6 +36,8 @@ public:
     bool operator==(const PresetPill&) const = default;
 };
 
+using PresetPillList = RowListModel<PresetPill, &PresetPill::slot>;
+
 namespace PresetPills {
 
 /// Between two pills of the row, points.

@@ -52,11 +52,8 @@ QString PresetPillsModel::hindrance() const {
 }
 
 void PresetPillsModel::activate(const QString& slotID) {
-    const auto slot = PresetSlot::fromId(slotID);
-    if (!isSwitchable() || !slot)
-        return;
-    m_appState.presets().setActivePresetID(slot->presetID());
-    m_appState.engine().pushSoon();
+    if (isSwitchable())
+        m_appState.activate(slotID);
 }
 
 } // namespace kestrowind

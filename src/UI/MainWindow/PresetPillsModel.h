@@ -1,6 +1,5 @@
 #pragma once
 
-#include "UI/DesignSystem/Choice.h"
 #include "UI/MainWindow/PresetPill.h"
 
 #include <QObject>
@@ -31,7 +30,7 @@ class PresetPillsModel final : public QObject {
 public:
     explicit PresetPillsModel(AppState& appState, QObject* parent = nullptr);
 
-    [[nodiscard]] auto* shown() { return &m_shown; }
+    [[nodiscard]] PresetPillList* shown() { return &m_shown; }
     /// Under the full names.
     [[nodiscard]] ChoiceList* overflow() { return &m_overflow; }
     /// Points. No pill is shown before there is room at all.
@@ -63,7 +62,7 @@ private:
     void updatePills();
 
     AppState& m_appState;
-    RowListModel<PresetPill, &PresetPill::slot> m_shown;
+    PresetPillList m_shown;
     ChoiceList m_overflow;
     double m_availableWidth = 0;
     double m_rowWidth = 0;

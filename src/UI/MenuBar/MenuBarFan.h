@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Shared/SMCKit/SMCFanReading.h"
+#include "UI/DesignSystem/RowListModel.h"
 
 #include <QObject>
 #include <QString>
@@ -32,5 +33,7 @@ public:
 
     bool operator==(const MenuBarFan&) const = default;
 };
+
+using MenuBarFans = RowListModel<MenuBarFan, &MenuBarFan::index>;
 
 } // namespace kestrowind

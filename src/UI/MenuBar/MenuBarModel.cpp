@@ -108,11 +108,7 @@ void MenuBarModel::setIsBoostDragged(bool isBoostDragged) {
 }
 
 void MenuBarModel::activate(const QString& slotID) {
-    const auto slot = PresetSlot::fromId(slotID);
-    if (!slot)
-        return;
-    m_appState.presets().setActivePresetID(slot->presetID());
-    m_appState.engine().pushSoon();
+    m_appState.activate(slotID);
 }
 
 void MenuBarModel::setBoost(double percent) {

@@ -51,7 +51,7 @@ public:
 
     /// Whether there is no sample yet.
     [[nodiscard]] bool isWaiting() const { return m_readings.isWaiting; }
-    [[nodiscard]] auto* fans() { return &m_fans; }
+    [[nodiscard]] MenuBarFans* fans() { return &m_fans; }
     [[nodiscard]] const MenuBarTemperature& cpu() const { return m_readings.cpu; }
     [[nodiscard]] const MenuBarTemperature& gpu() const { return m_readings.gpu; }
 
@@ -115,7 +115,7 @@ private:
     AppState& m_appState;
     std::unique_ptr<QObject> m_following; ///< holds the connections to the state
     Readings m_readings;
-    RowListModel<MenuBarFan, &MenuBarFan::index> m_fans;
+    MenuBarFans m_fans;
     ChoiceList m_presets;
     int m_activePresetIndex = -1;
     Helper m_helper;

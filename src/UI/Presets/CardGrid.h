@@ -15,9 +15,6 @@ struct CardGrid {
     /// Never without a column; where not even the narrowest fits, it is as wide as there is room.
     [[nodiscard]] static CardGrid fitting(double width);
 
-    /// Rows that a number of cards takes.
-    [[nodiscard]] int rows(int cards) const { return (cards + columns - 1) / columns; }
-
     bool operator==(const CardGrid&) const = default;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Core/PresetSlot.h"
+#include "UI/DesignSystem/RowListModel.h"
 #include "UI/Presets/ThumbnailCurve.h"
 
 #include <QObject>
@@ -37,5 +38,7 @@ public:
     [[nodiscard]] bool isAutomatic() const { return slot.isAutomatic(); }
     bool operator==(const PresetCard&) const = default;
 };
+
+using PresetCards = RowListModel<PresetCard, &PresetCard::slot>;
 
 } // namespace kestrowind

@@ -89,11 +89,7 @@ void PresetsModel::setAvailableWidth(double width) {
 }
 
 void PresetsModel::activate(const QString& slotID) {
-    const auto slot = PresetSlot::fromId(slotID);
-    if (!slot || !(slot->isAutomatic() || presetOf(slotID)))
-        return;
-    m_appState.presets().setActivePresetID(slot->presetID());
-    m_appState.engine().pushSoon();
+    m_appState.activate(slotID);
 }
 
 void PresetsModel::duplicate(const QString& slotID) {

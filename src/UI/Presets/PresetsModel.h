@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Core/FanPreset.h"
-#include "UI/DesignSystem/RowListModel.h"
 #include "UI/Presets/CardGrid.h"
 #include "UI/Presets/PresetCard.h"
 #include "UI/Presets/PresetExchange.h"
@@ -45,7 +44,7 @@ public:
     PresetsModel(AppState& appState, FileDialogs& fileDialogs, QObject* parent = nullptr);
 
     /// In the user's order.
-    [[nodiscard]] auto* cards() { return &m_cards; }
+    [[nodiscard]] PresetCards* cards() { return &m_cards; }
     [[nodiscard]] PresetExchange* exchange() { return &m_exchange; }
     [[nodiscard]] bool canAddPreset() const { return m_canAddPreset; }
     /// Why no preset can be added; empty while one can.
@@ -111,7 +110,7 @@ private:
     void beginRenaming(const FanPreset& preset);
 
     AppState& m_appState;
-    RowListModel<PresetCard, &PresetCard::slot> m_cards;
+    PresetCards m_cards;
     PresetExchange m_exchange;
     bool m_canAddPreset;
     int m_activeRow = 0;

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <limits>
+
 namespace kestrowind {
 namespace {
 
@@ -45,8 +47,16 @@ TEST_F(CurveChart, ShowsTheTemperatureAndWhatTheCurveMakesOfIt) {
         EXPECT_DOUBLE_EQ(live.labelX, labelX) << temperature;
         EXPECT_EQ(live.text, text);
     }
-    chart.setLiveTemperature(std::nullopt);
-    EXPECT_FALSE(chart.live().isShown);
+    chart.setSize({900 + 64, 200 + 44});
+    chart.setLiveTemperature(65);
+    EXPECT_EQ(chart.live().x, 450);
+    chart.setSize({450 + 64, 200 + 44});
+    EXPECT_EQ(chart.live().x, 225) << "it stays at its temperature";
+    for (const std::optional<double> none :
+         {std::optional(std::numeric_limits<double>::quiet_NaN()), std::optional<double>()}) {
+        chart.setLiveTemperature(none);
+        EXPECT_FALSE(chart.live().isShown);
+    }
 }
 
 TEST_F(CurveChart, FollowsADragAndForgetsACancelledOne) {
@@ -61,6 +71,15 @@ TEST_F(CurveChart, FollowsADragAndForgetsACancelledOne) {
     chart.cancelDrag();
     EXPECT_EQ(motion.size(), 2) << "springs back";
 
+    chart.drag(1, {250, 60});
+    owner.said.clear();
+    EXPECT_TRUE(chart.pressKey(1, Qt::Key_Delete, Qt::NoModifier)) << "one hand at a time";
+    chart.setPercent(1, 30);
+    chart.addPointAnywhere();
+    EXPECT_TRUE(owner.said.isEmpty());
+    chart.setIsEditable(false);
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"cancel"_s});
+    chart.setIsEditable(true);
     // The point is taken away under the pointer.
     chart.drag(2, {300, 30});
     chart.setCurve(FanCurve({{20, 100}}));
@@ -92,12 +111,20 @@ TEST_F(CurveChart, TakesEditsFromTheKeyboard) {
     EXPECT_FALSE(chart.pressKey(1, Qt::Key_Z, Qt::ControlModifier));
     EXPECT_FALSE(chart.pressKey(1, Qt::Key_Right, Qt::ControlModifier));
     EXPECT_FALSE(chart.pressKey(1, Qt::Key_Tab, Qt::NoModifier));
+    EXPECT_FALSE(chart.pressKey(1, Qt::Key_F10, Qt::NoModifier)) << "without Shift";
     EXPECT_FALSE(chart.pressKey(7, Qt::Key_Right, Qt::NoModifier));
 
     chart.setCurve(FanCurve({{40, 20}, {43, 20}, {110, 100}}));
     EXPECT_TRUE(chart.pressKey(0, Qt::Key_N, Qt::NoModifier));
     EXPECT_TRUE(chart.pressKey(2, Qt::Key_N, Qt::NoModifier));
     EXPECT_TRUE(owner.said.isEmpty()) << "there is no room";
+    for (const int key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+        chart.setCurve(FanCurve({{20, 0}, {110, 100}}));
+        chart.pressKey(key == Qt::Key_Left || key == Qt::Key_Down ? 0 : 1, key, Qt::ShiftModifier);
+    }
+    EXPECT_EQ(owner.takeEdits(), (QStringList{u"nudge 0: 20 0"_s, u"nudge 1: 110 100"_s,
+                                              u"nudge 1: 110 100"_s, u"nudge 0: 20 0"_s}))
+        << "the axes end there";
 }
 
 TEST_F(CurveChart, ChoosesPointsByKeyAlsoWhereNothingCanBeEdited) {
@@ -141,6 +168,18 @@ TEST_F(CurveChart, TellsTheValuesOfThePointThatWasWorkedOnLast) {
     EXPECT_EQ(chart.callout().text, u"40 °C · 20%"_s) << "the pointer rests";
     chart.setHoverLocation(QPointF(201, 100));
     EXPECT_EQ(chart.callout().text, u"60 °C · 50%"_s);
+    chart.setFanReading(SMCFanReading{.minRPM = 1000, .maxRPM = 3000});
+    EXPECT_EQ(chart.callout().text, u"60 °C · 50% · about 2,000 rpm"_s);
+    chart.setCurve(FanCurve({{40, 20}, {60, 51}, {80, 100}}));
+    EXPECT_EQ(chart.callout().text, u"60 °C · 51% · about 2,020 rpm"_s);
+    chart.setHoverLocation(QPointF(50, 40));
+    EXPECT_TRUE(chart.ghost().isShown);
+    chart.setIsEditable(false);
+    EXPECT_FALSE(chart.ghost().isShown);
+    chart.press(2);
+    const CurveCallout last = chart.callout();
+    EXPECT_FALSE(last.isShown);
+    EXPECT_FALSE(last.text.isEmpty()) << "it fades with its text";
 }
 
 TEST_F(CurveChart, AddsPointsForThoseWhoCannotPoint) {
@@ -152,6 +191,12 @@ TEST_F(CurveChart, AddsPointsForThoseWhoCannotPoint) {
     EXPECT_FALSE(chart.hasRoomAfter(0));
     chart.addPointAnywhere();
     EXPECT_EQ(owner.takeEdits(), QStringList{u"add: 70 0"_s});
+    chart.setCurve(FanCurve({{60, 50}}));
+    chart.setLiveTemperature(std::nullopt);
+    chart.addPointAnywhere();
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"add: 20 0"_s});
+    chart.setPercent(0, std::numeric_limits<double>::quiet_NaN());
+    chart.setPercent(2, 50);
     chart.setIsEditable(false);
     chart.addPointAnywhere();
     chart.setPercent(0, 50);

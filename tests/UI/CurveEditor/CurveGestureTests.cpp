@@ -55,8 +55,38 @@ TEST_F(CurveGestures, DragPointsAndLetThemGoWhereTheyAre) {
     click(at(65, 60));
     EXPECT_TRUE(owner.takeEdits().isEmpty()) << "a click on a point is no edit";
     EXPECT_EQ(chart.hoveredPoint(), 1);
+
+    // A handle at the plot's edge reaches beyond it.
+    const QPoint above = at(80, 100) - QPoint(0, 12);
+    move(above);
+    EXPECT_EQ(chart.hoveredPoint(), 2);
+    press(above);
+    move(at(85, 90));
+    release(at(85, 90));
+    EXPECT_EQ(owner.takeEdits(), QStringList{u"move 2: 85 90"_s});
     move({5, 5});
     EXPECT_TRUE(QTest::qWaitFor([&] { return chart.isIdle(); })) << "the pointer has left";
+}
+
+TEST_F(CurveGestures, AreAnnouncedByThePointersShapeWhileItIsThere) {
+    auto* area = view.rootObject()->findChild<CurveGestureArea*>();
+    ASSERT_NE(area, nullptr);
+    const auto shape = [&] { return area->cursor().shape(); };
+    move(at(30, 80));
+    EXPECT_EQ(shape(), Qt::CrossCursor);
+    EXPECT_EQ(area->pointer(), at(30, 80));
+    move(at(60, 50));
+    EXPECT_EQ(shape(), Qt::OpenHandCursor);
+    press(at(60, 50));
+    move(at(65, 50));
+    EXPECT_EQ(shape(), Qt::ClosedHandCursor);
+    release(at(65, 50));
+    EXPECT_TRUE(area->isHovered());
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&view, &leave);
+    EXPECT_FALSE(area->isHovered());
+    EXPECT_TRUE(chart.isIdle());
+    EXPECT_EQ(shape(), Qt::ArrowCursor);
 }
 
 TEST_F(CurveGestures, AddByAClickAndDeleteByADoubleClick) {
@@ -133,6 +163,11 @@ TEST_F(CurveGestures, WorkByTouch) {
     QTest::touchEvent(&view, screen.get()).release(0, at(70, 70));
     EXPECT_EQ(owner.takeEdits(), QStringList{u"move 1: 70 70"_s});
     EXPECT_FALSE(chart.ghost().isShown) << "a finger does not hover";
+
+    QTest::touchEvent(&view, screen.get()).press(0, at(70, 70));
+    QTest::touchEvent(&view, screen.get()).move(0, at(70, 70) + QPoint(6, 0));
+    QTest::touchEvent(&view, screen.get()).release(0, at(70, 70) + QPoint(6, 0));
+    EXPECT_TRUE(owner.takeEdits().isEmpty()) << "it is not as steady as a mouse";
 
     QSignalSpy menu(&chart, &FanCurveChartModel::contextMenuRequested);
     QTest::touchEvent(&view, screen.get()).press(0, at(70, 70));

@@ -2,7 +2,11 @@
 
 #include "UI/CurveEditor/FanCurveChartModel.h"
 
+#include <QRegularExpression>
 #include <QStringList>
+
+#include <functional>
+#include <utility>
 
 namespace kestrowind {
 
@@ -13,64 +17,55 @@ public:
         chart.setIsEditable(true);
         chart.setCurve(curve);
         connect(&chart, &FanCurveChartModel::movePoint, this,
-                [this](int index, double temperature, double percent, bool isFinal) {
-                    say(QStringLiteral("%1 %2").arg(isFinal ? QStringLiteral("move")
-                                                            : QStringLiteral("step"),
-                                                    QString::number(index)),
-                        temperature, percent);
-                    FanCurve moved = chart.curve();
-                    if (!stored)
-                        stored = moved;
-                    moved.move(index, {temperature, percent});
+                [this](int index, const FanCurvePoint& to, bool isFinal) {
+                    if (!isFinal && !stored)
+                        stored = chart.curve();
                     if (isFinal)
                         stored.reset();
-                    chart.setCurve(moved);
+                    edit(QStringLiteral("%1 %2: %3 %4")
+                             .arg(isFinal ? QStringLiteral("move") : QStringLiteral("step"))
+                             .arg(index)
+                             .arg(to.tempC)
+                             .arg(to.percent),
+                         [&](FanCurve& curve) { curve.move(index, to); });
                 });
         connect(&chart, &FanCurveChartModel::nudgePoint, this,
-                [this](int index, double temperature, double percent) {
-                    say(QStringLiteral("nudge %1").arg(index), temperature, percent);
-                    FanCurve moved = chart.curve();
-                    moved.move(index, {temperature, percent});
-                    chart.setCurve(moved);
+                [this](int index, const FanCurvePoint& to) {
+                    edit(QStringLiteral("nudge %1: %2 %3").arg(index).arg(to.tempC).arg(to.percent),
+                         [&](FanCurve& curve) { curve.move(index, to); });
                 });
-        connect(&chart, &FanCurveChartModel::addPoint, this,
-                [this](double temperature, double percent) {
-                    say(QStringLiteral("add"), temperature, percent);
-                    FanCurve grown = chart.curve();
-                    grown.insert({temperature, percent});
-                    chart.setCurve(grown);
-                });
+        connect(&chart, &FanCurveChartModel::addPoint, this, [this](const FanCurvePoint& point) {
+            edit(QStringLiteral("add: %1 %2").arg(point.tempC).arg(point.percent),
+                 [&](FanCurve& curve) { curve.insert(point); });
+        });
         connect(&chart, &FanCurveChartModel::deletePointRequested, this, [this](int index) {
-            said.append(QStringLiteral("delete %1").arg(index));
-            FanCurve shrunk = chart.curve();
-            if (shrunk.points().size() > 1)
-                shrunk.remove(index);
-            chart.setCurve(shrunk);
+            edit(QStringLiteral("delete %1").arg(index), [&](FanCurve& curve) {
+                if (curve.points().size() > 1)
+                    curve.remove(index);
+            });
         });
         connect(&chart, &FanCurveChartModel::dragCancelled, this, [this] {
-            said.append(QStringLiteral("cancel"));
-            if (stored)
-                chart.setCurve(*std::exchange(stored, std::nullopt));
+            edit(QStringLiteral("cancel"), [&](FanCurve& curve) {
+                curve = std::exchange(stored, std::nullopt).value_or(curve);
+            });
         });
     }
 
     /// What was asked for since the last time, the steps of a drag left out.
     QStringList takeEdits() {
-        QStringList edits;
-        for (const QString& line : std::exchange(said, {})) {
-            if (!line.startsWith(QLatin1StringView("step")))
-                edits.append(line);
-        }
-        return edits;
+        return std::exchange(said, {}).filter(QRegularExpression(QStringLiteral("^(?!step)")));
     }
 
     FanCurveChartModel chart;
     QStringList said;
-    std::optional<FanCurve> stored;
+    std::optional<FanCurve> stored; ///< before the drag
 
 private:
-    void say(const QString& what, double temperature, double percent) {
-        said.append(QStringLiteral("%1: %2 %3").arg(what).arg(temperature).arg(percent));
+    void edit(const QString& what, const std::function<void(FanCurve&)>& change) {
+        said.append(what);
+        FanCurve curve = chart.curve();
+        change(curve);
+        chart.setCurve(curve);
     }
 };
 

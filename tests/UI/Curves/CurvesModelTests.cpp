@@ -69,24 +69,30 @@ TEST_F(CurvesScreen, ChoosesWhatIsChosenElseActiveElseTheUsersElseCool) {
     EXPECT_EQ(model->presetName(), u"Cool"_s);
     EXPECT_TRUE(model->isBuiltIn());
     EXPECT_FALSE(model->builtInNote().isEmpty());
+    const QString readOnlyHelp = model->chartHelp();
     EXPECT_FALSE(model->chart()->isEditable());
 
     open({preset(u"A"_s), preset(u"B"_s)});
     EXPECT_EQ(model->presetName(), u"A"_s);
     EXPECT_TRUE(model->chart()->isEditable());
     EXPECT_TRUE(model->builtInNote().isEmpty());
+    EXPECT_NE(model->chartHelp(), readOnlyHelp);
     state->presets().setActivePresetID(FanPreset::fullSpeedID);
     EXPECT_EQ(model->presetName(), u"A"_s) << "independent of the active one";
     EXPECT_EQ(reopen().presetName(), u"Full Speed"_s);
     chooseUser(1);
     EXPECT_EQ(model->presetName(), u"B"_s);
-    EXPECT_TRUE(model->userPresets()->rows()[1].isChosen);
+    EXPECT_EQ(
+        model->userPresets()->rows()[1],
+        (Choice{PresetSlot::preset(*model->selectedPresetID()).id(), u"B"_s, u"wind"_s, true}));
     EXPECT_EQ(model->builtInPresets()->rowCount(), 2);
     model->select(u"automatic"_s);
     EXPECT_EQ(model->presetName(), u"B"_s);
-    state->presets().remove(*model->displayedPreset());
+    state->presets().remove(*model->shownPreset());
     EXPECT_EQ(model->presetName(), u"Full Speed"_s);
     EXPECT_TRUE(model->isBuiltIn());
+    state->presets().setActivePresetID(FanPreset::coolID);
+    EXPECT_EQ(model->presetName(), u"Cool"_s) << "what was chosen is gone";
 }
 
 TEST_F(CurvesScreen, MakesPresetsUpToTheLimitUnderNamesOfTheirOwn) {
@@ -156,13 +162,14 @@ TEST_F(CurvesScreen, DiscardsADragThatIsCancelledOrLeft) {
         how();
         EXPECT_FALSE(model->draftPreset());
         EXPECT_EQ(model->chart()->draggedPoint(), -1);
-        EXPECT_EQ(model->chart()->curve(), model->displayedPreset()->curves.value(0));
+        EXPECT_EQ(model->chart()->curve(), model->shownPreset()->curves.value(0));
         model->chart()->drag(99, {300, 20});
         model->chart()->release({300, 20});
         EXPECT_EQ(fileNumber(), before);
     };
     end([&] { model->chart()->cancelDrag(); });
     end([&] { chooseUser(1); });
+    EXPECT_EQ(model->chart()->currentPoint(), 0) << "another curve, from its beginning";
     end([&] { chooseCool(); });
     chooseUser(0);
     model->chart()->drag(1, {300, 20});
@@ -175,23 +182,27 @@ TEST_F(CurvesScreen, DiscardsADragThatIsCancelledOrLeft) {
 TEST_F(CurvesScreen, AddsAndDeletesWithinTheRules) {
     open({preset(u"A"_s, {ramp, FanCurve({{20, 100}})})});
     sample(50, 1);
-    Q_EMIT model->chart()->addPoint(41.5, 50);
+    Q_EMIT model->chart()->addPoint({41.5, 50});
     EXPECT_EQ(stored().size(), 2) << "too close: nothing is written";
     model->chart()->click({50, 40});
     EXPECT_EQ(stored(), QList<FanCurve>{FanCurve({{30, 80}, {40, 20}, {60, 50}, {80, 100}})});
-    Q_EMIT model->chart()->addPoint(200, -5);
+    Q_EMIT model->chart()->addPoint({200, -5});
     EXPECT_EQ(stored()[0].points().last(), (FanCurvePoint{110, 0}));
     while (stored()[0].points().size() > 1)
         model->chart()->deletePoint(0);
     model->chart()->deletePoint(0);
     EXPECT_EQ(stored(), QList<FanCurve>{FanCurve({{110, 0}})});
-    Q_EMIT model->chart()->deletePointRequested(5);
+    Q_EMIT model->chart()->addPoint({40, 40});
+    for (const int none : {5, 2, -1})
+        Q_EMIT model->chart()->deletePointRequested(none);
+    EXPECT_EQ(stored()[0].points().size(), 2);
+    model->chart()->deletePoint(0);
     EXPECT_EQ(stored()[0].points().size(), 1);
 
     chooseCool();
     const ino_t before = fileNumber();
-    Q_EMIT model->chart()->addPoint(90, 50);
-    Q_EMIT model->chart()->movePoint(0, 90, 50, true);
+    Q_EMIT model->chart()->addPoint({90, 50});
+    Q_EMIT model->chart()->movePoint(0, {90, 50}, true);
     Q_EMIT model->chart()->deletePointRequested(0);
     EXPECT_EQ(model->chart()->curve().points().size(), 6);
     EXPECT_EQ(fileNumber(), before);
@@ -217,15 +228,20 @@ TEST_F(CurvesScreen, TakesEditsBackAndMakesThemAgain) {
     EXPECT_FALSE(model->canUndo());
     model->undo();
     model->redo();
+    model->chart()->drag(0, {100, 100});
+    EXPECT_FALSE(model->canUndo() || model->canRedo());
+    model->chart()->cancelDrag();
     model->redo();
     EXPECT_EQ(stored(), edited);
+    EXPECT_THAT(CurvesModel::undoHelp().toStdString(), testing::HasSubstr("Ctrl+Z"));
+    EXPECT_THAT(CurvesModel::redoHelp().toStdString(), testing::HasSubstr("Ctrl+Shift+Z"));
     EXPECT_FALSE(model->canRedo());
     model->undo();
     model->chart()->pressKey(0, Qt::Key_Up, Qt::NoModifier);
     EXPECT_FALSE(model->canRedo()) << "the future is another";
     model->undo();
 
-    FanPreset foreign = *model->displayedPreset();
+    FanPreset foreign = *model->shownPreset();
     foreign.curves = {FanCurve({{50, 50}})};
     state->presets().update(foreign);
     EXPECT_EQ(model->chart()->curve(), foreign.curves[0]);

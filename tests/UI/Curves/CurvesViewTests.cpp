@@ -65,6 +65,22 @@ TEST_F(CurvesView, PicksAndMakesPresetsInItsMenu) {
     view.click(u"New Preset"_s);
     EXPECT_EQ(model.presetName(), u"New Preset"_s);
     EXPECT_TRUE(model.chart()->isEditable());
+    model.createPreset();
+    view.click(u"Preset"_s);
+    double above = 0;
+    for (const QString& next : {u"Your Presets"_s, u"New Preset 2"_s, u"Cool"_s, u"Full Speed"_s}) {
+        ASSERT_NE(view.awaited(next), nullptr) << next.toStdString();
+        const double y = RoomView::middle(*view.named(next)).y();
+        EXPECT_GT(y, std::exchange(above, y)) << next.toStdString();
+    }
+}
+
+TEST_F(CurvesView, CatchesUpWithTheTemperatureOnceItIsSeenAgain) {
+    view.rootObject()->setVisible(false);
+    state.telemetry().ingest(sampleAt(0, 50, 0, {2000}));
+    EXPECT_FALSE(model.chart()->live().isShown);
+    view.rootObject()->setVisible(true);
+    EXPECT_EQ(model.chart()->live().text, u"50 °C"_s);
 }
 
 TEST_F(CurvesView, GivesAHighWindowToTheChart) {

@@ -33,19 +33,6 @@ TEST(CardGridTest, HasAsManyColumnsAsFitAndSharesTheRest) {
              Row{893, {3, 280}},
          })
         EXPECT_EQ(CardGrid::fitting(width), grid) << width;
-    EXPECT_EQ((CardGrid{.columns = 3}).rows(7), 3);
-    EXPECT_EQ((CardGrid{.columns = 3}).rows(6), 2);
-}
-
-TEST(ThumbnailCurveTest, SamplesTheWholeRangeInsideOfAnInset) {
-    const ThumbnailCurve cool{FanPreset::builtIns(1).front().curves.front()};
-    const QPolygonF line = cool.line({200, 50});
-    ASSERT_EQ(line.size(), 41);
-    EXPECT_EQ(line.front(), QPointF(0, 42));
-    EXPECT_EQ(line.back(), QPointF(200, 8));
-    // 65 degrees: an eighth of the way from 49 to 73 percent.
-    EXPECT_NEAR(line[20].x(), 100, 1e-9);
-    EXPECT_NEAR(line[20].y(), 8 + 34 * 0.48, 1e-9);
 }
 
 TEST(OneLineTest, KeepsNamesOnALineAndInTheirPlace) {
@@ -148,8 +135,12 @@ TEST_F(PresetsModelTest, MakesPresetsUpToTheLimit) {
     EXPECT_FALSE(model.isRenaming());
     model.duplicate(u"automatic"_s);
     EXPECT_TRUE(model.canAddPreset());
+    EXPECT_EQ(model.limitHelp(), QString());
+    QSignalSpy limited(&model, &PresetsModel::canAddPresetChanged);
     model.duplicate(fullSpeedID);
     EXPECT_FALSE(model.canAddPreset());
+    EXPECT_EQ(limited.size(), 1);
+    EXPECT_THAT(model.limitHelp().toStdString(), testing::HasSubstr("3"));
     model.createPreset();
     model.duplicate(coolID);
     EXPECT_FALSE(model.isRenaming());
