@@ -17,18 +17,23 @@ PopupMenu {
         height: visible ? implicitHeight : 0
     }
 
-    Repeater {
+    // The menu knows its items by their place in it, which a Repeater does not tell when rows come.
+    Instantiator {
         id: userRows
 
         model: root.model.userPresets
         delegate: PopupMenuChoiceRow { onChosen: slotID => root.model.select(slotID) }
+        onObjectAdded: (index, object) => root.insertItem(1 + index, object as Item)
+        onObjectRemoved: index => root.takeItem(1 + index)
     }
 
     PopupMenuHeading { text: qsTrId("curves.toolbar.builtInSection") }
 
-    Repeater {
+    // Always the same ones, before the separator and the last item.
+    Instantiator {
         model: root.model.builtInPresets
         delegate: PopupMenuChoiceRow { onChosen: slotID => root.model.select(slotID) }
+        onObjectAdded: (index, object) => root.insertItem(root.count - 2, object as Item)
     }
 
     PopupMenuSeparator {}

@@ -34,15 +34,20 @@ MenuButton {
 
     // As wide as the longest name: here names are never shortened.
     menu: PopupMenu {
+        id: popup
+
         title: root.text
 
-        Repeater {
+        // The menu knows its items by their place in it, which a Repeater does not tell.
+        Instantiator {
             model: root.model
             delegate: PopupMenuChoiceRow {
                 // The active one among them makes room for its tick in all.
                 checkable: root.containsActive
                 onChosen: slotID => root.chosen(slotID)
             }
+            onObjectAdded: (index, object) => popup.insertItem(index, object as Item)
+            onObjectRemoved: index => popup.takeItem(index)
         }
     }
 

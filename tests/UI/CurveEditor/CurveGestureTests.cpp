@@ -3,6 +3,7 @@
 #include "UI/CurveEditor/CurveShape.h"
 #include "UI/RoomView.h"
 
+#include <QCursor>
 #include <QPointingDevice>
 #include <QSignalSpy>
 

@@ -27,26 +27,26 @@ public:
                              .arg(index)
                              .arg(to.tempC)
                              .arg(to.percent),
-                         [&](FanCurve& curve) { curve.move(index, to); });
+                         [&](FanCurve& edited) { edited.move(index, to); });
                 });
         connect(&chart, &FanCurveChartModel::nudgePoint, this,
                 [this](int index, const FanCurvePoint& to) {
                     edit(QStringLiteral("nudge %1: %2 %3").arg(index).arg(to.tempC).arg(to.percent),
-                         [&](FanCurve& curve) { curve.move(index, to); });
+                         [&](FanCurve& edited) { edited.move(index, to); });
                 });
         connect(&chart, &FanCurveChartModel::addPoint, this, [this](const FanCurvePoint& point) {
             edit(QStringLiteral("add: %1 %2").arg(point.tempC).arg(point.percent),
-                 [&](FanCurve& curve) { curve.insert(point); });
+                 [&](FanCurve& edited) { edited.insert(point); });
         });
         connect(&chart, &FanCurveChartModel::deletePointRequested, this, [this](int index) {
-            edit(QStringLiteral("delete %1").arg(index), [&](FanCurve& curve) {
-                if (curve.points().size() > 1)
-                    curve.remove(index);
+            edit(QStringLiteral("delete %1").arg(index), [&](FanCurve& edited) {
+                if (edited.points().size() > 1)
+                    edited.remove(index);
             });
         });
         connect(&chart, &FanCurveChartModel::dragCancelled, this, [this] {
-            edit(QStringLiteral("cancel"), [&](FanCurve& curve) {
-                curve = std::exchange(stored, std::nullopt).value_or(curve);
+            edit(QStringLiteral("cancel"), [&](FanCurve& edited) {
+                edited = std::exchange(stored, std::nullopt).value_or(edited);
             });
         });
     }

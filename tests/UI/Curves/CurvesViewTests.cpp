@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace kestrowind {
 namespace {
 

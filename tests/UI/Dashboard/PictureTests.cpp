@@ -54,13 +54,13 @@ TEST(PictureTests, AGaugeStandsAroundItsSpeedAndAboveItsName) {
     Scene scene(R"(
         import Kestrowind.Dashboard
         Column {
-            property fanGaugeFacts left
-            property fanGaugeFacts right
+            property fanGaugeFacts leftFan
+            property fanGaugeFacts rightFan
 
             Row {
                 padding: 16; spacing: 40
-                FanGaugeView { row: left; showsName: true }
-                FanGaugeView { row: right; showsName: true }
+                FanGaugeView { row: leftFan; showsName: true }
+                FanGaugeView { row: rightFan; showsName: true }
             }
             Row {
                 padding: 16; spacing: 16
@@ -70,11 +70,11 @@ TEST(PictureTests, AGaugeStandsAroundItsSpeedAndAboveItsName) {
         })",
                 {292, 204});
     scene.item().setProperty(
-        "left",
+        "leftFan",
         QVariant::fromValue(FanGaugeFacts{
             .name = u"Left"_s, .readout = u"2317"_s, .caption = u"rpm"_s, .fraction = 0.35}));
     scene.item().setProperty(
-        "right",
+        "rightFan",
         QVariant::fromValue(FanGaugeFacts{
             .name = u"Right"_s, .readout = u"0"_s, .caption = u"parked"_s, .isParked = true}));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
