@@ -7,6 +7,8 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <utility>
+
 namespace kestrowind {
 
 AppDelegate::AppDelegate(Platform& platform)
@@ -57,11 +59,10 @@ void AppDelegate::replaceAnyOtherRunningInstance() {
     for (const auto& copy : m_olderCopies)
         copy->terminate();
     QTimer::singleShot(politeWait, Qt::PreciseTimer, this, [this] {
-        for (const auto& copy : m_olderCopies) {
+        for (const auto& copy : std::exchange(m_olderCopies, {})) {
             if (!copy->isTerminated())
                 copy->forceTerminate();
         }
-        m_olderCopies.clear();
     });
 }
 

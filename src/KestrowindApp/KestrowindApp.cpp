@@ -4,8 +4,6 @@
 #include "Core/SMCDiagnostics.h"
 #include "Shared/HelperShared/HelperConstants.h"
 
-#include <QCoreApplication>
-
 #include <cstdio>
 
 namespace kestrowind {
@@ -20,8 +18,9 @@ constexpr std::chrono::seconds terminationPatience = 2 * HelperConstants::callTi
 
 } // namespace
 
-KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& options)
-    : m_platform(makePlatform(arguments))
+KestrowindApp::KestrowindApp(Platform platform, const LaunchOptions& options, ScenesSetup setup)
+    : m_setup(std::move(setup))
+    , m_platform(std::move(platform))
     , m_appState(m_platform)
     , m_delegate(m_platform) {
     m_platform.userDefaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
@@ -38,7 +37,7 @@ KestrowindApp::KestrowindApp(const QStringList& arguments, const LaunchOptions& 
 
 KestrowindApp::~KestrowindApp() = default;
 
-int KestrowindApp::run() {
+void KestrowindApp::start() {
     m_platform.application->setDelegate(m_delegate);
     // Only from here on is there a loop that hears of them; a dump simply ends.
     m_terminationSignals.emplace(terminationPatience);
@@ -48,13 +47,12 @@ int KestrowindApp::run() {
         if (m_terminationSignals->take())
             terminate();
     });
-    m_scenes = std::make_unique<Scenes>(m_appState, m_platform);
+    m_scenes = std::make_unique<Scenes>(m_appState, m_platform, m_setup);
     connect(m_scenes.get(), &Scenes::quitRequested, this, &KestrowindApp::terminate);
     m_scenes->present();
     // Set from the start, not with the first window: a hidden start has fans to hand back as well.
     m_delegate.setAppState(&m_appState);
     m_delegate.applicationDidFinishLaunching();
-    return QCoreApplication::exec();
 }
 
 void KestrowindApp::dumpSMCKeys() const {

@@ -16,19 +16,18 @@
 
 namespace kestrowind {
 
-/// The application: builds the platform, the state and what shows it, and joins their life to the
+/// The application: builds the state and what shows it on the platform, and joins their life to the
 /// process's. One object a process, on the main thread, while the application object exists.
 class KestrowindApp final : public QObject {
     Q_OBJECT
 
 public:
-    /// `arguments` without the program's name.
-    KestrowindApp(const QStringList& arguments, const LaunchOptions& options);
+    KestrowindApp(Platform platform, const LaunchOptions& options, ScenesSetup setup = {});
     ~KestrowindApp() override;
 
-    /// Shows the scenes and runs until the quit path has ended; returns the process's exit status.
-    /// Needs a QApplication.
-    int run();
+    /// Shows the scenes; the event loop, which the quit path ends, is the caller's. Once, and needs
+    /// a QApplication.
+    void start();
     /// Writes the SMC diagnostic dump to standard output.
     void dumpSMCKeys() const;
 
@@ -36,6 +35,7 @@ public:
     void terminate();
 
 private:
+    ScenesSetup m_setup;
     // In the order of their making, each relying on those above it.
     Platform m_platform;
     AppState m_appState;
@@ -43,7 +43,7 @@ private:
     std::optional<TerminationSignals> m_terminationSignals;
     std::unique_ptr<QSocketNotifier> m_terminationNotifier;
     std::unique_ptr<ReadingsPrinter> m_readingsPrinter;
-    std::unique_ptr<Scenes> m_scenes; ///< made when the application runs
+    std::unique_ptr<Scenes> m_scenes; ///< made at the start
 };
 
 } // namespace kestrowind

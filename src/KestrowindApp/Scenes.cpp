@@ -10,6 +10,7 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <QTimer>
 
 namespace kestrowind {
 namespace {
@@ -50,21 +51,25 @@ std::vector<SectionView> sectionViews(AppState& appState, Platform& platform,
 
 } // namespace
 
-Scenes::Scenes(AppState& appState, Platform& platform)
+Scenes::Scenes(AppState& appState, Platform& platform, const ScenesSetup& setup)
     : m_systemAppearance(platform.systemAppearance())
     , m_startsHidden(platform.userDefaults->boolean(u"StartHidden"_s))
     , m_notifications(platform.notifications())
     , m_alertNotifier(appState, *platform.userDefaults, *m_notifications)
     , m_helperOperation(appState.helper())
-    , m_mainWindow(appState, *platform.userDefaults, *platform.activationPolicy,
-                   m_systemAppearance.get())
-    , m_menuBarExtra(appState, m_systemAppearance.get()) {
+    , m_mainWindow(
+          {.appState = appState,
+           .userDefaults = *platform.userDefaults,
+           .activationPolicy = *platform.activationPolicy,
+           .sectionViews = sectionViews(appState, platform, m_fileDialogs, m_helperOperation)},
+          m_systemAppearance.get(), setup.windowRelease)
+    , m_statusItem(setup.statusItem())
+    , m_menuBarExtra(appState, m_systemAppearance.get(), *m_statusItem, setup.panel)
+    , m_trayWait(setup.trayWait) {
     // Closing the window hides it; the application lives on in the menu bar.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 
-    m_mainWindow.setSectionViews(
-        sectionViews(appState, platform, m_fileDialogs, m_helperOperation));
     appState.setOpenMainWindow([this] { m_mainWindow.show(); });
     connect(&m_menuBarExtra, &MenuBarExtra::openMainWindowRequested, &m_mainWindow,
             &MainWindowScene::show);
@@ -75,26 +80,24 @@ Scenes::Scenes(AppState& appState, Platform& platform)
 
     connect(m_notifications.get(), &Notifications::activated, &m_mainWindow,
             &MainWindowScene::show);
-    connect(m_notifications.get(), &Notifications::notShown, &m_menuBarExtra,
-            &MenuBarExtra::showMessage);
-
-    m_trayWait.setSingleShot(true);
-    m_trayWait.setInterval(trayWait);
-    connect(&m_trayWait, &QTimer::timeout, this, [this] {
-        m_menuBarExtra.lookForTray();
-        if (!m_menuBarExtra.isAvailable())
-            m_mainWindow.show();
-    });
-    connect(&m_menuBarExtra, &MenuBarExtra::availableChanged, &m_trayWait, &QTimer::stop);
+    connect(m_notifications.get(), &Notifications::notShown, m_statusItem.get(),
+            &StatusItem::showMessage);
+    connect(m_statusItem.get(), &StatusItem::messageClicked, &m_mainWindow, &MainWindowScene::show);
 }
 
 Scenes::~Scenes() = default;
 
 void Scenes::present() {
-    if (!m_startsHidden)
+    m_statusItem->start();
+    if (!m_startsHidden) {
         m_mainWindow.show();
-    else if (!m_menuBarExtra.isAvailable())
-        m_trayWait.start();
+        return;
+    }
+    QTimer::singleShot(m_trayWait, this, [this] {
+        m_statusItem->lookNow();
+        if (!m_statusItem->isPlaced())
+            m_mainWindow.show();
+    });
 }
 
 } // namespace kestrowind

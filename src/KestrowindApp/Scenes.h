@@ -9,7 +9,6 @@
 #include "UI/Settings/HelperOperation.h"
 
 #include <QObject>
-#include <QTimer>
 
 #include <chrono>
 #include <memory>
@@ -19,20 +18,27 @@ namespace kestrowind {
 class AppState;
 struct Platform;
 
+/// How the scenes are made; tests make them otherwise.
+struct ScenesSetup {
+    StatusItemFactory statusItem = &makeStatusItem;
+    /// How long a hidden start waits for a tray, which may come up later than we do at login.
+    std::chrono::milliseconds trayWait = std::chrono::seconds(5);
+    std::chrono::milliseconds windowRelease = MainWindowScene::defaultReleaseDelay;
+    MenuBarPanelSetup panel = {};
+};
+
 /// The application's two scenes, the main window and the menu-bar extra, and how they lead to each
 /// other. Needs a QApplication; belongs to the main thread.
 class Scenes final : public QObject {
     Q_OBJECT
 
 public:
-    /// How long a hidden start waits for a tray, which may come up later than we do at login.
-    static constexpr std::chrono::seconds trayWait{5};
-
     /// State and platform must outlive the scenes.
-    Scenes(AppState& appState, Platform& platform);
+    Scenes(AppState& appState, Platform& platform, const ScenesSetup& setup = {});
     ~Scenes() override;
 
-    /// Presents the main window; with the launch option "StartHidden" only where no tray comes up.
+    /// Presents the status item and the main window; with the launch option "StartHidden" only
+    /// where no tray comes up.
     void present();
 
 Q_SIGNALS:
@@ -46,8 +52,9 @@ private:
     WidgetFileDialogs m_fileDialogs;
     HelperOperation m_helperOperation;
     MainWindowScene m_mainWindow;
+    std::unique_ptr<StatusItem> m_statusItem;
     MenuBarExtra m_menuBarExtra;
-    QTimer m_trayWait;
+    std::chrono::milliseconds m_trayWait;
 };
 
 } // namespace kestrowind

@@ -34,7 +34,7 @@ void dumpSMCKeys(int argc, char* argv[], const QStringList& arguments,
                  const kestrowind::LaunchOptions& options) {
     const QCoreApplication application(argc, argv);
     kestrowind::installLocalizable();
-    kestrowind::KestrowindApp(arguments, options).dumpSMCKeys();
+    kestrowind::KestrowindApp(kestrowind::makePlatform(arguments), options).dumpSMCKeys();
 }
 
 int run(int argc, char* argv[], const QStringList& arguments,
@@ -43,7 +43,9 @@ int run(int argc, char* argv[], const QStringList& arguments,
     const QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("app.kestrowind"));
     kestrowind::installLocalizable();
-    return kestrowind::KestrowindApp(arguments, options).run();
+    kestrowind::KestrowindApp app(kestrowind::makePlatform(arguments), options);
+    app.start();
+    return QApplication::exec();
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "KestrowindApp/Scenes.h"
 #include "Platform/Linux/RememberedActivationPolicy.h"
 #include "Platform/Platform.h"
+#include "Support/FakeStatusItem.h"
 #include "Support/QtPrinters.h"
 #include "Support/ScreenReader.h"
 #include "UI/MenuBar/MenuBarPanel.h"
@@ -39,7 +40,9 @@ protected:
         platform.systemAppearance = [] { return nullptr; };
         platform.notifications = [] { return std::make_unique<NoNotifications>(); };
         platform.returnFreedMemory = [] {};
-        scenes = std::make_unique<Scenes>(*state.appState, platform);
+        scenes = std::make_unique<Scenes>(*state.appState, platform, ScenesSetup{.statusItem = [] {
+            return std::make_unique<FakeStatusItem>();
+        }});
         scenes->present();
         reader.look(*QGuiApplication::topLevelWindows().first());
     }

@@ -14,6 +14,7 @@ public:
     QHash<QString, QString> bundleTexts;
     QHash<QString, QString> resources;
     QSet<QString> files;
+    QString supportFolder;
 
     std::optional<QString> sysctl(const QByteArray& name) const override {
         return found(sysctlTexts, name);
@@ -33,7 +34,7 @@ public:
     bool fileExists(const QString& machinePath) const override {
         return files.contains(machinePath);
     }
-    QString applicationSupportFolder() const override { return {}; }
+    QString applicationSupportFolder() const override { return supportFolder; }
 
 private:
     template <class Key>

@@ -2,12 +2,10 @@
 
 #include "Core/LocalizedText.h"
 #include "Platform/UserDefaults.h"
-#include "UI/DesignSystem/Palette.h"
-#include "UI/DesignSystem/SceneAppearance.h"
+#include "UI/DesignSystem/LateScene.h"
 #include "UI/MainWindow/MainWindowFrame.h"
 #include "UI/MainWindow/SectionHost.h"
 
-#include <QQmlComponent>
 #include <QScreen>
 #include <QtMath>
 
@@ -37,22 +35,18 @@ void layOut(QQuickItem& item) {
 
 } // namespace
 
-MainWindow::MainWindow(const MainWindowServices& services, const MainWindowState& state)
+MainWindow::MainWindow(LateScene& scene, const MainWindowServices& services,
+                       MainWindowVisibility& visibility, const MainWindowState& state)
     : m_services(services)
+    , m_visibility(visibility)
+    , m_window(scene.make(forcedColorScheme(services.userDefaults)))
     , m_model(services.appState, state.section)
-    , m_controller(m_window, services.visibility, services.userDefaults, services.activationPolicy)
-    , m_heightController(m_window, services.visibility,
+    , m_controller(m_window, visibility, services.userDefaults, services.activationPolicy)
+    , m_heightController(m_window, visibility,
                          [this] { return m_sectionHost ? m_sectionHost->viewportHeight() : 0; }) {
-    m_engine.addImportPath(u"qrc:/qt/qml"_s);
-    SceneAppearance& appearance = SceneAppearance::of(m_engine);
-    appearance.setSystemAppearance(services.systemAppearance);
-    appearance.setForcedScheme(forcedColorScheme(services.userDefaults));
-    connect(&appearance, &SceneAppearance::colorSchemeChanged, this, &MainWindow::updateAppearance);
-    updateAppearance();
-
     restore(state);
-    buildView();
-    connect(&services.visibility, &MainWindowVisibility::isOnScreenChanged, this,
+    buildView(scene);
+    connect(&visibility, &MainWindowVisibility::isOnScreenChanged, this,
             &MainWindow::updateSection);
     connect(&m_model, &MainWindowModel::sectionChanged, this, [this] {
         updateSection();
@@ -60,6 +54,7 @@ MainWindow::MainWindow(const MainWindowServices& services, const MainWindowState
     });
     connect(&m_model, &MainWindowModel::closeRequested, &m_controller,
             &MainWindowController::windowShouldClose);
+    connect(&m_model, &MainWindowModel::quitRequested, this, &MainWindow::quitRequested);
     connect(&m_controller, &MainWindowController::closed, &m_heightController,
             &MainWindowHeightController::finishResizing);
     // Only once the window stands on the screen is it known how much its title bar takes.
@@ -105,40 +100,21 @@ void MainWindow::restore(const MainWindowState& state) {
     m_window.setPersistentGraphics(false);
 }
 
-void MainWindow::buildView() {
-    QQmlComponent component(&m_engine,
-                            QUrl(u"qrc:/qt/qml/Kestrowind/MainWindow/MainWindowView.qml"_s));
-    if (!component.isReady())
-        qFatal("the main window cannot be made: %s", qPrintable(component.errorString()));
-    auto* view = qobject_cast<QQuickItem*>(component.createWithInitialProperties({
-        {u"model"_s, QVariant::fromValue(&m_model)},
-        {u"width"_s, m_window.width()},
-        {u"height"_s, m_window.height()},
-    }));
-    Q_ASSERT(view);
-    view->setParent(m_window.contentItem());
-    view->setParentItem(m_window.contentItem());
-    const auto fill = [this, view] { view->setSize(m_window.size()); };
-    connect(&m_window, &QWindow::widthChanged, view, fill);
-    connect(&m_window, &QWindow::heightChanged, view, fill);
-
-    m_sectionHost = view->findChild<SectionHost*>();
+void MainWindow::buildView(LateScene& scene) {
+    m_window.setResizeMode(QQuickView::SizeRootObjectToView);
+    scene.load(QUrl(u"qrc:/qt/qml/Kestrowind/MainWindow/MainWindowView.qml"_s), m_model);
+    QQuickItem& view = *m_window.rootObject();
+    m_sectionHost = view.findChild<SectionHost*>();
     connect(m_sectionHost, &SectionHost::naturalHeightChanged, this,
             [this] { m_heightController.fitWindow(m_sectionHost->naturalHeight()); });
-    layOut(*view);
-    const double chromeHeight = view->height() - m_sectionHost->viewportHeight();
+    layOut(view);
+    const double chromeHeight = view.height() - m_sectionHost->viewportHeight();
     m_window.setMinimumSize({static_cast<int>(MainWindowFrame::minimumContentWidth),
                              qCeil(MainWindowFrame::minimumContentHeight + chromeHeight)});
 }
 
-void MainWindow::updateAppearance() {
-    // Seen for a moment at the edges of a window that is being enlarged.
-    m_window.setColor(Palette::color(Palette::Role::windowBackground,
-                                     SceneAppearance::of(m_engine).colorScheme()));
-}
-
 void MainWindow::updateSection() {
-    if (m_services.visibility.isOnScreen())
+    if (m_visibility.isOnScreen())
         showSection(m_model.section());
     else
         m_sectionHost->clear();

@@ -9,17 +9,17 @@
 #include <QObject>
 #include <QPoint>
 #include <QPointer>
-#include <QQmlEngine>
-#include <QQuickWindow>
 #include <QSize>
 
 #include <optional>
 #include <vector>
 
+class QQuickView;
+
 namespace kestrowind {
 
+class LateScene;
 class SectionHost;
-class SystemAppearance;
 
 /// What the main window looks like, so far as it outlives the window.
 struct MainWindowState {
@@ -34,40 +34,38 @@ struct MainWindowServices {
     AppState& appState;
     const UserDefaults& userDefaults;
     ActivationPolicy& activationPolicy;
-    SystemAppearance* systemAppearance = nullptr;
-    MainWindowVisibility& visibility;
-    const std::vector<SectionView>& sectionViews;
+    std::vector<SectionView> sectionViews; ///< a section without a view shows its title
 };
 
-/// The window while it exists: its engine, its frame, and the section that is on screen.
+/// What fills the scene's window and moves it: the frame, and the section that is on screen. It
+/// goes after the window.
 class MainWindow final : public QObject {
     Q_OBJECT
 
 public:
-    MainWindow(const MainWindowServices& services, const MainWindowState& state);
+    MainWindow(LateScene& scene, const MainWindowServices& services,
+               MainWindowVisibility& visibility, const MainWindowState& state);
     ~MainWindow() override;
 
-    [[nodiscard]] QQuickWindow& window() { return m_window; }
-    [[nodiscard]] MainWindowController& controller() { return m_controller; }
-    [[nodiscard]] MainWindowModel& model() { return m_model; }
     [[nodiscard]] MainWindowState state() const;
 
     void show();
     /// Widens a window that opened too narrow.
     void openAtComfortableWidth();
 
+Q_SIGNALS:
+    void quitRequested();
+
 private:
     void restore(const MainWindowState& state);
-    void buildView();
-    void updateAppearance();
+    void buildView(LateScene& scene);
     void updateSection();
     void showSection(MainSection section);
 
-    MainWindowServices m_services;
-    // The window and what is in it go before the models and the engine that they rely on.
-    QQmlEngine m_engine;
+    const MainWindowServices& m_services;
+    MainWindowVisibility& m_visibility;
+    QQuickView& m_window;
     MainWindowModel m_model;
-    QQuickWindow m_window;
     MainWindowController m_controller;
     MainWindowHeightController m_heightController;
     QPointer<SectionHost> m_sectionHost;

@@ -26,7 +26,6 @@ MainWindowHeightController::MainWindowHeightController(QWindow& window,
     , m_visibility(visibility)
     , m_contentHeight(std::move(contentHeight)) {
     m_scheduledResize.setSingleShot(true);
-    m_scheduledResize.setInterval(0ms);
     connect(&m_scheduledResize, &QTimer::timeout, this,
             &MainWindowHeightController::resizeWindowNow);
 
@@ -46,21 +45,17 @@ void MainWindowHeightController::fitWindow(double naturalContentHeight) {
     if (!m_visibility.isOnScreen())
         return;
     m_latestNaturalContentHeight = naturalContentHeight;
-    scheduleResize();
+    refitWindow();
 }
 
 void MainWindowHeightController::refitWindow() {
-    scheduleResize();
+    m_scheduledResize.start();
 }
 
 void MainWindowHeightController::finishResizing() {
     m_scheduledResize.stop();
     if (m_movement.state() == QAbstractAnimation::Running)
         m_movement.setCurrentTime(m_movement.duration());
-}
-
-void MainWindowHeightController::scheduleResize() {
-    m_scheduledResize.start();
 }
 
 void MainWindowHeightController::resizeWindowNow() {
@@ -81,13 +76,8 @@ void MainWindowHeightController::resizeWindowNow() {
     // Rounded up: less than the content needs would let it scroll by a fraction of a point.
     const QRect outer(qRound(frame->x()), qRound(frame->y()), qRound(frame->width()),
                       qCeil(frame->height()));
-    animateWindow(m_window.geometry(), outer.marginsRemoved(m_window.frameMargins()));
-}
-
-void MainWindowHeightController::animateWindow(const QRect& from, const QRect& to) {
-    Q_EMIT resizing(to);
-    m_movement.setStartValue(from);
-    m_movement.setEndValue(to);
+    m_movement.setStartValue(m_window.geometry());
+    m_movement.setEndValue(outer.marginsRemoved(m_window.frameMargins()));
     m_movement.start();
 }
 

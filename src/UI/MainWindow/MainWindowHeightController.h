@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QObject>
-#include <QRect>
 #include <QTimer>
 #include <QVariantAnimation>
 
@@ -29,14 +28,8 @@ public:
     /// Ends a running movement where it was to end: nobody sees it any more.
     void finishResizing();
 
-Q_SIGNALS:
-    /// A movement to this geometry, without title bar and borders, begins.
-    void resizing(const QRect& geometry);
-
 private:
-    void scheduleResize();
     void resizeWindowNow();
-    void animateWindow(const QRect& from, const QRect& to);
 
     QWindow& m_window;
     const MainWindowVisibility& m_visibility;

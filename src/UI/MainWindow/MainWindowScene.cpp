@@ -1,39 +1,49 @@
 #include "UI/MainWindow/MainWindowScene.h"
 
 #include "Platform/UserDefaults.h"
+#include "UI/DesignSystem/Palette.h"
 #include "UI/MainWindow/MainWindowFrame.h"
 
 #include <limits>
 
 namespace kestrowind {
+namespace {
 
 using namespace Qt::StringLiterals;
 
-MainWindowScene::MainWindowScene(AppState& appState, UserDefaults& userDefaults,
-                                 ActivationPolicy& activationPolicy,
-                                 SystemAppearance* systemAppearance)
-    : m_appState(appState)
-    , m_userDefaults(userDefaults)
-    , m_activationPolicy(activationPolicy)
-    , m_systemAppearance(systemAppearance)
-    , m_state{.section = sectionNamed(userDefaults.string(u"InitialSection"_s).value_or(QString())),
+/// Seen for a moment at the edges of a window that is being enlarged.
+QColor background(ColorScheme scheme) {
+    return Palette::color(Palette::Role::windowBackground, scheme);
+}
+
+} // namespace
+
+MainWindowScene::MainWindowScene(MainWindowServices services, SystemAppearance* systemAppearance,
+                                 std::chrono::milliseconds releaseDelay)
+    : m_services(std::move(services))
+    , m_state{.section = sectionNamed(
+                  m_services.userDefaults.string(u"InitialSection"_s).value_or(QString())),
               .size = QSize(static_cast<int>(MainWindowFrame::comfortableWidth),
-                            static_cast<int>(MainWindowFrame::defaultHeight))} {
-    m_release.setSingleShot(true);
-    m_release.setInterval(releaseDelay);
-    connect(&m_release, &QTimer::timeout, this, &MainWindowScene::release);
+                            static_cast<int>(MainWindowFrame::defaultHeight))}
+    , m_scene({.background = &background,
+               .systemAppearance = systemAppearance,
+               .releaseDelay = releaseDelay}) {
+    connect(&m_scene, &LateScene::aboutToRelease, this,
+            [this] { m_state = m_mainWindow->state(); });
+    connect(&m_scene, &LateScene::released, this, [this] {
+        m_mainWindow.reset();
+        Q_EMIT released();
+    });
 }
 
 MainWindowScene::~MainWindowScene() = default;
 
-void MainWindowScene::setSectionViews(std::vector<SectionView> sectionViews) {
-    m_sectionViews = std::move(sectionViews);
-}
-
 void MainWindowScene::show() {
-    m_release.stop();
-    if (!m_mainWindow)
-        makeWindow();
+    if (!m_mainWindow) {
+        m_mainWindow = std::make_unique<MainWindow>(m_scene, m_services, m_visibility, m_state);
+        connect(m_mainWindow.get(), &MainWindow::quitRequested, this,
+                &MainWindowScene::quitRequested);
+    }
     m_mainWindow->show();
     if (!m_wasShown) {
         m_wasShown = true;
@@ -42,58 +52,17 @@ void MainWindowScene::show() {
     }
 }
 
-void MainWindowScene::selectSection(MainSection section) {
-    m_state.section = section;
-    if (m_mainWindow)
-        m_mainWindow->model().setSection(section);
-}
-
-void MainWindowScene::close() {
-    if (m_mainWindow && m_mainWindow->window().isVisible())
-        m_mainWindow->window().close();
-}
-
-bool MainWindowScene::isVisible() const {
-    return m_mainWindow && m_visibility.isOnScreen();
-}
-
-QQuickWindow* MainWindowScene::window() const {
-    return m_mainWindow ? &m_mainWindow->window() : nullptr;
-}
-
-void MainWindowScene::makeWindow() {
-    m_mainWindow = std::make_unique<MainWindow>(
-        MainWindowServices{
-            .appState = m_appState,
-            .userDefaults = m_userDefaults,
-            .activationPolicy = m_activationPolicy,
-            .systemAppearance = m_systemAppearance,
-            .visibility = m_visibility,
-            .sectionViews = m_sectionViews,
-        },
-        m_state);
-    connect(&m_mainWindow->controller(), &MainWindowController::closed, this, [this] {
-        m_release.start();
-        Q_EMIT closed();
-    });
-    connect(&m_mainWindow->model(), &MainWindowModel::quitRequested, this,
-            &MainWindowScene::quitRequested);
-}
-
-void MainWindowScene::release() {
-    m_state = m_mainWindow->state();
-    m_mainWindow.reset();
-    Q_EMIT released();
-}
-
 void MainWindowScene::closeLaterIfRequested() {
     const std::chrono::duration<double> delay(
-        m_userDefaults.number(u"CloseMainWindowAfterSeconds"_s));
+        m_services.userDefaults.number(u"CloseMainWindowAfterSeconds"_s));
     // The toolkit's timers count the milliseconds in an int, which holds 24 days.
     constexpr std::chrono::milliseconds longestDelay(std::numeric_limits<int>::max());
     if (delay.count() > 0 && delay <= longestDelay) {
         QTimer::singleShot(std::chrono::duration_cast<std::chrono::milliseconds>(delay),
-                           Qt::PreciseTimer, this, &MainWindowScene::close);
+                           Qt::PreciseTimer, this, [this] {
+                               if (window() && window()->isVisible())
+                                   window()->close();
+                           });
     }
 }
 

@@ -1,5 +1,6 @@
 #include "UI/MenuBar/MenuBarIcon.h"
 
+#include "Core/AssignIfChanged.h"
 #include "UI/MenuBar/MenuBarLabelImage.h"
 
 #include <QPixmap>
@@ -8,46 +9,28 @@
 
 namespace kestrowind {
 
-using namespace Qt::StringLiterals;
-
-QString MenuBarIcon::key(const MenuBarReading& reading, double scale) {
-    return QString::number(static_cast<int>(scale * 100)) + u'|' + reading.temperatureText() +
-           u'\n' + reading.fanText();
-}
-
 bool MenuBarIcon::update(const MenuBarReading& reading, double scale, ColorScheme scheme) {
-    const QString newKey = key(reading, scale);
-    const bool isSameScheme = m_style == Style::templateLabel || scheme == m_scheme;
-    if (newKey == m_key && isSameScheme)
+    const bool isTemplate = m_style == StatusItem::Style::templateLabel;
+    if (!assignIfChanged(
+            m_key, std::optional(Key{.reading = reading,
+                                     .scale = scale,
+                                     .scheme = isTemplate ? std::nullopt : std::optional(scheme)})))
         return false;
-    m_key = newKey;
-    m_scheme = scheme;
-    m_icon = m_style == Style::templateLabel ? templateLabel(reading, scale)
-                                             : square(reading, scale, scheme);
-    return true;
-}
-
-QIcon MenuBarIcon::templateLabel(const MenuBarReading& reading, double scale) {
-    QIcon icon;
-    const QImage image =
-        MenuBarLabelImage::label(reading.temperatureText(), reading.fanText(), scale);
-    if (!image.isNull())
-        icon.addPixmap(QPixmap::fromImage(image));
-    icon.setIsMask(true);
-    return icon;
-}
-
-QIcon MenuBarIcon::square(const MenuBarReading& reading, double scale, ColorScheme scheme) {
+    m_icon = QIcon();
+    if (isTemplate) {
+        m_icon.addPixmap(QPixmap::fromImage(MenuBarLabelImage::label(reading, scale)));
+        m_icon.setIsMask(true);
+        return true;
+    }
     const QColor ink = scheme == ColorScheme::dark ? Qt::white : Qt::black;
-    QIcon icon;
     // The sizes that trays of the usual panels have, in points.
     for (const int size : {22, 24, 32}) {
         QImage image =
             MenuBarLabelImage::square(reading, static_cast<int>(std::lround(size * scale)), ink);
         image.setDevicePixelRatio(scale);
-        icon.addPixmap(QPixmap::fromImage(image));
+        m_icon.addPixmap(QPixmap::fromImage(image));
     }
-    return icon;
+    return true;
 }
 
 } // namespace kestrowind

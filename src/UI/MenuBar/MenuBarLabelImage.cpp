@@ -50,7 +50,9 @@ QPainterPath centredLine(const QString& text, const QFont& font, double width, d
 
 } // namespace
 
-QImage label(const QString& temperatureText, const QString& fanText, double scale) {
+QImage label(const MenuBarReading& reading, double scale) {
+    const QString temperatureText = reading.temperatureText();
+    const QString fanText = reading.fanText();
     const QFont font = labelFont();
     const QFontMetricsF metrics(font);
     const double lineHeight = std::ceil(metrics.height());
@@ -58,8 +60,6 @@ QImage label(const QString& temperatureText, const QString& fanText, double scal
         std::max(metrics.horizontalAdvance(temperatureText), metrics.horizontalAdvance(fanText)));
     QImage image((QSizeF(width, 2 * lineHeight) * scale).toSize(),
                  QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull())
-        return {};
     image.setDevicePixelRatio(scale);
     image.fill(Qt::transparent);
     QPainter painter(&image);
@@ -72,8 +72,6 @@ QImage label(const QString& temperatureText, const QString& fanText, double scal
 
 QImage square(const MenuBarReading& reading, int side, const QColor& ink) {
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull())
-        return {};
     image.fill(Qt::transparent);
 
     // The temperature has few digits and may stand taller than the speed.

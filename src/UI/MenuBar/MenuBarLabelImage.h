@@ -13,7 +13,7 @@ namespace MenuBarLabelImage {
 
 /// Two centred lines with no gap between them, in black, for a menu bar that colours the picture
 /// itself. `scale` is device pixels a point.
-[[nodiscard]] QImage label(const QString& temperatureText, const QString& fanText, double scale);
+[[nodiscard]] QImage label(const MenuBarReading& reading, double scale);
 
 /// The two numbers fitted into a square of `side` device pixels for a tray that shows small square
 /// icons. The ink has a faint edge in its opposite, since nobody knows what it will stand on.

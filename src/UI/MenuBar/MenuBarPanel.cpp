@@ -1,10 +1,7 @@
 #include "UI/MenuBar/MenuBarPanel.h"
 
 #include "Core/LocalizedText.h"
-#include "Core/Logging.h"
-#include "UI/DesignSystem/DesktopCompositing.h"
 #include "UI/DesignSystem/Palette.h"
-#include "UI/DesignSystem/SceneAppearance.h"
 #include "UI/MenuBar/MenuBarPanelPlacement.h"
 
 #include <QBitmap>
@@ -47,63 +44,46 @@ QRegion roundedRegion(const QSize& size) {
 
 } // namespace
 
-MenuBarPanel::MenuBarPanel(AppState& appState, SystemAppearance* appearance)
-    : MenuBarPanel(appState, appearance, Timing()) {}
-
-MenuBarPanel::MenuBarPanel(AppState& appState, SystemAppearance* appearance, Timing timing)
-    : m_appearance(appearance)
-    , m_timing(timing)
-    , m_model(appState) {
-    QQmlEngine::setObjectOwnership(&m_model, QQmlEngine::CppOwnership);
+MenuBarPanel::MenuBarPanel(AppState& appState, SystemAppearance* appearance,
+                           MenuBarPanelSetup setup)
+    : m_setup(setup)
+    , m_model(appState)
+    , m_scene({.background = [this](ColorScheme scheme) { return background(scheme); },
+               .systemAppearance = appearance,
+               .releaseDelay = setup.releaseDelay}) {
     connect(&m_model, &MenuBarModel::dismissRequested, this, &MenuBarPanel::close);
     connect(&m_model, &MenuBarModel::quitRequested, this, &MenuBarPanel::quitRequested);
-    m_releaseTimer.setSingleShot(true);
-    m_releaseTimer.setInterval(timing.releaseDelay);
-    connect(&m_releaseTimer, &QTimer::timeout, this, [this] {
-        releaseScene();
-        Q_EMIT released();
-    });
-}
-
-MenuBarPanel::~MenuBarPanel() {
-    releaseScene();
+    connect(&m_scene, &LateScene::released, this, &MenuBarPanel::released);
 }
 
 void MenuBarPanel::toggle(const QRect& icon) {
-    if (isOpen()) {
+    if (isOpen())
         close();
-        return;
-    }
-    if (m_sinceClosedFromOutside.isValid() &&
-        !m_sinceClosedFromOutside.hasExpired(m_timing.sameClick.count()))
-        return;
-    open(icon);
+    else if (!m_sinceClosedFromOutside.isValid() ||
+             m_sinceClosedFromOutside.hasExpired(m_setup.sameClick.count()))
+        open(icon);
 }
 
 void MenuBarPanel::open(const QRect& icon) {
     m_icon = icon;
-    m_releaseTimer.stop();
     m_model.setIsFollowing(true);
-    if (!m_view && !makeScene()) {
-        m_model.setIsFollowing(false);
-        return;
-    }
+    if (!view())
+        makeView();
     place();
     m_wasActive = false;
     // The keyboard starts on the panel itself, which tells assistive technology what came up.
-    m_view->rootObject()->forceActiveFocus(Qt::PopupFocusReason);
-    m_view->show();
-    m_view->requestActivate();
+    view()->rootObject()->forceActiveFocus(Qt::PopupFocusReason);
+    view()->show();
+    view()->requestActivate();
 }
 
 void MenuBarPanel::close() {
     if (!isOpen())
         return;
     if (isX11())
-        m_view->setMouseGrabEnabled(false);
-    m_view->hide();
+        view()->setMouseGrabEnabled(false);
+    view()->hide();
     m_model.setIsFollowing(false);
-    m_releaseTimer.start();
 }
 
 void MenuBarPanel::closeFromOutside() {
@@ -113,39 +93,21 @@ void MenuBarPanel::closeFromOutside() {
     close();
 }
 
-bool MenuBarPanel::makeScene() {
-    m_isComposited = isDesktopComposited();
-    m_engine = std::make_unique<QQmlEngine>();
-    m_engine->addImportPath(u"qrc:/qt/qml"_s);
-    SceneAppearance::of(*m_engine).setSystemAppearance(m_appearance);
-    m_view = std::make_unique<QQuickView>(m_engine.get(), nullptr);
-    m_view->setTitle(localized("menuBar.panel.title"));
-    m_view->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
-                     Qt::NoDropShadowWindowHint);
-    updateBackground();
-    connect(&SceneAppearance::of(*m_engine), &SceneAppearance::colorSchemeChanged, this,
-            &MenuBarPanel::updateBackground);
-    m_view->setResizeMode(QQuickView::SizeViewToRootObject);
-    m_view->setInitialProperties({{u"model"_s, QVariant::fromValue(&m_model)}});
-    m_view->installEventFilter(this);
-    m_view->setSource(QUrl(u"qrc:/qt/qml/Kestrowind/MenuBar/MenuBarView.qml"_s));
-    if (m_view->status() != QQuickView::Ready) {
-        qCWarning(shellLog) << "the menu-bar panel cannot be shown:" << m_view->errors();
-        releaseScene();
-        return false;
-    }
-    connect(m_view.get(), &QWindow::heightChanged, this, &MenuBarPanel::place);
-    connect(m_view.get(), &QWindow::activeChanged, this, [this] {
-        if (m_wasActive && !m_view->isActive())
+void MenuBarPanel::makeView() {
+    m_isComposited = m_setup.isComposited();
+    QQuickView& view = m_scene.make();
+    view.setTitle(localized("menuBar.panel.title"));
+    view.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                  Qt::NoDropShadowWindowHint);
+    view.setResizeMode(QQuickView::SizeViewToRootObject);
+    view.installEventFilter(this);
+    m_scene.load(QUrl(u"qrc:/qt/qml/Kestrowind/MenuBar/MenuBarView.qml"_s), m_model);
+    connect(&view, &QWindow::heightChanged, this, &MenuBarPanel::place);
+    connect(&view, &QWindow::activeChanged, this, [this, &view] {
+        if (m_wasActive && !view.isActive())
             closeFromOutside();
-        m_wasActive = m_view->isActive();
+        m_wasActive = view.isActive();
     });
-    return true;
-}
-
-void MenuBarPanel::releaseScene() {
-    m_view.reset();
-    m_engine.reset();
 }
 
 void MenuBarPanel::place() {
@@ -153,45 +115,31 @@ void MenuBarPanel::place() {
     if (!screen)
         return;
     const QRect available = screen->availableGeometry();
-    m_view->rootObject()->setProperty("maximumHeight",
+    view()->rootObject()->setProperty("maximumHeight",
                                       available.height() - 2 * MenuBarPanelPlacement::gap);
-    m_view->setPosition(MenuBarPanelPlacement::topLeft(m_view->size(), m_icon, available));
-    shape();
-}
-
-void MenuBarPanel::updateBackground() {
-    if (m_isComposited) {
-        m_view->setColor(Qt::transparent);
-        return;
-    }
-    // What is transparent is black: the smooth edge of the corners blends into
-    // the hairline instead, and the mask cuts off the rest.
-    const ColorScheme scheme = SceneAppearance::of(*m_engine).colorScheme();
-    m_view->setColor(Palette::composited(Palette::color(Palette::Role::controlBorder, scheme),
-                                         Palette::color(Palette::Role::panelBackground, scheme)));
-}
-
-void MenuBarPanel::shape() {
+    view()->setPosition(MenuBarPanelPlacement::topLeft(view()->size(), m_icon, available));
     if (!m_isComposited)
-        m_view->setMask(roundedRegion(m_view->size()));
+        view()->setMask(roundedRegion(view()->size()));
+}
+
+QColor MenuBarPanel::background(ColorScheme scheme) const {
+    // What is transparent is black where nobody composites: the smooth edge of the corners blends
+    // into the hairline instead, and the mask cuts off the rest.
+    return m_isComposited
+               ? Qt::transparent
+               : Palette::composited(Palette::color(Palette::Role::controlBorder, scheme),
+                                     Palette::color(Palette::Role::panelBackground, scheme));
 }
 
 bool MenuBarPanel::eventFilter(QObject* watched, QEvent* event) {
-    switch (event->type()) {
-    case QEvent::Expose:
-        if (isOpen() && m_view->isExposed() && isX11())
-            m_view->setMouseGrabEnabled(true);
-        break;
-    case QEvent::MouseButtonPress: {
+    if (event->type() == QEvent::Expose && isOpen() && view()->isExposed() && isX11())
+        view()->setMouseGrabEnabled(true);
+    if (event->type() == QEvent::MouseButtonPress) {
         const QPointF position = static_cast<QMouseEvent*>(event)->position();
-        if (!QRectF(QPointF(), QSizeF(m_view->size())).contains(position)) {
+        if (!QRectF(QPointF(), QSizeF(view()->size())).contains(position)) {
             closeFromOutside();
             return true;
         }
-        break;
-    }
-    default:
-        break;
     }
     return QObject::eventFilter(watched, event);
 }

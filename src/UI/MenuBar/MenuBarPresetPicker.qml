@@ -46,10 +46,9 @@ Column {
         }
     }
 
-    FlowLayout {
+    Flow {
         width: parent.width
         spacing: 6
-        rowSpacing: 6
         Accessible.role: Accessible.Grouping
         Accessible.name: caption.text
 

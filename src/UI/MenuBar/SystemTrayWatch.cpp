@@ -1,15 +1,13 @@
 #include "UI/MenuBar/SystemTrayWatch.h"
 
-#include <QSystemTrayIcon>
-
 #include <array>
 
 namespace kestrowind {
 
 using namespace std::chrono_literals;
 
-SystemTrayWatch::SystemTrayWatch(QObject* parent)
-    : QObject(parent) {
+SystemTrayWatch::SystemTrayWatch(Look isTrayThere)
+    : m_isTrayThere(std::move(isTrayThere)) {
     m_nextLook.setSingleShot(true);
     connect(&m_nextLook, &QTimer::timeout, this, &SystemTrayWatch::look);
 }
@@ -24,7 +22,7 @@ void SystemTrayWatch::lookNow() {
 void SystemTrayWatch::look() {
     static constexpr std::array<std::chrono::milliseconds, 4> waits = {firstWait, 5000ms, 15000ms,
                                                                        30000ms};
-    if (QSystemTrayIcon::isSystemTrayAvailable()) {
+    if (m_isTrayThere()) {
         m_nextLook.stop();
         if (m_watcher)
             m_watcher.release()->deleteLater();

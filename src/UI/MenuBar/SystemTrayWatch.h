@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace kestrowind {
@@ -14,7 +15,10 @@ class SystemTrayWatch final : public QObject {
     Q_OBJECT
 
 public:
-    explicit SystemTrayWatch(QObject* parent = nullptr);
+    /// Whether there is a tray now.
+    using Look = std::function<bool()>;
+
+    explicit SystemTrayWatch(Look isTrayThere);
     ~SystemTrayWatch() override;
 
     /// Emits `found` once, perhaps before it returns, or `missing` once and goes on looking.
@@ -33,6 +37,7 @@ private:
     void look();
 
     std::unique_ptr<QObject> m_watcher; ///< tells of a panel that has started
+    Look m_isTrayThere;
     QTimer m_nextLook;
     int m_looks = 0;
     bool m_isMissing = false;

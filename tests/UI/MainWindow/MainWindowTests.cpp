@@ -71,20 +71,23 @@ protected:
         state->defaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
         QFile highSection(state->home.path(u"High.qml"_s));
         EXPECT_TRUE(highSection.open(QIODevice::WriteOnly));
-        highSection.write("import QtQuick\nItem { implicitHeight: 1200 }");
-        scene =
-            std::make_unique<MainWindowScene>(*state->appState, *state->defaults, policy, nullptr);
-        scene->setReleaseDelay(0ms);
-        scene->setSectionViews({
-            {MainSection::dashboard, QUrl::fromLocalFile(highSection.fileName()), {}},
-            {MainSection::settings, QUrl(u"qrc:/preview/Missing.qml"_s), {}},
-        });
+        highSection.write("import QtQuick\nItem { implicitHeight: 1200; "
+                          "Item { objectName: 'low'; y: 1100; width: 10; height: 10 } }");
+        scene = std::make_unique<MainWindowScene>(
+            MainWindowServices{
+                .appState = *state->appState,
+                .userDefaults = *state->defaults,
+                .activationPolicy = policy,
+                .sectionViews = {{MainSection::dashboard,
+                                  QUrl::fromLocalFile(highSection.fileName()),
+                                  {}},
+                                 {MainSection::settings, QUrl(u"qrc:/preview/Missing.qml"_s), {}}}},
+            nullptr, 0ms);
     }
 
-    QQuickItem& view() const { return *scene->window()->contentItem()->childItems().first(); }
-    MainSection section() const {
-        return view().property("model").value<MainWindowModel*>()->section();
-    }
+    bool isVisible() const { return scene->window() && scene->window()->isVisible(); }
+    QQuickItem& view() const { return *scene->window()->rootObject(); }
+    MainWindowModel& model() const { return *view().property("model").value<MainWindowModel*>(); }
     SectionHost& host() const { return *view().findChild<SectionHost*>(); }
     bool hasContent() const { return !host().childItems().isEmpty(); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
@@ -96,67 +99,50 @@ protected:
     std::unique_ptr<MainWindowScene> scene;
 };
 
-TEST_F(MainWindowTest, ClosingHidesAndThenFreesEverything) {
+TEST_F(MainWindowTest, ClosingHidesThenFreesEverythingAndItComesBackAsItWas) {
     EXPECT_EQ(scene->window(), nullptr);
     scene->show();
-    EXPECT_TRUE(scene->isVisible());
+    EXPECT_TRUE(isVisible());
     EXPECT_TRUE(hasContent());
     EXPECT_EQ(policy.policy(), Policy::regular);
-
-    QSignalSpy closed(scene.get(), &MainWindowScene::closed);
-    const QPointer<QQuickWindow> window = scene->window();
-    window->close();
-    EXPECT_EQ(closed.size(), 1);
-    EXPECT_FALSE(scene->isVisible());
-    EXPECT_FALSE(hasContent());
-    EXPECT_EQ(policy.policy(), Policy::accessory);
-    QSignalSpy released(scene.get(), &MainWindowScene::released);
-    ASSERT_TRUE(released.wait(1000));
-    EXPECT_EQ(window, nullptr);
-}
-
-TEST_F(MainWindowTest, ComesBackAsItWas) {
-    scene->show();
-    scene->selectSection(MainSection::presets);
+    EXPECT_FALSE(scene->window()->isPersistentSceneGraph());
+    EXPECT_FALSE(scene->window()->isPersistentGraphics());
+    model().setSection(MainSection::presets);
     // Let the height settle, so that what is chosen now is what stays.
     QTest::qWait(400);
-    scene->window()->setFramePosition({40, 50});
-    scene->window()->resize(900, scene->window()->height());
-    const QRect geometry = scene->window()->geometry();
-    QSignalSpy released(scene.get(), &MainWindowScene::released);
-    scene->close();
-    ASSERT_TRUE(released.wait(1000));
+    const QPointer<QQuickView> window = scene->window();
+    window->setFramePosition({40, 50});
+    window->resize(900, window->height());
+    const QRect geometry = window->geometry();
 
+    QSignalSpy released(scene.get(), &MainWindowScene::released);
+    window->close();
+    EXPECT_FALSE(isVisible());
+    EXPECT_FALSE(hasContent());
+    EXPECT_EQ(policy.policy(), Policy::accessory);
+    ASSERT_TRUE(released.wait(1000));
+    EXPECT_EQ(window, nullptr);
     scene->show();
     EXPECT_EQ(scene->window()->geometry(), geometry);
-    EXPECT_EQ(section(), MainSection::presets);
+    EXPECT_EQ(model().section(), MainSection::presets);
     EXPECT_EQ(policy.policy(), Policy::regular);
-}
 
-TEST_F(MainWindowTest, KeepsTheWindowThatIsWantedBackAtOnce) {
-    scene->setReleaseDelay(50ms);
+    scene->window()->showMaximized();
+    scene->window()->close();
+    ASSERT_TRUE(released.wait(1000));
     scene->show();
-    const QPointer<QQuickWindow> window = scene->window();
-    scene->close();
-    scene->show();
-    QTest::qWait(120);
-    EXPECT_NE(window, nullptr);
-    EXPECT_EQ(scene->window(), window);
-    EXPECT_TRUE(hasContent());
+    EXPECT_TRUE(scene->window()->windowStates().testFlag(Qt::WindowMaximized));
 }
 
 TEST_F(MainWindowTest, MinimisingEmptiesTheWindowUntilItIsShown) {
     state->defaults->setBoolean(u"hideDockIconWhenWindowClosed"_s, false);
     scene->show();
-    QSignalSpy changed(&scene->visibility(), &MainWindowVisibility::isOnScreenChanged);
     scene->window()->showMinimized();
-    EXPECT_FALSE(scene->isVisible());
     EXPECT_FALSE(hasContent());
     scene->show();
-    EXPECT_TRUE(scene->isVisible());
+    EXPECT_FALSE(scene->window()->windowStates().testFlag(Qt::WindowMinimized));
     EXPECT_TRUE(hasContent());
-    EXPECT_EQ(changed.size(), 2);
-    scene->close();
+    scene->window()->close();
     EXPECT_EQ(policy.policy(), Policy::regular);
 }
 
@@ -164,16 +150,27 @@ TEST_F(MainWindowTest, FollowsTheNaturalHeightOfTheSection) {
     scene->show();
     QTest::qWait(400);
     // The dashboard asks for more than the screen has; the plain title for less than the least.
-    scene->selectSection(MainSection::curves);
+    model().setSection(MainSection::curves);
     QTRY_COMPARE_WITH_TIMEOUT(qRound(host().viewportHeight()), 420, 1500);
     EXPECT_EQ(scene->window()->width(), 820);
     EXPECT_EQ(scene->window()->minimumHeight(), view().height() - host().viewportHeight() + 420)
         << "the toolbar is what it became";
 }
 
+TEST_F(MainWindowTest, ScrollsToWhatHasTheKeyboard) {
+    scene->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(scene->window()));
+    const auto top = [this] { return host().mapToScene({}).y(); };
+    const double atFirst = top();
+    host().findChild<QQuickItem*>(u"low"_s)->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return top() < atFirst - 300; }));
+    model().setSection(MainSection::settings);
+    EXPECT_EQ(top(), atFirst) << "another section begins at its top";
+}
+
 TEST_F(MainWindowTest, ShowsTheTitleOfASectionThatCannotBeMade) {
     scene->show();
-    scene->selectSection(MainSection::settings);
+    model().setSection(MainSection::settings);
     ASSERT_TRUE(hasContent());
     EXPECT_EQ(host().childItems().last()->property("section").value<Choice>().title, u"Settings"_s);
 }
@@ -182,10 +179,10 @@ TEST_F(MainWindowTest, TakesItsCommandsFromTheKeyboard) {
     scene->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(scene->window()));
     press(Qt::Key_3, Qt::ControlModifier);
-    EXPECT_EQ(section(), MainSection::presets);
+    EXPECT_EQ(model().section(), MainSection::presets);
     press(Qt::Key_Tab);
     press(Qt::Key_Left);
-    EXPECT_EQ(section(), MainSection::curves);
+    EXPECT_EQ(model().section(), MainSection::curves);
     press(Qt::Key_Tab);
     press(Qt::Key_Right);
     press(Qt::Key_Space);
@@ -198,7 +195,7 @@ TEST_F(MainWindowTest, TakesItsCommandsFromTheKeyboard) {
     press(Qt::Key_Q, Qt::ControlModifier);
     EXPECT_EQ(quit.size(), 1);
     press(Qt::Key_W, Qt::ControlModifier);
-    EXPECT_FALSE(scene->isVisible());
+    EXPECT_FALSE(isVisible());
 }
 
 TEST(MainWindowHeightControllerTest, ResizesOnceForSeveralReports) {
@@ -206,18 +203,32 @@ TEST(MainWindowHeightControllerTest, ResizesOnceForSeveralReports) {
     window.setGeometry(50, 60, 400, 550);
     MainWindowVisibility visibility;
     MainWindowHeightController controller(window, visibility, [&] { return window.height() - 50; });
-    QSignalSpy resizing(&controller, &MainWindowHeightController::resizing);
     controller.fitWindow(450);
     controller.fitWindow(600);
     controller.fitWindow(460.2);
-    QTRY_COMPARE_WITH_TIMEOUT(window.height(), 511, 1500);
-    EXPECT_EQ(resizing.size(), 1);
-    EXPECT_EQ(window.position(), QPoint(50, 60));
+    QSignalSpy resized(&window, &QWindow::heightChanged);
+    ASSERT_TRUE(resized.wait());
+    EXPECT_LT(window.height(), 550) << "not for the second";
+    EXPECT_GT(window.height(), 511) << "it moves";
+    controller.finishResizing();
+    EXPECT_EQ(window.geometry(), QRect(50, 60, 400, 511));
 
     visibility.setOnScreen(false);
     controller.fitWindow(700);
+    controller.refitWindow();
     QTest::qWait(20);
-    EXPECT_EQ(resizing.size(), 1);
+    EXPECT_EQ(window.height(), 511);
+
+    // A window that would reach below the screen goes up.
+    visibility.setOnScreen(true);
+    window.setGeometry(50, 250, 400, 511);
+    controller.fitWindow(600);
+    QTRY_COMPARE_WITH_TIMEOUT(window.height(), 650, 1500);
+    EXPECT_EQ(window.geometry().bottom(), window.screen()->availableGeometry().bottom());
+    window.setWindowStates(Qt::WindowMaximized);
+    controller.fitWindow(450);
+    QTest::qWait(20);
+    EXPECT_EQ(window.height(), 650) << "a maximised window";
 }
 
 TEST_F(MainWindowTest, OpensAsTheOptionsSay) {
@@ -237,18 +248,16 @@ TEST_F(MainWindowTest, OpensAsTheOptionsSay) {
         launch(arguments);
         scene->show();
         EXPECT_EQ(SceneAppearance::of(*qmlEngine(&view())).isDark(), isDark);
-        EXPECT_EQ(section(), opened);
+        EXPECT_EQ(model().section(), opened);
     }
 
     launch({u"-CloseMainWindowAfterSeconds"_s, u"1e300"_s});
-    QSignalSpy never(scene.get(), &MainWindowScene::closed);
     scene->show();
     QCoreApplication::processEvents();
-    EXPECT_EQ(never.count(), 0);
+    EXPECT_TRUE(isVisible());
     launch({u"-CloseMainWindowAfterSeconds"_s, u"0.05"_s});
-    QSignalSpy closed(scene.get(), &MainWindowScene::closed);
     scene->show();
-    EXPECT_TRUE(closed.wait(2000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !isVisible(); }));
     EXPECT_EQ(policy.policy(), Policy::accessory);
 }
 

@@ -1,6 +1,8 @@
+#include "Platform/Notifications.h"
 #include "Support/ReferencePicture.h"
 #include "UI/MenuBar/MenuBarIcon.h"
 #include "UI/MenuBar/MenuBarLabelImage.h"
+#include "UI/MenuBar/TrayStatusItem.h"
 #include "UI/TestState.h"
 
 #include <gmock/gmock.h>
@@ -34,8 +36,8 @@ TEST(MenuBarReadingTest, SaysTheHottestAndTheFastest) {
 }
 
 TEST(MenuBarLabelImageTest, LooksLikeItself) {
-    QList<QImage> pictures = {MenuBarLabelImage::label(u"72°C"_s, u"3317 rpm"_s, 1),
-                              MenuBarLabelImage::label(u"104°C"_s, u"0 rpm"_s, 2)};
+    QList<QImage> pictures = {MenuBarLabelImage::label({u"72"_s, u"3317"_s}, 1),
+                              MenuBarLabelImage::label({u"104"_s, u"0"_s}, 2)};
     const MenuBarReading readings[] = {
         {u"7"_s, u"0"_s}, {u"72"_s, u"3317"_s}, {u"104"_s, u"11111"_s}, {u"--"_s, u"--"_s}};
     for (const MenuBarReading& reading : readings) {
@@ -48,18 +50,57 @@ TEST(MenuBarLabelImageTest, LooksLikeItself) {
 
 TEST(MenuBarIconTest, IsDrawnAnewOnlyForAnotherKey) {
     const MenuBarReading reading{u"72"_s, u"999"_s};
-    MenuBarIcon label(MenuBarIcon::Style::templateLabel);
+    MenuBarIcon label(StatusItem::Style::templateLabel);
     ASSERT_TRUE(label.update(reading, 1, ColorScheme::light));
     EXPECT_TRUE(label.icon().isMask());
     EXPECT_FALSE(label.update(reading, 1, ColorScheme::dark));
     EXPECT_TRUE(label.update(reading, 2, ColorScheme::dark));
     EXPECT_TRUE(label.update({u"73"_s, u"999"_s}, 2, ColorScheme::dark));
 
-    MenuBarIcon square(MenuBarIcon::Style::square);
+    MenuBarIcon square(StatusItem::Style::square);
     ASSERT_TRUE(square.update(reading, 1, ColorScheme::light));
     EXPECT_FALSE(square.update(reading, 1, ColorScheme::light));
     EXPECT_TRUE(square.update(reading, 1, ColorScheme::dark));
     EXPECT_FALSE(square.icon().isMask());
+    EXPECT_TRUE(square.update(reading, 2, ColorScheme::dark));
+    EXPECT_EQ(square.icon().availableSizes(), (QList<QSize>{{44, 44}, {48, 48}, {64, 64}}));
+}
+
+TEST(TrayStatusItemTest, WaitsForATrayAndTellsWhatIsDoneThere) {
+    bool isTrayThere = false;
+    TrayStatusItem item([&] { return isTrayThere; });
+    QStringList heard;
+    const auto note = [&heard](const QString& what) { return [&heard, what] { heard += what; }; };
+    QObject::connect(&item, &StatusItem::placed, note(u"placed"_s));
+    QObject::connect(&item, &StatusItem::clicked, note(u"clicked"_s));
+    QObject::connect(&item, &StatusItem::menuRequested, note(u"menu"_s));
+    QObject::connect(&item, &StatusItem::messageClicked, note(u"message"_s));
+    item.start();
+    item.lookNow();
+    item.showMessage({.title = u"too early"_s});
+    EXPECT_FALSE(item.isPlaced());
+    isTrayThere = true;
+    item.lookNow();
+    item.lookNow();
+    ASSERT_TRUE(item.isPlaced());
+
+    item.setCommands({{u"Open"_s, note(u"open"_s)}, {u"Quit"_s, note(u"quit"_s)}});
+    item.setPicture(QIcon(), u"72°C"_s);
+    auto* icon = item.findChild<QSystemTrayIcon*>();
+    EXPECT_TRUE(icon->isVisible());
+    EXPECT_EQ(icon->toolTip(), u"72°C"_s);
+    for (const auto reason : {QSystemTrayIcon::Trigger, QSystemTrayIcon::DoubleClick,
+                              QSystemTrayIcon::MiddleClick, QSystemTrayIcon::Context})
+        Q_EMIT icon->activated(reason);
+    Q_EMIT icon->messageClicked();
+    QStringList menu;
+    for (QAction* action : icon->contextMenu()->actions()) {
+        menu.append(action->text());
+        action->trigger();
+    }
+    EXPECT_EQ(menu, (QStringList{u"Open"_s, QString(), u"Quit"_s}));
+    EXPECT_EQ(heard, (QStringList{u"placed"_s, u"clicked"_s, u"menu"_s, u"message"_s, u"open"_s,
+                                  u"quit"_s}));
 }
 
 } // namespace

@@ -46,6 +46,9 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(panel.view()));
     }
 
+    [[nodiscard]] MenuBarModel& model() const {
+        return *panel.view()->rootObject()->property("model").value<MenuBarModel*>();
+    }
     [[nodiscard]] QQuickItem* focused() const { return panel.view()->activeFocusItem(); }
 
     TestState state;
@@ -56,21 +59,33 @@ protected:
 TEST_F(MenuBarPanelTest, MakesItsSceneLazilyAndGivesItBack) {
     EXPECT_EQ(panel.view(), nullptr);
     openAndWait();
-    const int height = panel.view()->height();
-    state.telemetry().ingest(sampleAt(2, 60, 50, {2000}));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.view()->height() < height; }, 3000));
-    state.helper->setState(HelperState::notInstalled);
-    EXPECT_TRUE(panel.isOpen());
-
+    EXPECT_EQ(focused(), panel.view()->rootObject());
     panel.close();
     EXPECT_FALSE(panel.isOpen());
+    state.helper->setState(HelperState::notInstalled);
+    EXPECT_TRUE(model().isHelperInstalled()) << "nobody looks at it";
     panel.open(icon);
+    EXPECT_FALSE(model().isHelperInstalled());
     QTest::qWait(120);
     EXPECT_TRUE(panel.isOpen());
     panel.close();
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel.view() == nullptr; }, 3000));
     panel.open(icon);
     EXPECT_TRUE(panel.isOpen());
+}
+
+TEST_F(MenuBarPanelTest, StaysAtTheIconAsHighAsItsContentAndNoHigherThanTheScreen) {
+    icon.moveTop(700);
+    openAndWait();
+    const int height = panel.view()->height();
+    const int bottom = panel.view()->geometry().bottom();
+    state.telemetry().ingest(sampleAt(2, 60, 50, {2000}));
+    const auto geometry = [this] { return panel.view()->geometry(); };
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return geometry().height() < height && geometry().bottom() == bottom; }, 3000));
+    const int available = panel.view()->screen()->availableGeometry().height();
+    state.telemetry().ingest(sampleAt(4, 60, 50, std::vector<double>(40, 2000)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.view()->height() == available - 12; }, 3000));
 }
 
 TEST_F(MenuBarPanelTest, ClosesOnTheIconOnEscapeAndWhenTheUserTurnsAway) {
@@ -90,6 +105,22 @@ TEST_F(MenuBarPanelTest, ClosesOnTheIconOnEscapeAndWhenTheUserTurnsAway) {
     // The same click, as the tray tells of it.
     panel.toggle(icon);
     EXPECT_FALSE(panel.isOpen());
+}
+
+TEST_F(MenuBarPanelTest, IsCutToItsShapeWhereNothingShowsThrough) {
+    openAndWait();
+    EXPECT_EQ(panel.view()->color(), QColor(Qt::transparent));
+    EXPECT_TRUE(panel.view()->mask().isEmpty());
+    MenuBarPanel opaque(*state.appState, nullptr, {.isComposited = [] { return false; }});
+    opaque.open(icon);
+    EXPECT_EQ(opaque.view()->color().alpha(), 255);
+    const QRegion shape = opaque.view()->mask();
+    const QRect whole(QPoint(), opaque.view()->size());
+    EXPECT_EQ(shape.boundingRect(), whole);
+    for (const QPoint corner : {whole.topLeft(), whole.topRight(), whole.bottomRight()})
+        EXPECT_FALSE(shape.contains(corner));
+    for (const QPoint edge : {QPoint(4, 4), QPoint(12, 0), QPoint(0, 12), whole.center()})
+        EXPECT_TRUE(shape.contains(edge)) << edge.x();
 }
 
 TEST_F(MenuBarPanelTest, ClosesWhenItLosesTheFocus) {
