@@ -15,7 +15,7 @@ namespace kestrowind {
     QList<QImage> pictures;
     for (const ColorScheme scheme : {ColorScheme::light, ColorScheme::dark}) {
         SceneAppearance::of(engine).setForcedScheme(scheme);
-        window.setColor(Palette::color(Palette::Role::windowBackground, scheme));
+        window.setColor(Palette::colors(scheme).windowBackground);
         pictures.append(window.grabWindow());
     }
     return sideBySide(pictures);

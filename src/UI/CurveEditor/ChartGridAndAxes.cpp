@@ -2,12 +2,9 @@
 
 #include "Core/AssignIfChanged.h"
 #include "Core/LocalizedText.h"
-#include "UI/DesignSystem/Palette.h"
-#include "UI/DesignSystem/SceneAppearance.h"
 #include "UI/DesignSystem/Typography.h"
 
 #include <QPainter>
-#include <QQmlEngine>
 
 #include <cmath>
 
@@ -27,48 +24,39 @@ double sharp(double coordinate) {
 void ChartGridAndAxes::setChart(FanCurveChartModel* chart) {
     if (!assignIfChanged(m_chart, chart))
         return;
-    connect(chart, &FanCurveChartModel::plotChanged, this, [this] { update(); });
-    update();
-    Q_EMIT chartChanged();
+    connect(chart, &FanCurveChartModel::plotChanged, this, &ChartGridAndAxes::repaint);
+    Q_EMIT lookChanged();
 }
 
-void ChartGridAndAxes::paint(QPainter* painter) {
+void ChartGridAndAxes::paint(QPainter& painter) {
     if (!m_chart || m_chart->plot().isEmpty())
         return;
-    const ColorScheme scheme = SceneAppearance::of(*qmlEngine(this)).colorScheme();
-    const QPen faint(Palette::color(Palette::Role::separator, scheme), 1);
-    const QPen base(Palette::color(Palette::Role::tertiaryText, scheme), 1);
+    const QPen faint(colors().separator, 1);
+    const QPen base(colors().tertiaryText, 1);
     const QRectF plot = m_chart->plot();
     const CurvePlotGeometry geometry = m_chart->geometry();
 
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setFont(Typography::caption2());
+    painter.setFont(Typography::caption2());
     for (const int tick : CurvePlotGeometry::temperatureTicks(plot.width())) {
         const double x = plot.left() + geometry.x(tick);
-        painter->setPen(faint);
-        painter->drawLine(QPointF(sharp(x), plot.top()), QPointF(sharp(x), plot.bottom()));
-        painter->setPen(base);
-        painter->drawText(QRectF(x - 40, plot.bottom() + labelsBelow, 80, 40),
-                          Qt::AlignHCenter | Qt::AlignTop,
-                          localized("curves.chart.axisDegrees").arg(tick));
+        painter.setPen(faint);
+        painter.drawLine(QPointF(sharp(x), plot.top()), QPointF(sharp(x), plot.bottom()));
+        painter.setPen(base);
+        painter.drawText(QRectF(x - 40, plot.bottom() + labelsBelow, 80, 40),
+                         Qt::AlignHCenter | Qt::AlignTop,
+                         localized("curves.chart.axisDegrees").arg(tick));
     }
     for (const int tick : CurvePlotGeometry::percentTicks()) {
         const double y = plot.top() + geometry.y(tick);
-        painter->setPen(tick == 0 ? base : faint);
-        painter->setOpacity(tick == 0 ? 0.6 : 1);
-        painter->drawLine(QPointF(plot.left(), sharp(y)), QPointF(plot.right(), sharp(y)));
-        painter->setOpacity(1);
-        painter->setPen(base);
-        painter->drawText(QRectF(0, y - 20, plot.left() - labelsLeft, 40),
-                          Qt::AlignRight | Qt::AlignVCenter,
-                          localized("curves.chart.axisPercent").arg(tick));
+        painter.setPen(tick == 0 ? base : faint);
+        painter.setOpacity(tick == 0 ? 0.6 : 1);
+        painter.drawLine(QPointF(plot.left(), sharp(y)), QPointF(plot.right(), sharp(y)));
+        painter.setOpacity(1);
+        painter.setPen(base);
+        painter.drawText(QRectF(0, y - 20, plot.left() - labelsLeft, 40),
+                         Qt::AlignRight | Qt::AlignVCenter,
+                         localized("curves.chart.axisPercent").arg(tick));
     }
-}
-
-void ChartGridAndAxes::componentComplete() {
-    QQuickPaintedItem::componentComplete();
-    connect(&SceneAppearance::of(*qmlEngine(this)), &SceneAppearance::colorSchemeChanged, this,
-            [this] { update(); });
 }
 
 } // namespace kestrowind

@@ -1,33 +1,27 @@
 #pragma once
 
 #include "UI/CurveEditor/FanCurveChartModel.h"
+#include "UI/DesignSystem/PaintedItem.h"
 
 #include <QPointer>
-#include <QQuickPaintedItem>
 
 namespace kestrowind {
 
-/// Grid lines and their labels, over the whole chart. Painted anew only for another size or colour
-/// scheme.
-class ChartGridAndAxes : public QQuickPaintedItem {
+/// Grid lines and their labels, over the whole chart.
+class ChartGridAndAxes : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY chartChanged
+    Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY lookChanged
                    FINAL REQUIRED)
     QML_ELEMENT
 
 public:
-    using QQuickPaintedItem::QQuickPaintedItem;
+    using PaintedItem::PaintedItem;
 
     [[nodiscard]] FanCurveChartModel* chart() const { return m_chart; }
     void setChart(FanCurveChartModel* chart);
 
-    void paint(QPainter* painter) override;
-
-Q_SIGNALS:
-    void chartChanged();
-
 protected:
-    void componentComplete() override;
+    void paint(QPainter& painter) override;
 
 private:
     QPointer<FanCurveChartModel> m_chart;

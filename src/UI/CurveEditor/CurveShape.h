@@ -1,10 +1,10 @@
 #pragma once
 
 #include "UI/CurveEditor/FanCurveChartModel.h"
+#include "UI/DesignSystem/PaintedItem.h"
 
 #include <QPointer>
 #include <QPolygonF>
-#include <QQuickPaintedItem>
 #include <QVariantAnimation>
 
 namespace kestrowind {
@@ -12,9 +12,9 @@ namespace kestrowind {
 /// The curve's line and the area under it, exactly as the curve is evaluated. Lies over the plot
 /// and `bleed` points beyond it on every side. A change that is to be seen moving springs; one that
 /// comes in the middle of another starts from where the line is.
-class CurveShape : public QQuickPaintedItem {
+class CurveShape : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY chartChanged
+    Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY lookChanged
                    FINAL REQUIRED)
     Q_PROPERTY(double bleed READ bleed CONSTANT FINAL)
     QML_ELEMENT
@@ -29,13 +29,8 @@ public:
     /// What is drawn now, in values.
     [[nodiscard]] const QPolygonF& outline() const { return m_outline; }
 
-    void paint(QPainter* painter) override;
-
-Q_SIGNALS:
-    void chartChanged();
-
 protected:
-    void componentComplete() override;
+    void paint(QPainter& painter) override;
 
 private:
     void takeCurve();

@@ -1,26 +1,20 @@
 #pragma once
 
-#include <QColor>
-#include <QQuickPaintedItem>
+#include "UI/DesignSystem/PaintedItem.h"
 
 namespace kestrowind {
 
 /// A vertical line, 4 points on, 4 off.
-class DashedLine : public QQuickPaintedItem {
+class DashedLine : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY lookChanged FINAL)
     QML_ELEMENT
 
 public:
-    using QQuickPaintedItem::QQuickPaintedItem;
+    using PaintedItem::PaintedItem;
 
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor& color);
-
-    void paint(QPainter* painter) override;
-
-Q_SIGNALS:
-    void colorChanged();
+protected:
+    void paint(QPainter& painter) override;
 
 private:
     QColor m_color = Qt::black;

@@ -1,11 +1,6 @@
 #include "UI/Dashboard/ChartReadoutMark.h"
 
-#include "Core/AssignIfChanged.h"
-#include "UI/DesignSystem/Palette.h"
-#include "UI/DesignSystem/SceneAppearance.h"
-
 #include <QPainter>
-#include <QQmlEngine>
 
 #include <cmath>
 
@@ -15,38 +10,31 @@ namespace {
 constexpr double dotRadius = 4;
 constexpr double dotRim = 2;
 constexpr double middle = dotRadius + dotRim + 0.5; ///< of a device pixel: the line is sharp
-constexpr float lineOpacity = 0.5F;
+constexpr double lineOpacity = 0.5;
 
 } // namespace
 
 ChartReadoutMark::ChartReadoutMark(QQuickItem* parent)
-    : QQuickPaintedItem(parent) {
+    : PaintedItem(parent) {
     setImplicitWidth(2 * middle);
-    setVisible(false);
+    connect(this, &ChartReadoutMark::lookChanged, this, &ChartReadoutMark::place);
+    place();
 }
 
-void ChartReadoutMark::setReadout(const ChartReadout& readout) {
-    if (!assignIfChanged(m_readout, readout))
-        return;
-    setX(std::floor(readout.x) - std::floor(middle));
-    setVisible(readout.isShown);
-    update();
-    Q_EMIT readoutChanged();
+void ChartReadoutMark::place() {
+    setX(std::floor(m_readout.x) - std::floor(middle));
+    setVisible(m_readout.isShown);
 }
 
-void ChartReadoutMark::paint(QPainter* painter) {
-    const ColorScheme scheme = SceneAppearance::of(*qmlEngine(this)).colorScheme();
-    QColor line = Palette::color(Palette::Role::tertiaryText, scheme);
-    line.setAlphaF(line.alphaF() * lineOpacity);
-    painter->setPen(QPen(line, 1));
-    painter->drawLine(QPointF(middle, m_readout.top), QPointF(middle, m_readout.bottom));
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
+void ChartReadoutMark::paint(QPainter& painter) {
+    painter.setPen(QPen(Palette::faded(colors().tertiaryText, lineOpacity), 1));
+    painter.drawLine(QPointF(middle, m_readout.top), QPointF(middle, m_readout.bottom));
+    painter.setPen(Qt::NoPen);
     for (const ChartReadout::Dot& dot : m_readout.dots) {
-        painter->setBrush(Palette::color(Palette::Role::popupBackground, scheme));
-        painter->drawEllipse(QPointF(middle, dot.y), dotRadius + dotRim, dotRadius + dotRim);
-        painter->setBrush(LineChartPainter::color(dot.ink, scheme));
-        painter->drawEllipse(QPointF(middle, dot.y), dotRadius, dotRadius);
+        painter.setBrush(colors().popupBackground);
+        painter.drawEllipse(QPointF(middle, dot.y), dotRadius + dotRim, dotRadius + dotRim);
+        painter.setBrush(LineChartPainter::color(dot.ink, colorScheme()));
+        painter.drawEllipse(QPointF(middle, dot.y), dotRadius, dotRadius);
     }
 }
 

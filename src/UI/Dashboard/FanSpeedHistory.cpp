@@ -14,19 +14,19 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr double roundTo = 1000;
-constexpr qint64 idsPerSample = 16;
+constexpr int idsPerSample = 16;
 
-QList<LineChart::Series> lines(const QList<Point>& points, const QStringList& names) {
+QList<LineChart::Series> lines(const QList<HistoryPoint>& points, const QStringList& newestNames) {
+    QStringList names;
+    for (const HistoryPoint& point : points)
+        names.append(point.seriesName);
+    names.removeDuplicates();
     QList<LineChart::Series> lines;
-    for (const Point& point : points) {
-        auto line = std::ranges::find(lines, point.seriesName, &LineChart::Series::name);
-        if (line == lines.end()) {
-            lines.append({.name = point.seriesName,
-                          .readout = localized("dashboard.chart.readoutFan").arg(point.seriesName),
-                          .isDashed = isDashed(point.seriesName, names)});
-            line = lines.end() - 1;
-        }
-        line->points.append({point.minutesFromNow, point.rpm});
+    for (const QString& name : names) {
+        lines.append({.name = name,
+                      .readout = localized("dashboard.chart.readoutFan").arg(name),
+                      .points = HistoryPoints::line(points, name),
+                      .isDashed = isDashed(name, newestNames)});
     }
     return lines;
 }
@@ -56,19 +56,17 @@ bool isDashed(const QString& name, const QStringList& seriesNames) {
     return isDashed(seriesNames.indexOf(name));
 }
 
-QList<Point> points(const QList<TelemetrySample>& samples) {
-    QList<Point> points;
+QList<HistoryPoint> points(const QList<TelemetrySample>& samples) {
+    QList<HistoryPoint> points;
     for (const TelemetrySample& sample : samples) {
-        const double minutes = HistoryChartAxis::minutesFromNow(sample, samples.last());
-        const qint64 id =
-            HistoryChartAxis::millisecondsFromNow(sample, samples.last()) * idsPerSample;
         for (const SMCFanReading& fan : sample.fans)
-            points.append({id + fan.index, minutes, seriesName(fan.index), fan.actualRPM});
+            points.append(HistoryPoints::of(sample, samples.last(), fan.index, idsPerSample,
+                                            seriesName(fan.index), fan.actualRPM));
     }
     return points;
 }
 
-LineChart::Domain domain(const QList<TelemetrySample>& samples, const QList<Point>& points) {
+LineChart::Domain domain(const QList<TelemetrySample>& samples, const QList<HistoryPoint>& points) {
     double highest = roundTo;
     // Speeds come unchecked from the machine.
     const auto raise = [&highest](double rpm) {
@@ -79,29 +77,23 @@ LineChart::Domain domain(const QList<TelemetrySample>& samples, const QList<Poin
         for (const SMCFanReading& fan : samples.last().fans)
             raise(fan.maxRPM);
     }
-    for (const Point& point : points)
-        raise(point.rpm);
+    for (const HistoryPoint& point : points)
+        raise(point.value);
     return {.lower = 0, .upper = std::ceil(highest / roundTo) * roundTo};
 }
 
 LineChart chart(const QList<TelemetrySample>& samples) {
-    const QList<Point> all = points(samples);
-    const double span = HistoryChartAxis::span(samples);
-    LineChart chart;
-    chart.time = HistoryChartAxis::domain(span);
-    chart.values = domain(samples, all);
-    chart.timeTicks = HistoryChartAxis::labelledTicks(span);
-    for (const double tick : HistoryChartAxis::valueTicks(chart.values)) {
-        chart.valueTicks.append({.position = tick, .label = WholeNumberText::rounded(tick)});
-    }
+    const QList<HistoryPoint> all = points(samples);
+    LineChart chart =
+        HistoryChartAxis::chart(samples, domain(samples, all), WholeNumberText::rounded);
     chart.series = lines(all, seriesNames(samples));
     if (all.isEmpty())
         return chart;
-    const auto [lowest, highest] = std::ranges::minmax(all, {}, &Point::rpm);
-    chart.spoken =
-        localized("dashboard.chart.spokenFanSpeeds")
-            .arg(HistorySamples::windowCaption(samples))
-            .arg(WholeNumberText::truncated(lowest.rpm), WholeNumberText::truncated(highest.rpm));
+    const auto [lowest, highest] = std::ranges::minmax(all, {}, &HistoryPoint::value);
+    chart.spoken = localized("dashboard.chart.spokenFanSpeeds")
+                       .arg(HistorySamples::windowCaption(samples))
+                       .arg(WholeNumberText::truncated(lowest.value),
+                            WholeNumberText::truncated(highest.value));
     return chart;
 }
 

@@ -1,21 +1,12 @@
 #pragma once
 
-#include "Core/TelemetrySample.h"
+#include "UI/Dashboard/HistoryPoints.h"
 #include "UI/Dashboard/LineChart.h"
 
 #include <QStringList>
 
 /// The chart of the fans' speeds.
 namespace kestrowind::FanSpeedHistory {
-
-struct Point {
-    qint64 id = 0; ///< unique and stable for a sample's age, for up to 16 fans
-    double minutesFromNow = 0;
-    QString seriesName = {};
-    double rpm = 0;
-
-    bool operator==(const Point&) const = default;
-};
 
 /// A line's name in the chart; what people read in the legend is the fan's display name.
 [[nodiscard]] QString seriesName(int fanIndex);
@@ -27,9 +18,9 @@ struct Point {
 /// By name; a fan that the newest sample does not have is solid.
 [[nodiscard]] bool isDashed(const QString& name, const QStringList& seriesNames);
 
-[[nodiscard]] QList<Point> points(const QList<TelemetrySample>& samples);
+[[nodiscard]] QList<HistoryPoint> points(const QList<TelemetrySample>& samples);
 [[nodiscard]] LineChart::Domain domain(const QList<TelemetrySample>& samples,
-                                       const QList<Point>& points);
+                                       const QList<HistoryPoint>& points);
 [[nodiscard]] LineChart chart(const QList<TelemetrySample>& samples);
 
 } // namespace kestrowind::FanSpeedHistory

@@ -2,33 +2,17 @@
 
 #include "Core/AssignIfChanged.h"
 #include "UI/Dashboard/LineChartPainter.h"
-#include "UI/DesignSystem/SceneAppearance.h"
-
-#include <QQmlEngine>
 
 namespace kestrowind {
 
 HistoryChart::HistoryChart(QQuickItem* parent)
-    : QQuickPaintedItem(parent) {
+    : PaintedItem(parent) {
     setAcceptHoverEvents(true);
+    connect(this, &HistoryChart::lookChanged, this, &HistoryChart::refreshReadout);
 }
 
-void HistoryChart::setChart(const LineChart& chart) {
-    if (!assignIfChanged(m_chart, chart))
-        return;
-    update();
-    refreshReadout();
-    Q_EMIT chartChanged();
-}
-
-void HistoryChart::paint(QPainter* painter) {
-    LineChartPainter::paint(*painter, m_chart, look());
-}
-
-void HistoryChart::componentComplete() {
-    QQuickPaintedItem::componentComplete();
-    connect(&SceneAppearance::of(*qmlEngine(this)), &SceneAppearance::colorSchemeChanged, this,
-            [this] { update(); });
+void HistoryChart::paint(QPainter& painter) {
+    LineChartPainter::paint(painter, m_chart, look());
 }
 
 void HistoryChart::hoverMoveEvent(QHoverEvent* event) {
@@ -42,7 +26,7 @@ void HistoryChart::hoverLeaveEvent(QHoverEvent* /*event*/) {
 }
 
 LineChartPainter::Look HistoryChart::look() const {
-    return {.size = size(), .scheme = SceneAppearance::of(*qmlEngine(this)).colorScheme()};
+    return {.size = size(), .scheme = colorScheme()};
 }
 
 void HistoryChart::refreshReadout() {

@@ -2,37 +2,29 @@
 
 #include "UI/Dashboard/ChartReadout.h"
 #include "UI/Dashboard/LineChart.h"
-
-#include <QQuickPaintedItem>
+#include "UI/DesignSystem/PaintedItem.h"
 
 #include <optional>
 
 namespace kestrowind {
 
-/// A chart of the history. Repainted only for new data, a new size or another colour scheme, and
-/// not while it is invisible. What it shows under the pointer is told beside it.
-class HistoryChart : public QQuickPaintedItem {
+/// A chart of the history. What it shows under the pointer is told beside it.
+class HistoryChart : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(kestrowind::LineChart chart READ chart WRITE setChart NOTIFY chartChanged FINAL)
+    Q_PROPERTY(kestrowind::LineChart chart MEMBER m_chart NOTIFY lookChanged FINAL)
     Q_PROPERTY(kestrowind::ChartReadout readout READ readout NOTIFY readoutChanged FINAL)
     QML_ELEMENT
 
 public:
     explicit HistoryChart(QQuickItem* parent = nullptr);
 
-    [[nodiscard]] const LineChart& chart() const { return m_chart; }
-    void setChart(const LineChart& chart);
-
     [[nodiscard]] const ChartReadout& readout() const { return m_readout; }
 
-    void paint(QPainter* painter) override;
-
 Q_SIGNALS:
-    void chartChanged();
     void readoutChanged();
 
 protected:
-    void componentComplete() override;
+    void paint(QPainter& painter) override;
     void hoverEnterEvent(QHoverEvent* event) override { hoverMoveEvent(event); }
     void hoverMoveEvent(QHoverEvent* event) override;
     void hoverLeaveEvent(QHoverEvent* event) override;

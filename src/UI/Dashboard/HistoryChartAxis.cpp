@@ -1,6 +1,7 @@
 #include "UI/Dashboard/HistoryChartAxis.h"
 
 #include "Core/LocalizedText.h"
+#include "UI/Dashboard/HistoryPoints.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,23 +29,21 @@ constexpr double mostValueTicks = 5;
 
 } // namespace
 
-double minutesFromNow(const TelemetrySample& sample, const TelemetrySample& newest) {
-    return std::chrono::duration<double, std::ratio<60>>(sample.timestamp - newest.timestamp)
-        .count();
-}
-
-qint64 millisecondsFromNow(const TelemetrySample& sample, const TelemetrySample& newest) {
-    return std::chrono::duration_cast<std::chrono::milliseconds>(sample.timestamp -
-                                                                 newest.timestamp)
-        .count();
+LineChart chart(const QList<TelemetrySample>& samples, const LineChart::Domain& values,
+                const std::function<QString(double)>& unit) {
+    const double minutes = span(samples);
+    LineChart chart{.time = {.lower = -minutes, .upper = 0}, .values = values};
+    for (const double tick : ticks(minutes))
+        chart.timeTicks.append({.position = tick, .label = label(tick)});
+    for (const double tick : valueTicks(values))
+        chart.valueTicks.append({.position = tick, .label = unit(tick)});
+    return chart;
 }
 
 double span(const QList<TelemetrySample>& samples) {
-    return samples.isEmpty() ? 1 : std::max(-minutesFromNow(samples.first(), samples.last()), 1.0);
-}
-
-LineChart::Domain domain(double span) {
-    return {.lower = -span, .upper = 0};
+    return samples.isEmpty()
+               ? 1
+               : std::max(-HistoryPoints::minutesBetween(samples.last(), samples.first()), 1.0);
 }
 
 QList<double> ticks(double span) {
@@ -72,13 +71,6 @@ QString timeAgo(double minutesFromNow) {
     if (seconds < 60)
         return localized("dashboard.chart.axisSecondsAgo").arg(seconds);
     return localized("dashboard.chart.readoutMinutesAgo").arg(seconds / 60).arg(seconds % 60);
-}
-
-QList<LineChart::Tick> labelledTicks(double span) {
-    QList<LineChart::Tick> labelled;
-    for (const double tick : ticks(span))
-        labelled.append({.position = tick, .label = label(tick)});
-    return labelled;
 }
 
 QList<double> valueTicks(const LineChart::Domain& domain) {

@@ -22,11 +22,6 @@ constexpr double labelGap = 8;
 constexpr double areaOpacity = 0.22;
 constexpr double foregroundOpacity = 0.7;
 
-QColor withOpacity(QColor color, double factor) {
-    color.setAlphaF(static_cast<float>(static_cast<double>(color.alphaF()) * factor));
-    return color;
-}
-
 /// In the middle of a device pixel, so that a one-point line is sharp.
 double sharp(double coordinate) {
     return std::floor(coordinate) + 0.5;
@@ -57,8 +52,8 @@ void paintAxes(QPainter& painter, const LineChart& chart, const Look& look) {
     const QRectF plot = look.plot();
     const double base = std::round((metrics.ascent() - metrics.descent()) / 2);
     painter.setFont(font);
-    const QPen grid(Palette::color(Palette::Role::separator, look.scheme), 1);
-    const QPen text(Palette::color(Palette::Role::tertiaryText, look.scheme));
+    const QPen grid(Palette::colors(look.scheme).separator, 1);
+    const QPen text(Palette::colors(look.scheme).tertiaryText);
 
     for (const LineChart::Tick& tick : chart.valueTicks) {
         const double y = look.position({0, tick.position}, chart).y();
@@ -97,8 +92,8 @@ void paintArea(QPainter& painter, const QPolygonF& line, const QRectF& plot, con
     QPolygonF area = line;
     area << QPointF(line.last().x(), plot.bottom()) << QPointF(line.first().x(), plot.bottom());
     QLinearGradient fade(0, area.boundingRect().top(), 0, plot.bottom());
-    fade.setColorAt(0, withOpacity(color, areaOpacity));
-    fade.setColorAt(1, withOpacity(color, 0));
+    fade.setColorAt(0, Palette::faded(color, areaOpacity));
+    fade.setColorAt(1, Palette::faded(color, 0));
     painter.setPen(Qt::NoPen);
     painter.setBrush(fade);
     painter.drawPolygon(area);
@@ -125,7 +120,7 @@ QColor color(LineChart::Ink ink, ColorScheme scheme) {
     case LineChart::Ink::gpu:
         return Palette::gpuSeries();
     case LineChart::Ink::foreground:
-        return withOpacity(Palette::color(Palette::Role::primaryText, scheme), foregroundOpacity);
+        return Palette::faded(Palette::colors(scheme).primaryText, foregroundOpacity);
     }
     Q_UNREACHABLE();
 }

@@ -1,28 +1,20 @@
 #pragma once
 
-#include <QQuickPaintedItem>
+#include "UI/DesignSystem/PaintedItem.h"
 
 namespace kestrowind {
 
 /// A straight piece of a fan's line for the legend, through the middle of its height.
-class LineSample : public QQuickPaintedItem {
+class LineSample : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(bool isDashed READ isDashed WRITE setDashed NOTIFY isDashedChanged FINAL)
+    Q_PROPERTY(bool isDashed MEMBER m_isDashed NOTIFY lookChanged FINAL)
     QML_ELEMENT
 
 public:
     explicit LineSample(QQuickItem* parent = nullptr);
 
-    [[nodiscard]] bool isDashed() const { return m_isDashed; }
-    void setDashed(bool isDashed);
-
-    void paint(QPainter* painter) override;
-
-Q_SIGNALS:
-    void isDashedChanged();
-
 protected:
-    void componentComplete() override;
+    void paint(QPainter& painter) override;
 
 private:
     bool m_isDashed = false;

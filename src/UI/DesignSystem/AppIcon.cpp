@@ -1,12 +1,10 @@
 #include "UI/DesignSystem/AppIcon.h"
 
-#include "Core/AssignIfChanged.h"
 #include "UI/DesignSystem/FanBladesShape.h"
 #include "UI/DesignSystem/Palette.h"
 
 #include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
 
 namespace kestrowind {
 namespace {
@@ -35,35 +33,19 @@ void paintShadow(QPainter& painter, const QRectF& square) {
 
 } // namespace
 
-AppIcon::AppIcon(QQuickItem* parent)
-    : QQuickPaintedItem(parent) {
-    setAntialiasing(true);
-}
-
-void AppIcon::setSide(double side) {
-    if (!assignIfChanged(m_side, side))
-        return;
-    update();
-    Q_EMIT sideChanged();
-}
-
-void AppIcon::paintIcon(QPainter& painter, const QRectF& square) {
-    QLinearGradient air(square.topLeft(), square.bottomRight());
-    air.setStops(Palette::fanGradientStops());
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(air);
-    const double radius = square.width() * cornerRadius;
-    painter.drawRoundedRect(square, radius, radius);
-    const double margin = square.width() * bladesMargin;
-    painter.fillPath(FanBladesShape::path(square.adjusted(margin, margin, -margin, -margin)),
-                     Qt::white);
-}
-
-void AppIcon::paint(QPainter* painter) {
+void AppIcon::paint(QPainter& painter) {
     QRectF square(0, 0, m_side, m_side);
     square.moveCenter(boundingRect().center());
-    paintShadow(*painter, square);
-    paintIcon(*painter, square);
+    paintShadow(painter, square);
+
+    QLinearGradient air(square.topLeft(), square.bottomRight());
+    air.setStops(Palette::fanGradientStops());
+    painter.setBrush(air);
+    const double radius = m_side * cornerRadius;
+    painter.drawRoundedRect(square, radius, radius);
+    const double margin = m_side * bladesMargin;
+    painter.fillPath(FanBladesShape::path(square.adjusted(margin, margin, -margin, -margin)),
+                     Qt::white);
 }
 
 } // namespace kestrowind

@@ -1,31 +1,22 @@
 #pragma once
 
-#include <QQuickPaintedItem>
-#include <QtQml/qqmlregistration.h>
+#include "UI/DesignSystem/PaintedItem.h"
 
 namespace kestrowind {
 
 /// The application's icon: white blades on the colours of air, in a rounded square that throws a
 /// soft shadow. It stands in the middle of the item, which has to have room for the shadow.
-class AppIcon : public QQuickPaintedItem {
+class AppIcon : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(double side READ side WRITE setSide NOTIFY sideChanged FINAL)
+    /// Of the rounded square, points.
+    Q_PROPERTY(double side MEMBER m_side NOTIFY lookChanged FINAL)
     QML_ELEMENT
 
 public:
-    explicit AppIcon(QQuickItem* parent = nullptr);
+    using PaintedItem::PaintedItem;
 
-    /// Of the rounded square, points.
-    [[nodiscard]] double side() const { return m_side; }
-    void setSide(double side);
-
-    void paint(QPainter* painter) override;
-
-    /// Without a shadow, into the square.
-    static void paintIcon(QPainter& painter, const QRectF& square);
-
-Q_SIGNALS:
-    void sideChanged();
+protected:
+    void paint(QPainter& painter) override;
 
 private:
     double m_side = 0;

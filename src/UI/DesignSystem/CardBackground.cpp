@@ -1,13 +1,9 @@
 #include "UI/DesignSystem/CardBackground.h"
 
-#include "Core/AssignIfChanged.h"
 #include "UI/DesignSystem/Palette.h"
-#include "UI/DesignSystem/SceneAppearance.h"
 
-#include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
-#include <QQmlEngine>
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGTexture>
@@ -61,31 +57,27 @@ private:
 
 } // namespace
 
-CardBackground::CardBackground(QQuickItem* parent)
-    : QQuickItem(parent) {
-    setFlag(ItemHasContents);
+double CardBackground::radius() const {
+    return std::min({m_cornerRadius, width() / 2, height() / 2});
 }
 
-void CardBackground::setCornerRadius(double cornerRadius) {
-    if (!assignIfChanged(m_cornerRadius, std::max(cornerRadius, 0.0)))
-        return;
-    redraw();
-    Q_EMIT cornerRadiusChanged();
+int CardBackground::endPixels() const {
+    const double scale = window()->effectiveDevicePixelRatio();
+    return std::min(static_cast<int>(std::ceil(std::max(radius(), 1.0) * scale)) + 1,
+                    static_cast<int>(std::floor(width() * scale / 2)));
 }
 
-void CardBackground::setTint(const QColor& tint) {
-    if (!assignIfChanged(m_tint, tint))
-        return;
-    redraw();
-    Q_EMIT tintChanged();
+QRectF CardBackground::paintedBounds() const {
+    const double scale = window()->effectiveDevicePixelRatio();
+    return {0, 0, (2 * endPixels() + middlePixels) / scale, std::round(height() * scale) / scale};
 }
 
-void CardBackground::paint(QPainter& painter, const QRectF& rectangle, const Look& look) {
-    painter.setRenderHint(QPainter::Antialiasing);
+void CardBackground::paint(QPainter& painter) {
+    const QRectF rectangle = pictureBounds();
     painter.setPen(Qt::NoPen);
-    for (const QColor& layer : {Palette::color(Palette::Role::cardFill, look.scheme), look.tint}) {
+    for (const QColor& layer : {colors().cardFill, m_tint}) {
         painter.setBrush(layer);
-        painter.drawRoundedRect(rectangle, look.cornerRadius, look.cornerRadius);
+        painter.drawRoundedRect(rectangle, radius(), radius());
     }
 
     // A pen is centred on its path: half a point in, the one-point border lies inside.
@@ -93,31 +85,11 @@ void CardBackground::paint(QPainter& painter, const QRectF& rectangle, const Loo
     border.setStops(Palette::cardBorderStops());
     painter.setPen(QPen(border, 1));
     painter.setBrush(Qt::NoBrush);
-    const double inset = std::max(look.cornerRadius - 0.5, 0.0);
+    const double inset = std::max(radius() - 0.5, 0.0);
     painter.drawRoundedRect(rectangle.adjusted(0.5, 0.5, -0.5, -0.5), inset, inset);
 }
 
-void CardBackground::componentComplete() {
-    QQuickItem::componentComplete();
-    if (QQmlEngine* engine = qmlEngine(this)) {
-        connect(&SceneAppearance::of(*engine), &SceneAppearance::colorSchemeChanged, this,
-                &CardBackground::redraw);
-    }
-}
-
-void CardBackground::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemDevicePixelRatioHasChanged)
-        redraw();
-    QQuickItem::itemChange(change, data);
-}
-
-void CardBackground::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        redraw();
-}
-
-QSGNode* CardBackground::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
+QSGNode* CardBackground::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data*/) {
     auto* parts = static_cast<ThreePartNode*>(node);
     if (width() <= 0 || height() <= 0) {
         delete parts;
@@ -126,35 +98,12 @@ QSGNode* CardBackground::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
     const bool isNew = !parts;
     if (isNew)
         parts = new ThreePartNode(*window());
-
-    const double scale = window()->effectiveDevicePixelRatio();
-    const double radius = std::min({m_cornerRadius, width() / 2, height() / 2});
-    const int endPixels = std::min(static_cast<int>(std::ceil(std::max(radius, 1.0) * scale)) + 1,
-                                   static_cast<int>(std::floor(width() * scale / 2)));
-    if (isNew || m_isPictureStale) {
-        m_isPictureStale = false;
-        const QSize pixels(2 * endPixels + middlePixels,
-                           static_cast<int>(std::lround(height() * scale)));
-        QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        painter.scale(scale, scale);
-        QQmlEngine* engine = qmlEngine(this);
-        paint(painter, QRectF(QPointF(), QSizeF(pixels) / scale),
-              {.cornerRadius = radius,
-               .tint = m_tint,
-               .scheme = engine ? SceneAppearance::of(*engine).colorScheme() : ColorScheme::light});
-        painter.end();
-        parts->setTexture(std::unique_ptr<QSGTexture>(
-            window()->createTextureFromImage(picture, QQuickWindow::TextureHasAlphaChannel)));
+    if (isNew || isPictureStale()) {
+        parts->setTexture(std::unique_ptr<QSGTexture>(window()->createTextureFromImage(
+            takePicture(pictureBounds()), QQuickWindow::TextureHasAlphaChannel)));
+        parts->layOut(size(), endPixels(), window()->effectiveDevicePixelRatio());
     }
-    parts->layOut(size(), endPixels, scale);
     return parts;
-}
-
-void CardBackground::redraw() {
-    m_isPictureStale = true;
-    update();
 }
 
 } // namespace kestrowind

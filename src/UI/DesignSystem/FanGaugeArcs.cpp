@@ -1,19 +1,33 @@
 #include "UI/DesignSystem/FanGaugeArcs.h"
 
 #include "Core/AssignIfChanged.h"
-#include "UI/DesignSystem/SceneAppearance.h"
+#include "UI/DesignSystem/Palette.h"
 
-#include <QImage>
+#include <QLinearGradient>
 #include <QPainter>
-#include <QQmlEngine>
-#include <QQuickWindow>
-#include <QSGImageNode>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace kestrowind {
 namespace {
+
+/// How far a tick reaches inwards and outwards from the ring's middle line, in points.
+constexpr double tickReach = 6.5;
+
+/// The left end of the opening at the bottom, in degrees as painters have them: 0 at three o'clock,
+/// counter-clockwise.
+double startAngle(double gapDegrees) {
+    return -90 - gapDegrees / 2;
+}
+
+QLinearGradient gradient(const QPointF& from, const QPointF& to, const QGradientStops& stops) {
+    QLinearGradient gradient(from, to);
+    gradient.setStops(stops);
+    return gradient;
+}
 
 QEasingCurve easeInEaseOut() {
     QEasingCurve curve(QEasingCurve::BezierSpline);
@@ -24,35 +38,14 @@ QEasingCurve easeInEaseOut() {
 } // namespace
 
 FanGaugeArcs::FanGaugeArcs(QQuickItem* parent)
-    : QQuickItem(parent)
+    : PaintedItem(parent)
     , m_visibility(*this) {
-    setFlag(ItemHasContents);
+    connect(this, &FanGaugeArcs::lookChanged, this,
+            [this] { setImplicitSize(m_diameter, m_diameter); });
     m_movement.setEasingCurve(easeInEaseOut());
     connect(&m_movement, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& value) { display(value.toDouble()); });
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &FanGaugeArcs::stopUnseen);
-}
-
-void FanGaugeArcs::setDiameter(double diameter) {
-    if (!assignIfChanged(m_look.diameter, diameter))
-        return;
-    setImplicitSize(diameter, diameter);
-    update();
-    Q_EMIT diameterChanged();
-}
-
-void FanGaugeArcs::setLineWidth(double lineWidth) {
-    if (!assignIfChanged(m_look.lineWidth, lineWidth))
-        return;
-    update();
-    Q_EMIT lineWidthChanged();
-}
-
-void FanGaugeArcs::setGapDegrees(double gapDegrees) {
-    if (!assignIfChanged(m_look.gapDegrees, gapDegrees))
-        return;
-    update();
-    Q_EMIT gapDegreesChanged();
 }
 
 void FanGaugeArcs::setFraction(double fraction) {
@@ -83,65 +76,45 @@ void FanGaugeArcs::setActive(bool active) {
     Q_EMIT activeChanged();
 }
 
-void FanGaugeArcs::componentComplete() {
-    QQuickItem::componentComplete();
-    adoptScheme();
-    if (QQmlEngine* engine = qmlEngine(this)) {
-        connect(&SceneAppearance::of(*engine), &SceneAppearance::colorSchemeChanged, this,
-                &FanGaugeArcs::adoptScheme);
-    }
+QRectF FanGaugeArcs::paintedBounds() const {
+    return QRectF(0, 0, m_diameter, m_diameter)
+        .adjusted(-m_lineWidth, -m_lineWidth, m_lineWidth, m_lineWidth);
 }
 
-void FanGaugeArcs::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemDevicePixelRatioHasChanged)
-        update();
-    QQuickItem::itemChange(change, data);
-}
-
-QSGNode* FanGaugeArcs::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
-    auto* image = static_cast<QSGImageNode*>(node);
-    if (m_look.diameter <= 0) {
-        delete image;
-        return nullptr;
+void FanGaugeArcs::paint(QPainter& painter) {
+    const QRectF ring(0, 0, m_diameter, m_diameter);
+    const double sweep = 360 - m_gapDegrees;
+    const double start = startAngle(m_gapDegrees);
+    const auto stroke = [&](double fraction, const QBrush& brush) {
+        QPainterPath arc;
+        arc.arcMoveTo(ring, start);
+        arc.arcTo(ring, start, -sweep * fraction);
+        painter.strokePath(arc, QPen(brush, m_lineWidth, Qt::SolidLine, Qt::RoundCap));
+    };
+    const QRectF bounds = paintedBounds();
+    const QColor ink = colorScheme() == ColorScheme::dark ? Qt::white : Qt::black;
+    stroke(1, gradient({bounds.center().x(), bounds.bottom()}, {bounds.center().x(), bounds.top()},
+                       {{0.0, Palette::faded(ink, 0.16)}, {1.0, Palette::faded(ink, 0.07)}}));
+    if (m_displayedFraction > 0) {
+        stroke(m_displayedFraction,
+               gradient(bounds.bottomRight(), bounds.topLeft(), Palette::fanGradientStops()));
     }
-    if (!image) {
-        image = window()->createImageNode();
-        image->setOwnsTexture(true);
-        image->setFiltering(QSGTexture::Linear);
+
+    painter.setPen(QPen(Palette::faded(ink, 0.35), m_diameter * 0.003 * std::numbers::pi,
+                        Qt::SolidLine, Qt::FlatCap));
+    painter.translate(ring.center());
+    for (const double fraction : {0.25, 0.5, 0.75}) {
+        painter.save();
+        painter.rotate(sweep * fraction - start);
+        painter.drawLine(QPointF(m_diameter / 2 - tickReach, 0),
+                         QPointF(m_diameter / 2 + tickReach, 0));
+        painter.restore();
     }
-
-    // Whole device pixels around the enlarged bounds, so that the picture is not resampled.
-    const double scale = window()->effectiveDevicePixelRatio();
-    const QRectF bounds = FanGauge::enlargedBounds(m_look);
-    const auto outwards = [scale](double edge) { return std::floor(edge * scale) / scale; };
-    const QPointF corner(outwards(bounds.left()), outwards(bounds.top()));
-    const QSize pixels(static_cast<int>(std::ceil((bounds.right() - corner.x()) * scale)),
-                       static_cast<int>(std::ceil((bounds.bottom() - corner.y()) * scale)));
-
-    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.scale(scale, scale);
-    painter.translate(-corner);
-    FanGauge::paint(painter, m_look, m_displayedFraction);
-    painter.end();
-
-    image->setTexture(
-        window()->createTextureFromImage(picture, QQuickWindow::TextureHasAlphaChannel));
-    image->setSourceRect(QRectF(QPointF(), QSizeF(pixels)));
-    image->setRect(QRectF(corner, QSizeF(pixels) / scale));
-    return image;
 }
 
 void FanGaugeArcs::display(double fraction) {
     if (assignIfChanged(m_displayedFraction, fraction))
-        update();
-}
-
-void FanGaugeArcs::adoptScheme() {
-    QQmlEngine* engine = qmlEngine(this);
-    if (engine && assignIfChanged(m_look.scheme, SceneAppearance::of(*engine).colorScheme()))
-        update();
+        repaint();
 }
 
 void FanGaugeArcs::stopUnseen() {

@@ -1,20 +1,19 @@
 #pragma once
 
-#include "UI/DesignSystem/FanGauge.h"
+#include "UI/DesignSystem/PaintedItem.h"
 #include "UI/DesignSystem/VisibilityWatch.h"
 
-#include <QQuickItem>
 #include <QVariantAnimation>
 
 namespace kestrowind {
 
 /// The ring of a gauge. A new fraction is moved to from what is displayed, so a change in the
 /// middle of a movement goes on from where the arc is.
-class FanGaugeArcs : public QQuickItem {
+class FanGaugeArcs : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(double diameter READ diameter WRITE setDiameter NOTIFY diameterChanged FINAL)
-    Q_PROPERTY(double lineWidth READ lineWidth WRITE setLineWidth NOTIFY lineWidthChanged FINAL)
-    Q_PROPERTY(double gapDegrees READ gapDegrees WRITE setGapDegrees NOTIFY gapDegreesChanged FINAL)
+    Q_PROPERTY(double diameter MEMBER m_diameter NOTIFY lookChanged FINAL)
+    Q_PROPERTY(double lineWidth MEMBER m_lineWidth NOTIFY lookChanged FINAL)
+    Q_PROPERTY(double gapDegrees MEMBER m_gapDegrees NOTIFY lookChanged FINAL)
     Q_PROPERTY(double fraction READ fraction WRITE setFraction NOTIFY fractionChanged FINAL)
     Q_PROPERTY(double animationDuration READ animationDuration WRITE setAnimationDuration NOTIFY
                    animationDurationChanged FINAL)
@@ -24,12 +23,6 @@ class FanGaugeArcs : public QQuickItem {
 public:
     explicit FanGaugeArcs(QQuickItem* parent = nullptr);
 
-    [[nodiscard]] double diameter() const { return m_look.diameter; }
-    void setDiameter(double diameter);
-    [[nodiscard]] double lineWidth() const { return m_look.lineWidth; }
-    void setLineWidth(double lineWidth);
-    [[nodiscard]] double gapDegrees() const { return m_look.gapDegrees; }
-    void setGapDegrees(double gapDegrees);
     /// The filled part of the ring, clamped to 0...1.
     [[nodiscard]] double fraction() const { return m_fraction; }
     void setFraction(double fraction);
@@ -45,25 +38,23 @@ public:
     [[nodiscard]] const QVariantAnimation& movement() const { return m_movement; }
 
 Q_SIGNALS:
-    void diameterChanged();
-    void lineWidthChanged();
-    void gapDegreesChanged();
     void fractionChanged();
     void animationDurationChanged();
     void activeChanged();
 
 protected:
-    void componentComplete() override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
-    QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData* data) override;
+    void paint(QPainter& painter) override;
+    /// Round ends and ticks stand out of the gauge by no more than the line's width.
+    [[nodiscard]] QRectF paintedBounds() const override;
 
 private:
     void display(double fraction);
-    void adoptScheme();
     void stopUnseen();
     [[nodiscard]] bool mayMove() const;
 
-    FanGauge::Look m_look;
+    double m_diameter = 0;
+    double m_lineWidth = 0;
+    double m_gapDegrees = 0; ///< the opening, centred at the bottom
     double m_fraction = 0;
     double m_displayedFraction = 0;
     double m_animationDuration = 0.6;

@@ -28,133 +28,48 @@ double luminance(const QColor& color) {
 /// Readable as text (WCAG 2, level AA).
 constexpr double leastContrast = 4.5;
 
-QColor darkColor(Role role) {
-    switch (role) {
-    case Role::windowBackground:
-        return QColor(0x1c, 0x1c, 0x1f);
-    case Role::cardFill:
-        return grey(1, 0.06);
-    case Role::popupBackground:
-        return QColor(0x2c, 0x2c, 0x30);
-    case Role::panelBackground:
-        return QColor(0x18, 0x18, 0x1b);
-    case Role::separator:
-        return grey(1, 0.10);
-    case Role::primaryText:
-        return grey(1, 0.92);
-    case Role::secondaryText:
-        return grey(1, 0.74);
-    case Role::tertiaryText:
-        return grey(0.68);
-    case Role::quaternaryFill:
-        return grey(1, 0.14);
-    case Role::accent:
-        return QColor(0x3d, 0x9b, 0xff);
-    case Role::accentFill:
-        return QColor(0x0a, 0x70, 0xe0);
-    case Role::onAccent:
-        return grey(1);
-    case Role::controlFill:
-        return grey(1, 0.11);
-    case Role::controlBorder:
-        return grey(1, 0.10);
-    case Role::hoverFill:
-        return grey(1, 0.07);
-    case Role::pressedFill:
-        return grey(1, 0.14);
-    case Role::selectedSegment:
-        return grey(1, 0.18);
-    case Role::focusRing:
-        return QColor(0x3d, 0x9b, 0xff, 0xb4);
-    case Role::track:
-        return grey(1, 0.14);
-    case Role::knob:
-        return grey(0.96);
-    case Role::warning:
-        return QColor(0xff, 0x9f, 0x0a);
-    case Role::danger:
-        return QColor(0xff, 0x69, 0x61);
-    case Role::dangerFill:
-        return QColor(0xd2, 0x2d, 0x32);
-    case Role::onDanger:
-        return grey(1);
-    case Role::success:
-        return QColor(0x30, 0xd1, 0x58);
-    case Role::shadow:
-        return grey(0, 0.5);
-    case Role::scrim:
-        return grey(0, 0.48);
-    case Role::fieldFill:
-        return grey(0, 0.28);
-    case Role::popupBorder:
-        return grey(1, 0.20);
-    }
-    Q_UNREACHABLE();
-}
+struct Shades {
+    QColor Colors::*color;
+    QColor dark;
+    QColor light;
+};
 
-QColor lightColor(Role role) {
-    switch (role) {
-    case Role::windowBackground:
-        return QColor(0xf2, 0xf2, 0xf5);
-    case Role::cardFill:
-        return grey(1, 0.78);
-    case Role::popupBackground:
-    case Role::panelBackground:
-        return QColor(0xfb, 0xfb, 0xfd);
-    case Role::separator:
-        return grey(0, 0.10);
-    case Role::primaryText:
-        return grey(0, 0.87);
-    case Role::secondaryText:
-        return grey(0.38);
-    case Role::tertiaryText:
-        return grey(0.4);
-    case Role::quaternaryFill:
-        return grey(0, 0.10);
-    case Role::accent:
-    case Role::accentFill:
-        return QColor(0x00, 0x6a, 0xd8);
-    case Role::onAccent:
-        return grey(1);
-    case Role::controlFill:
-        return grey(1);
-    case Role::controlBorder:
-        return grey(0, 0.14);
-    case Role::hoverFill:
-        return grey(0, 0.045);
-    case Role::pressedFill:
-        return grey(0, 0.10);
-    case Role::selectedSegment:
-        return grey(1);
-    case Role::focusRing:
-        return QColor(0x00, 0x6a, 0xd8, 0x96);
-    case Role::track:
-        return grey(0, 0.11);
-    case Role::knob:
-        return grey(1);
-    case Role::warning:
-        return QColor(0xae, 0x50, 0x00);
-    case Role::danger:
-    case Role::dangerFill:
-        return QColor(0xc8, 0x14, 0x1e);
-    case Role::onDanger:
-        return grey(1);
-    case Role::success:
-        return QColor(0x1c, 0x77, 0x33);
-    case Role::shadow:
-        return grey(0, 0.22);
-    case Role::scrim:
-        return grey(0, 0.26);
-    case Role::fieldFill:
-        return grey(1);
-    case Role::popupBorder:
-        return grey(0, 0.14);
-    }
-    Q_UNREACHABLE();
-}
-
-QColor ownColor(Role role, ColorScheme scheme) {
-    return scheme == ColorScheme::dark ? darkColor(role) : lightColor(role);
+Colors shades(QColor Shades::*shade) {
+    static const Shades table[] = {
+        {&Colors::windowBackground, QColor(0x1c, 0x1c, 0x1f), QColor(0xf2, 0xf2, 0xf5)},
+        {&Colors::cardFill, grey(1, 0.06), grey(1, 0.78)},
+        {&Colors::popupBackground, QColor(0x2c, 0x2c, 0x30), QColor(0xfb, 0xfb, 0xfd)},
+        {&Colors::panelBackground, QColor(0x18, 0x18, 0x1b), QColor(0xfb, 0xfb, 0xfd)},
+        {&Colors::separator, grey(1, 0.10), grey(0, 0.10)},
+        {&Colors::primaryText, grey(1, 0.92), grey(0, 0.87)},
+        {&Colors::secondaryText, grey(1, 0.74), grey(0.38)},
+        {&Colors::tertiaryText, grey(0.68), grey(0.4)},
+        {&Colors::quaternaryFill, grey(1, 0.14), grey(0, 0.10)},
+        {&Colors::accent, QColor(0x3d, 0x9b, 0xff), QColor(0x00, 0x6a, 0xd8)},
+        {&Colors::accentFill, QColor(0x0a, 0x70, 0xe0), QColor(0x00, 0x6a, 0xd8)},
+        {&Colors::onAccent, grey(1), grey(1)},
+        {&Colors::controlFill, grey(1, 0.11), grey(1)},
+        {&Colors::controlBorder, grey(1, 0.10), grey(0, 0.14)},
+        {&Colors::hoverFill, grey(1, 0.07), grey(0, 0.045)},
+        {&Colors::pressedFill, grey(1, 0.14), grey(0, 0.10)},
+        {&Colors::selectedSegment, grey(1, 0.18), grey(1)},
+        {&Colors::focusRing, QColor(0x3d, 0x9b, 0xff, 0xb4), QColor(0x00, 0x6a, 0xd8, 0x96)},
+        {&Colors::track, grey(1, 0.14), grey(0, 0.11)},
+        {&Colors::knob, grey(0.96), grey(1)},
+        {&Colors::warning, QColor(0xff, 0x9f, 0x0a), QColor(0xae, 0x50, 0x00)},
+        {&Colors::danger, QColor(0xff, 0x69, 0x61), QColor(0xc8, 0x14, 0x1e)},
+        {&Colors::dangerFill, QColor(0xd2, 0x2d, 0x32), QColor(0xc8, 0x14, 0x1e)},
+        {&Colors::onDanger, grey(1), grey(1)},
+        {&Colors::success, QColor(0x30, 0xd1, 0x58), QColor(0x1c, 0x77, 0x33)},
+        {&Colors::shadow, grey(0, 0.5), grey(0, 0.22)},
+        {&Colors::scrim, grey(0, 0.48), grey(0, 0.26)},
+        {&Colors::fieldFill, grey(0, 0.28), grey(1)},
+        {&Colors::popupBorder, grey(1, 0.20), grey(0, 0.14)},
+    };
+    Colors colors;
+    for (const Shades& row : table)
+        colors.*row.color = row.*shade;
+    return colors;
 }
 
 /// As near to the accent as can be read on every surface.
@@ -162,7 +77,7 @@ QColor readable(const QColor& accent, ColorScheme scheme) {
     const bool isDark = scheme == ColorScheme::dark;
     // The lightest of the dark surfaces, the darkest of the light ones.
     const QColor surface =
-        ownColor(isDark ? Role::popupBackground : Role::windowBackground, scheme);
+        isDark ? colors(scheme).popupBackground : colors(scheme).windowBackground;
     for (double share = 0; share < 1; share += 0.05) {
         const QColor shade = composited(grey(isDark ? 1 : 0, share), accent);
         if (contrast(shade, surface) >= leastContrast)
@@ -173,25 +88,21 @@ QColor readable(const QColor& accent, ColorScheme scheme) {
 
 } // namespace
 
-QColor color(Role role, ColorScheme scheme, const std::optional<QColor>& accent) {
-    const QColor own = ownColor(role, scheme);
-    if (!accent)
-        return own;
-    switch (role) {
-    case Role::accent:
-        return readable(*accent, scheme);
-    case Role::accentFill:
-        return *accent;
-    case Role::onAccent:
-        return grey(contrast(grey(1), *accent) >= leastContrast ? 1 : 0);
-    case Role::focusRing: {
-        QColor ring = readable(*accent, scheme);
-        ring.setAlphaF(own.alphaF());
-        return ring;
+const Colors& colors(ColorScheme scheme) {
+    static const Colors dark = shades(&Shades::dark);
+    static const Colors light = shades(&Shades::light);
+    return scheme == ColorScheme::dark ? dark : light;
+}
+
+Colors colors(ColorScheme scheme, const std::optional<QColor>& accent) {
+    Colors all = colors(scheme);
+    if (accent) {
+        all.accent = readable(*accent, scheme);
+        all.accentFill = *accent;
+        all.onAccent = grey(contrast(grey(1), *accent) >= leastContrast ? 1 : 0);
+        all.focusRing = faded(all.accent, all.focusRing.alphaF());
     }
-    default:
-        return own;
-    }
+    return all;
 }
 
 QGradientStops fanGradientStops() {
@@ -221,6 +132,11 @@ QGradientStops cardBorderStops() {
 double contrast(const QColor& first, const QColor& second) {
     const auto [low, high] = std::minmax({luminance(first), luminance(second)});
     return (high + 0.05) / (low + 0.05);
+}
+
+QColor faded(QColor color, double part) {
+    color.setAlphaF(color.alphaF() * static_cast<float>(part));
+    return color;
 }
 
 QColor composited(const QColor& above, const QColor& below) {

@@ -10,40 +10,44 @@
 /// Every colour of the interface as a pure function of the colour scheme.
 namespace kestrowind::Palette {
 
-enum class Role {
-    windowBackground,
-    cardFill, ///< translucent, over windowBackground
-    popupBackground,
-    panelBackground, ///< dark enough for the temperatures' colours to be read on it
-    separator,
-    primaryText,
-    secondaryText,
-    tertiaryText,
-    quaternaryFill, ///< muted tracks and outlines
-    accent,         ///< readable as text and as a mark
-    accentFill,     ///< under onAccent
-    onAccent,       ///< on an accentFill: white, or black where that alone is readable
-    controlFill,    ///< a resting control, over a card
-    controlBorder,
-    hoverFill,
-    pressedFill,
-    selectedSegment,
-    focusRing,
-    track,
-    knob,
-    warning,
-    danger,
-    dangerFill, ///< under onDanger
-    onDanger,
-    success,
-    shadow,
-    scrim,     ///< over what a dialog leaves out of reach
-    fieldFill, ///< where text is typed, over a popup
-    popupBorder,
+struct Colors {
+    QColor windowBackground;
+    QColor cardFill; ///< translucent, over windowBackground
+    QColor popupBackground;
+    QColor panelBackground; ///< dark enough for the temperatures' colours to be read on it
+    QColor separator;
+    QColor primaryText;
+    QColor secondaryText;
+    QColor tertiaryText;
+    QColor quaternaryFill; ///< muted tracks and outlines
+    QColor accent;         ///< readable as text and as a mark
+    QColor accentFill;     ///< under onAccent
+    QColor onAccent;       ///< on an accentFill: white, or black where that alone is readable
+    QColor controlFill;    ///< a resting control, over a card
+    QColor controlBorder;
+    QColor hoverFill;
+    QColor pressedFill;
+    QColor selectedSegment;
+    QColor focusRing;
+    QColor track;
+    QColor knob;
+    QColor warning;
+    QColor danger;
+    QColor dangerFill; ///< under onDanger
+    QColor onDanger;
+    QColor success;
+    QColor shadow;
+    QColor scrim;     ///< over what a dialog leaves out of reach
+    QColor fieldFill; ///< where text is typed, over a popup
+    QColor popupBorder;
+
+    bool operator==(const Colors&) const = default;
 };
 
-/// `accent` is the user's, which the roles of that name follow; without one they are blue.
-[[nodiscard]] QColor color(Role role, ColorScheme scheme, const std::optional<QColor>& accent = {});
+[[nodiscard]] const Colors& colors(ColorScheme scheme);
+/// With the user's accent, which the colours of that name and the focus ring follow; without one
+/// they are blue.
+[[nodiscard]] Colors colors(ColorScheme scheme, const std::optional<QColor>& accent);
 
 /// Air: cyan to blue, the same in both schemes.
 [[nodiscard]] QGradientStops fanGradientStops();
@@ -59,6 +63,9 @@ enum class Role {
 
 /// How well one opaque colour is read on another: 1 to 21 (WCAG 2).
 [[nodiscard]] double contrast(const QColor& first, const QColor& second);
+
+/// The colour with a part of its opacity, 0 to 1.
+[[nodiscard]] QColor faded(QColor color, double part);
 
 /// What is seen of a translucent colour over an opaque one.
 [[nodiscard]] QColor composited(const QColor& above, const QColor& below);

@@ -8,15 +8,14 @@ namespace kestrowind {
 
 void ScenePalette::classBegin() {
     const SceneAppearance& appearance = SceneAppearance::of(*qmlEngine(this));
-    m_scheme = appearance.colorScheme();
-    m_accent = appearance.accentColor();
-    const auto take = [this, &appearance] {
+    const auto follow = [this, &appearance] {
         m_scheme = appearance.colorScheme();
-        m_accent = appearance.accentColor();
+        static_cast<Palette::Colors&>(*this) = Palette::colors(m_scheme, appearance.accentColor());
         Q_EMIT changed();
     };
-    connect(&appearance, &SceneAppearance::colorSchemeChanged, this, take);
-    connect(&appearance, &SceneAppearance::accentColorChanged, this, take);
+    connect(&appearance, &SceneAppearance::colorSchemeChanged, this, follow);
+    connect(&appearance, &SceneAppearance::accentColorChanged, this, follow);
+    follow();
 }
 
 QColor ScenePalette::temperatureColorFor(double celsius, bool dark) {

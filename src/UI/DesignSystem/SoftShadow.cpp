@@ -1,9 +1,6 @@
 #include "UI/DesignSystem/SoftShadow.h"
 
-#include "Core/AssignIfChanged.h"
-
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -21,42 +18,11 @@ double distanceToRectangle(QPointF point, const QRectF& rectangle, double radius
 
 } // namespace
 
-SoftShadow::SoftShadow(QQuickItem* parent)
-    : QQuickPaintedItem(parent) {}
-
-void SoftShadow::setBlurRadius(double radius) {
-    if (!assignIfChanged(m_blurRadius, radius))
-        return;
-    update();
-    Q_EMIT blurRadiusChanged();
-}
-
-void SoftShadow::setOffset(double offset) {
-    if (!assignIfChanged(m_offset, offset))
-        return;
-    update();
-    Q_EMIT offsetChanged();
-}
-
-void SoftShadow::setCornerRadius(double radius) {
-    if (!assignIfChanged(m_cornerRadius, radius))
-        return;
-    update();
-    Q_EMIT cornerRadiusChanged();
-}
-
-void SoftShadow::setColor(const QColor& color) {
-    if (!assignIfChanged(m_color, color))
-        return;
-    update();
-    Q_EMIT colorChanged();
-}
-
-void SoftShadow::paint(QPainter* painter) {
+void SoftShadow::paint(QPainter& painter) {
     const double room = 2 * m_blurRadius;
     const QRectF caster = boundingRect().adjusted(room, room, -room, -room);
     const double radius = std::min({m_cornerRadius, caster.width() / 2, caster.height() / 2});
-    const double scale = painter->device()->devicePixelRatioF();
+    const double scale = painter.device()->devicePixelRatioF();
     QImage image((boundingRect().size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     // A blurred half-plane is the error function of the distance to its edge, and what casts the
     // shadow is nearly one everywhere.
@@ -81,7 +47,7 @@ void SoftShadow::paint(QPainter* painter) {
             line[x] = qPremultiply(color.rgba());
         }
     }
-    painter->drawImage(boundingRect(), image);
+    painter.drawImage(boundingRect(), image);
 }
 
 } // namespace kestrowind

@@ -1,7 +1,5 @@
 #include "UI/DesignSystem/Spinner.h"
 
-#include "Core/AssignIfChanged.h"
-
 #include <QPainter>
 
 #include <algorithm>
@@ -9,29 +7,15 @@
 namespace kestrowind {
 
 Spinner::Spinner(QQuickItem* parent)
-    : QQuickPaintedItem(parent)
+    : PaintedItem(parent)
     , m_visibility(*this) {
-    setAntialiasing(true);
-    setImplicitSize(m_diameter, m_diameter);
+    const auto takeSize = [this] { setImplicitSize(m_diameter, m_diameter); };
+    connect(this, &Spinner::lookChanged, this, takeSize);
+    takeSize();
     m_steps.setInterval(stepInterval);
     connect(&m_steps, &QTimer::timeout, this, &Spinner::step);
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &Spinner::takeVisibility);
     takeVisibility();
-}
-
-void Spinner::setDiameter(double diameter) {
-    if (!assignIfChanged(m_diameter, diameter))
-        return;
-    setImplicitSize(diameter, diameter);
-    update();
-    Q_EMIT diameterChanged();
-}
-
-void Spinner::setColor(const QColor& color) {
-    if (!assignIfChanged(m_color, color))
-        return;
-    update();
-    Q_EMIT colorChanged();
 }
 
 void Spinner::takeVisibility() {
@@ -43,14 +27,14 @@ void Spinner::takeVisibility() {
 
 void Spinner::step() {
     m_lit = (m_lit + 1) % spokeCount;
-    update();
+    repaint();
 }
 
-void Spinner::paint(QPainter* painter) {
+void Spinner::paint(QPainter& painter) {
     constexpr double faintest = 0.2;
     const double outer = std::min(width(), height()) / 2;
     QPen pen(m_color, outer / 4, Qt::SolidLine, Qt::RoundCap);
-    painter->translate(boundingRect().center());
+    painter.translate(boundingRect().center());
     for (int spoke = 0; spoke < spokeCount; ++spoke) {
         // The tail behind the brightest fades.
         const int behind = (m_lit - spoke + spokeCount) % spokeCount;
@@ -58,11 +42,11 @@ void Spinner::paint(QPainter* painter) {
         color.setAlphaF(static_cast<float>(
             m_color.alphaF() * std::max(faintest, 1 - static_cast<double>(behind) / spokeCount)));
         pen.setColor(color);
-        painter->setPen(pen);
-        painter->save();
-        painter->rotate(360.0 * spoke / spokeCount);
-        painter->drawLine(QPointF(0, -outer * 0.5), QPointF(0, -outer * 0.86));
-        painter->restore();
+        painter.setPen(pen);
+        painter.save();
+        painter.rotate(360.0 * spoke / spokeCount);
+        painter.drawLine(QPointF(0, -outer * 0.5), QPointF(0, -outer * 0.86));
+        painter.restore();
     }
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "UI/DesignSystem/PaintedItem.h"
 #include "UI/DesignSystem/VisibilityWatch.h"
 
 #include <QColor>
-#include <QQuickPaintedItem>
 #include <QTimer>
 
 #include <chrono>
@@ -12,10 +12,10 @@ namespace kestrowind {
 
 /// Something is being done that nobody knows the end of: spokes, one after another lit. It moves
 /// only while somebody can see it.
-class Spinner : public QQuickPaintedItem {
+class Spinner : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(double diameter READ diameter WRITE setDiameter NOTIFY diameterChanged FINAL)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    Q_PROPERTY(double diameter MEMBER m_diameter NOTIFY lookChanged FINAL)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY lookChanged FINAL)
     QML_ELEMENT
 
 public:
@@ -24,18 +24,10 @@ public:
 
     explicit Spinner(QQuickItem* parent = nullptr);
 
-    [[nodiscard]] double diameter() const { return m_diameter; }
-    void setDiameter(double diameter);
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor& color);
-
     [[nodiscard]] bool isTurning() const { return m_steps.isActive(); }
 
-    void paint(QPainter* painter) override;
-
-Q_SIGNALS:
-    void diameterChanged();
-    void colorChanged();
+protected:
+    void paint(QPainter& painter) override;
 
 private:
     void takeVisibility();

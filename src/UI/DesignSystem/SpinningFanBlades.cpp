@@ -4,40 +4,17 @@
 #include "UI/DesignSystem/FanBladesShape.h"
 #include "UI/DesignSystem/FrameGrid.h"
 #include "UI/DesignSystem/Palette.h"
-#include "UI/DesignSystem/SceneAppearance.h"
 
 #include <QLinearGradient>
 #include <QPainter>
-#include <QQmlEngine>
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGTransformNode>
-
-#include <cmath>
 
 namespace kestrowind {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-/// The scale of an item that is in no window yet.
-constexpr double scaleWithoutWindow = 2.0;
-
-QBrush paint(const SpinningFanBlades::RenderedLook& look) {
-    const ColorScheme scheme = look.isDarkAppearance ? ColorScheme::dark : ColorScheme::light;
-    switch (look.fill) {
-    case SpinningFanBlades::Fill::Airflow: {
-        QLinearGradient gradient(0, 0, look.diameter, look.diameter);
-        gradient.setStops(Palette::fanGradientStops());
-        return gradient;
-    }
-    case SpinningFanBlades::Fill::Accent:
-        return Palette::color(Palette::Role::accent, scheme, look.accent);
-    case SpinningFanBlades::Fill::Parked:
-        return Palette::color(Palette::Role::tertiaryText, scheme);
-    }
-    Q_UNREACHABLE();
-}
 
 /// The turning part and its picture.
 class BladesNode final : public QSGTransformNode {
@@ -49,13 +26,11 @@ public:
         appendChildNode(m_image);
     }
 
-    void setImage(QQuickWindow& window, const QImage& image, double diameter) {
-        QSGTexture* texture =
-            window.createTextureFromImage(image, QQuickWindow::TextureHasAlphaChannel);
-        texture->setFiltering(QSGTexture::Linear);
-        m_image->setTexture(texture);
-        m_image->setSourceRect(QRectF(QPointF(), texture->textureSize()));
-        m_image->setRect(0, 0, diameter, diameter);
+    void setPicture(QQuickWindow& window, const QImage& picture, const QRectF& bounds) {
+        m_image->setTexture(
+            window.createTextureFromImage(picture, QQuickWindow::TextureHasAlphaChannel));
+        m_image->setSourceRect(picture.rect());
+        m_image->setRect(bounds);
     }
 
     void setTurns(double turns, const QPointF& offset, double diameter) {
@@ -75,21 +50,14 @@ private:
 } // namespace
 
 SpinningFanBlades::SpinningFanBlades(QQuickItem* parent)
-    : QQuickItem(parent)
+    : PaintedItem(parent)
     , m_visibility(*this) {
-    setFlag(ItemHasContents);
+    connect(this, &SpinningFanBlades::lookChanged, this,
+            [this] { setImplicitSize(m_diameter, m_diameter); });
     m_nextFrame.setSingleShot(true);
     m_nextFrame.setTimerType(Qt::PreciseTimer);
     connect(&m_nextFrame, &QTimer::timeout, this, &SpinningFanBlades::requestFrame);
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &SpinningFanBlades::applyTurning);
-}
-
-void SpinningFanBlades::setDiameter(double diameter) {
-    if (!assignIfChanged(m_diameter, diameter))
-        return;
-    setImplicitSize(diameter, diameter);
-    lookChanged();
-    Q_EMIT diameterChanged();
 }
 
 void SpinningFanBlades::setRevolutionsPerSecond(double revolutionsPerSecond) {
@@ -100,13 +68,6 @@ void SpinningFanBlades::setRevolutionsPerSecond(double revolutionsPerSecond) {
     update();
     applyTurning();
     Q_EMIT revolutionsPerSecondChanged();
-}
-
-void SpinningFanBlades::setFill(Fill fill) {
-    if (!assignIfChanged(m_fill, fill))
-        return;
-    lookChanged();
-    Q_EMIT fillChanged();
 }
 
 void SpinningFanBlades::setActive(bool active) {
@@ -120,66 +81,37 @@ bool SpinningFanBlades::isTurning() const {
     return m_isActive && m_visibility.isSeen() && m_clock.revolutionsPerSecond() > 0;
 }
 
-QImage SpinningFanBlades::bladesImage(const RenderedLook& look) {
-    const int side = static_cast<int>(std::ceil(look.diameter * look.scale));
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(side / look.diameter, side / look.diameter);
-    painter.fillPath(FanBladesShape::path(QRectF(0, 0, look.diameter, look.diameter)), paint(look));
-    return image;
-}
-
-void SpinningFanBlades::componentComplete() {
-    QQuickItem::componentComplete();
-    if (QQmlEngine* engine = qmlEngine(this)) {
-        const SceneAppearance& appearance = SceneAppearance::of(*engine);
-        connect(&appearance, &SceneAppearance::colorSchemeChanged, this,
-                &SpinningFanBlades::lookChanged);
-        connect(&appearance, &SceneAppearance::accentColorChanged, this,
-                &SpinningFanBlades::lookChanged);
+void SpinningFanBlades::paint(QPainter& painter) {
+    QBrush brush;
+    switch (m_fill) {
+    case Fill::Airflow: {
+        QLinearGradient gradient(0, 0, m_diameter, m_diameter);
+        gradient.setStops(Palette::fanGradientStops());
+        brush = gradient;
+        break;
     }
-    lookChanged();
-    applyTurning();
-}
-
-void SpinningFanBlades::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged)
-        lookChanged();
-    QQuickItem::itemChange(change, data);
-}
-
-void SpinningFanBlades::updatePolish() {
-    QQmlEngine* engine = qmlEngine(this);
-    const RenderedLook look{
-        .diameter = m_diameter,
-        .fill = m_fill,
-        .scale = window() ? window()->effectiveDevicePixelRatio() : scaleWithoutWindow,
-        .isDarkAppearance = engine && SceneAppearance::of(*engine).isDark(),
-        .accent = engine ? SceneAppearance::of(*engine).accentColor() : std::nullopt,
-    };
-    if (look == m_renderedLook || look.diameter <= 0)
-        return;
-    m_renderedLook = look;
-    m_blades = bladesImage(look);
-    m_bladesAreNew = true;
-    update();
-    Q_EMIT bladesRendered();
+    case Fill::Accent:
+        brush = colors().accent;
+        break;
+    case Fill::Parked:
+        brush = colors().tertiaryText;
+        break;
+    }
+    painter.fillPath(FanBladesShape::path(paintedBounds()), brush);
 }
 
 QSGNode* SpinningFanBlades::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
     auto* blades = static_cast<BladesNode*>(node);
-    if (m_blades.isNull()) {
+    if (m_diameter <= 0) {
         delete blades;
         return nullptr;
     }
     const bool isNew = !blades;
     if (isNew)
         blades = new BladesNode(*window());
-    if (isNew || m_bladesAreNew) {
-        blades->setImage(*window(), m_blades, m_diameter);
-        m_bladesAreNew = false;
+    if (isNew || isPictureStale()) {
+        const QRectF bounds = pictureBounds();
+        blades->setPicture(*window(), takePicture(bounds), bounds);
     }
     const QPointF offset((width() - m_diameter) / 2, (height() - m_diameter) / 2);
     blades->setTurns(m_clock.turns(Clock::now()), offset, m_diameter);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 /// Seen for a moment at the edges of a window that is being enlarged.
 QColor background(ColorScheme scheme) {
-    return Palette::color(Palette::Role::windowBackground, scheme);
+    return Palette::colors(scheme).windowBackground;
 }
 
 } // namespace

@@ -125,10 +125,9 @@ void MenuBarPanel::place() {
 QColor MenuBarPanel::background(ColorScheme scheme) const {
     // What is transparent is black where nobody composites: the smooth edge of the corners blends
     // into the hairline instead, and the mask cuts off the rest.
-    return m_isComposited
-               ? Qt::transparent
-               : Palette::composited(Palette::color(Palette::Role::controlBorder, scheme),
-                                     Palette::color(Palette::Role::panelBackground, scheme));
+    return m_isComposited ? Qt::transparent
+                          : Palette::composited(Palette::colors(scheme).controlBorder,
+                                                Palette::colors(scheme).panelBackground);
 }
 
 bool MenuBarPanel::eventFilter(QObject* watched, QEvent* event) {

@@ -7,18 +7,9 @@
 
 namespace kestrowind {
 
-CardOutline::CardOutline(QQuickItem* parent)
-    : QQuickPaintedItem(parent) {
-    setAntialiasing(true);
-    for (const auto changed : {&CardOutline::lineWidthChanged, &CardOutline::cornerRadiusChanged,
-                               &CardOutline::topColorChanged, &CardOutline::bottomColorChanged,
-                               &CardOutline::dashesChanged})
-        connect(this, changed, this, [this] { update(); });
-}
-
-void CardOutline::paint(QPainter* painter) {
+void CardOutline::paint(QPainter& painter) {
     QLinearGradient colors(0, 0, 0, height());
-    colors.setStops({{0, m_topColor}, {1, m_bottomColor}});
+    colors.setStops({{0, m_topColor}, {1, m_bottomColor.isValid() ? m_bottomColor : m_topColor}});
     QPen pen(colors, m_lineWidth);
     if (!m_dashes.isEmpty()) {
         // The painter counts in line widths.
@@ -28,12 +19,12 @@ void CardOutline::paint(QPainter* painter) {
         pen.setDashPattern(pattern);
         pen.setCapStyle(Qt::FlatCap);
     }
-    painter->setPen(pen);
-    painter->setBrush(Qt::NoBrush);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
     // A pen is centred on its path.
     const double inset = m_lineWidth / 2;
     const double radius = std::max(m_cornerRadius - inset, 0.0);
-    painter->drawRoundedRect(boundingRect().adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter.drawRoundedRect(boundingRect().adjusted(inset, inset, -inset, -inset), radius, radius);
 }
 
 } // namespace kestrowind

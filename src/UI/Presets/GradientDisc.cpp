@@ -5,19 +5,12 @@
 
 namespace kestrowind {
 
-GradientDisc::GradientDisc(QQuickItem* parent)
-    : QQuickPaintedItem(parent) {
-    setAntialiasing(true);
-    connect(this, &GradientDisc::topColorChanged, this, [this] { update(); });
-    connect(this, &GradientDisc::bottomColorChanged, this, [this] { update(); });
-}
-
-void GradientDisc::paint(QPainter* painter) {
+void GradientDisc::paint(QPainter& painter) {
     QLinearGradient colors(0, 0, 0, height());
     colors.setStops({{0, m_topColor}, {1, m_bottomColor}});
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(colors);
-    painter->drawEllipse(boundingRect());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colors);
+    painter.drawEllipse(boundingRect());
 }
 
 } // namespace kestrowind

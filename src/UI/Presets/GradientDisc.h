@@ -1,25 +1,21 @@
 #pragma once
 
-#include <QColor>
-#include <QQuickPaintedItem>
+#include "UI/DesignSystem/PaintedItem.h"
 
 namespace kestrowind {
 
 /// A disc in a vertical gradient, smooth at its edge in every renderer.
-class GradientDisc : public QQuickPaintedItem {
+class GradientDisc : public PaintedItem {
     Q_OBJECT
-    Q_PROPERTY(QColor topColor MEMBER m_topColor NOTIFY topColorChanged FINAL)
-    Q_PROPERTY(QColor bottomColor MEMBER m_bottomColor NOTIFY bottomColorChanged FINAL)
+    Q_PROPERTY(QColor topColor MEMBER m_topColor NOTIFY lookChanged FINAL)
+    Q_PROPERTY(QColor bottomColor MEMBER m_bottomColor NOTIFY lookChanged FINAL)
     QML_ELEMENT
 
 public:
-    explicit GradientDisc(QQuickItem* parent = nullptr);
+    using PaintedItem::PaintedItem;
 
-    void paint(QPainter* painter) override;
-
-Q_SIGNALS:
-    void topColorChanged();
-    void bottomColorChanged();
+protected:
+    void paint(QPainter& painter) override;
 
 private:
     QColor m_topColor = Qt::black;

@@ -1,7 +1,5 @@
 #include "UI/Presets/MiniCurveThumbnail.h"
 
-#include "Core/AssignIfChanged.h"
-
 #include <QPainter>
 
 #include <algorithm>
@@ -13,33 +11,7 @@ constexpr double lineWidth = 2;
 
 } // namespace
 
-MiniCurveThumbnail::MiniCurveThumbnail(QQuickItem* parent)
-    : QQuickPaintedItem(parent) {
-    setAntialiasing(true);
-}
-
-void MiniCurveThumbnail::setCurve(const ThumbnailCurve& curve) {
-    if (!assignIfChanged(m_curve, curve))
-        return;
-    update();
-    Q_EMIT curveChanged();
-}
-
-void MiniCurveThumbnail::setLineColor(const QColor& color) {
-    if (!assignIfChanged(m_lineColor, color))
-        return;
-    update();
-    Q_EMIT lineColorChanged();
-}
-
-void MiniCurveThumbnail::setAreaColor(const QColor& color) {
-    if (!assignIfChanged(m_areaColor, color))
-        return;
-    update();
-    Q_EMIT areaColorChanged();
-}
-
-void MiniCurveThumbnail::paint(QPainter* painter) {
+void MiniCurveThumbnail::paint(QPainter& painter) {
     QPolygonF line = m_curve.line(size());
     // A stored curve may ask for any percent: what lies far outside is not seen anyway, and numbers
     // that large are more than the painter can bear.
@@ -48,12 +20,12 @@ void MiniCurveThumbnail::paint(QPainter* painter) {
 
     QPolygonF area = line;
     area << QPointF(width(), height()) << QPointF(0, height());
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(m_areaColor);
-    painter->drawPolygon(area);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_areaColor);
+    painter.drawPolygon(area);
 
-    painter->setPen(QPen(m_lineColor, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter->drawPolyline(line);
+    painter.setPen(QPen(m_lineColor, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(line);
 }
 
 } // namespace kestrowind

@@ -7,8 +7,6 @@
 #include "UI/Dashboard/TemperatureHistory.h"
 #include "UI/TestState.h"
 
-#include <QImage>
-#include <QPainter>
 #include <gmock/gmock.h>
 
 #include <limits>
@@ -86,7 +84,6 @@ TEST(HistoryChartAxis, ChoosesTicksByTheSpan) {
     for (const Row& row : rows) {
         const double span = HistoryChartAxis::span(samplesAt(row.times));
         EXPECT_DOUBLE_EQ(span, row.span);
-        EXPECT_EQ(HistoryChartAxis::domain(span), (LineChart::Domain{-span, 0}));
         EXPECT_EQ(HistoryChartAxis::ticks(span), row.ticks) << span;
     }
     // A machine slept, or its clock was set while we ran: by an hour, to its day, from 1970.
@@ -124,9 +121,9 @@ TEST(TemperatureHistory, RoundsItsDomainOutwards) {
         {{49, 49}, {45, 55}}, {{0, 3}, {0, 10}},    {{96, 104}, {90, 110}},
     };
     for (const auto& [celsius, domain] : rows) {
-        QList<TemperatureHistory::Point> points;
+        QList<HistoryPoint> points;
         for (const double value : celsius)
-            points.append(TemperatureHistory::Point{.celsius = value});
+            points.append(HistoryPoint{.value = value});
         EXPECT_EQ(TemperatureHistory::domain(points), domain) << domain.lower;
     }
 }
@@ -192,42 +189,6 @@ TEST(ChartReadout, TellsTheNearestMomentThatIsShown) {
     LineChart late = chart;
     late.time = {.lower = -10, .upper = -5};
     EXPECT_FALSE(ChartReadout::nearest(late, look, 200).isShown) << "no sample is in sight";
-}
-
-TEST(LineChartPainter, KeepsLinesInsideThePlotAndLabelsOutside) {
-    QList<TelemetrySample> samples;
-    for (int sample = 0; sample < 60; ++sample)
-        samples.append(sampleAt(2.0 * sample, 45 + 7 * (sample % 8), 41 + sample));
-    const LineChart chart = TemperatureHistory::chart(samples);
-    const LineChartPainter::Look look{.size = {400, 190}, .scheme = ColorScheme::dark};
-    EXPECT_EQ(look.position({chart.time.lower, chart.values.lower}, chart),
-              look.plot().bottomLeft());
-    EXPECT_EQ(look.position({0, chart.values.upper}, chart), look.plot().topRight());
-
-    const auto painted = [&look](const LineChart& what) {
-        QImage image(look.size.toSize(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        LineChartPainter::paint(painter, what, look);
-        return image;
-    };
-    LineChart axes = chart;
-    axes.series.clear();
-    const QImage empty = painted(axes);
-    QRect drawn;
-    const QImage picture = painted(chart);
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            if (picture.pixel(x, y) != empty.pixel(x, y))
-                drawn |= QRect(x, y, 1, 1);
-        }
-    }
-    EXPECT_TRUE(look.plot().adjusted(-3, -3, 3, 3).contains(drawn)) << "lines leave the plot";
-    EXPECT_GT(drawn.width(), look.plot().width() - 4) << "lines do not span the plot";
-
-    LineChart broken = chart;
-    broken.series[0].points[3].setY(std::numeric_limits<double>::quiet_NaN());
-    EXPECT_NE(painted(broken), empty);
 }
 
 } // namespace

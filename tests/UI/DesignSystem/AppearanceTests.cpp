@@ -83,7 +83,7 @@ TEST(SceneAppearanceTests, BindingsFollowTheSceneAndOtherScenesDoNot) {
     };
     const auto expected = [](ColorScheme scheme) {
         return std::pair(Palette::temperatureColor(67.5, scheme),
-                         Palette::color(Palette::Role::tertiaryText, scheme));
+                         Palette::colors(scheme).tertiaryText);
     };
     EXPECT_EQ(colors(first), expected(ColorScheme::dark));
     EXPECT_EQ(colors(second), expected(ColorScheme::light));

@@ -1,41 +1,20 @@
 #include "UI/DesignSystem/Scene.h"
 
-#include "UI/DesignSystem/CardBackground.h"
-#include "UI/DesignSystem/FanBladesShape.h"
-#include "UI/DesignSystem/FanGauge.h"
 #include "UI/DesignSystem/FanGaugeArcs.h"
-#include "UI/DesignSystem/Palette.h"
 #include "UI/DesignSystem/SpinClock.h"
 #include "UI/DesignSystem/SpinningFanBlades.h"
 
-#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTransform>
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <cmath>
 #include <limits>
-#include <span>
 
 namespace kestrowind {
 namespace {
 
 using namespace std::chrono_literals;
-
-TEST(FanBladesShapeTests, IsAsLargeAsTheShorterSideAndWholeAroundItsHub) {
-    const QPainterPath path = FanBladesShape::path(QRectF(10, 20, 300, 200));
-    EXPECT_TRUE(QRectF(60, 20, 200, 200).contains(path.boundingRect()));
-    EXPECT_GT(path.boundingRect().height(), 150);
-    for (int angle = 0; angle < 360; angle += 7) {
-        QTransform turn;
-        turn.translate(160, 120);
-        turn.rotate(angle);
-        EXPECT_TRUE(path.contains(turn.map(QPointF(21, 0)))) << "a hole in a blade at " << angle;
-    }
-}
 
 TEST(SpinClockTests, TheAngleGoesOnFromWhereItIsWhenTheSpeedChanges) {
     const SpinClock::TimePoint start{};
@@ -52,28 +31,6 @@ TEST(SpinClockTests, TheAngleGoesOnFromWhereItIsWhenTheSpeedChanges) {
         EXPECT_EQ(clock.revolutionsPerSecond(), 0);
         EXPECT_NEAR(clock.turns(start + 9s), 0.25, 1e-9);
     }
-}
-
-TEST(SpinningFanBladesTests, TheBladesAreDrawnOnceForEachLook) {
-    Scene scene("SpinningFanBlades { diameter: 24; revolutionsPerSecond: 2 }");
-    auto& fan = dynamic_cast<SpinningFanBlades&>(scene.item());
-    QSignalSpy rendered(&fan, &SpinningFanBlades::bladesRendered);
-    scene.appearance().setForcedScheme(ColorScheme::light);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return fan.renderedLook().has_value(); }, 1000));
-
-    const auto rendersAfter = [&](auto change) {
-        rendered.clear();
-        change();
-        static_cast<void>(scene.window().grabWindow());
-        static_cast<void>(scene.window().grabWindow());
-        return rendered.count();
-    };
-    EXPECT_EQ(rendersAfter([] {}), 0);
-    EXPECT_EQ(rendersAfter([&] { fan.setRevolutionsPerSecond(0.5); }), 0);
-    EXPECT_EQ(rendersAfter([&] { fan.setDiameter(30); }), 1);
-    EXPECT_EQ(rendersAfter([&] { fan.setFill(SpinningFanBlades::Fill::Parked); }), 1);
-    EXPECT_EQ(rendersAfter([&] { scene.appearance().setForcedScheme(ColorScheme::dark); }), 1);
 }
 
 TEST(SpinningFanBladesTests, AsksForFramesOnlyWhileItTurnsAndIsSeen) {
@@ -115,31 +72,6 @@ TEST(SpinningFanBladesTests, AsksForFramesOnlyWhileItTurnsAndIsSeen) {
     }
 }
 
-TEST(SpinningFanBladesTests, TheTurnedImageIsWhatThePictureShows) {
-    Scene scene("SpinningFanBlades { diameter: 60; fill: SpinningFanBlades.Parked }");
-    scene.appearance().setForcedScheme(ColorScheme::light);
-    scene.window().setColor(Qt::white);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
-    const QImage picture = scene.window().grabWindow();
-    EXPECT_EQ(picture.pixelColor(30, 30), QColor(102, 102, 102)) << "the hub";
-    EXPECT_EQ(picture.pixelColor(3, 3), QColor(Qt::white)) << "the corner";
-}
-
-TEST(FanGaugeTests, TheRingRunsClockwiseAroundAnOpeningAtTheBottom) {
-    const FanGauge::Look look{.diameter = 100, .lineWidth = 8, .gapDegrees = 90};
-    const QPainterPath ring = FanGauge::ringPath(look, 1);
-    const double reach = 50 * std::sqrt(0.5);
-    const auto near = [](const QPointF& point, double x, double y) {
-        EXPECT_NEAR(point.x(), x, 0.05);
-        EXPECT_NEAR(point.y(), y, 0.05);
-    };
-    near(ring.pointAtPercent(0), 50 - reach, 50 + reach);
-    near(ring.pointAtPercent(0.5), 50, 0);
-    near(ring.pointAtPercent(1), 50 + reach, 50 + reach);
-    near(FanGauge::ringPath(look, 0.5).currentPosition(), 50, 0);
-    EXPECT_TRUE(FanGauge::ringPath(look, 0).isEmpty());
-}
-
 TEST(FanGaugeArcsTests, AChangeGoesOnFromWhatIsDisplayed) {
     Scene scene("FanGaugeArcs { x: 40; y: 40; diameter: 100; lineWidth: 8; gapDegrees: 90;"
                 " animationDuration: 0.2 }");
@@ -170,31 +102,6 @@ TEST(FanGaugeArcsTests, AChangeGoesOnFromWhatIsDisplayed) {
     scene.window().hide();
     EXPECT_TRUE(QTest::qWaitFor([&] { return gauge.displayedFraction() == 0.2; }, 100));
     EXPECT_EQ(gauge.movement().state(), QAbstractAnimation::Stopped);
-}
-
-TEST(CardBackgroundTests, TheStretchedPictureEqualsOnePaintedAtFullSize) {
-    for (const ColorScheme scheme : {ColorScheme::dark, ColorScheme::light}) {
-        Scene scene("CardBackground { width: 300; height: 200; cornerRadius: 16;"
-                    " tint: '#20ff0000' }");
-        scene.appearance().setForcedScheme(scheme);
-        const QColor window = Palette::color(Palette::Role::windowBackground, scheme);
-        scene.window().setColor(window);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
-        const QImage shown = scene.window().grabWindow();
-
-        QImage expected(300, 200, QImage::Format_ARGB32_Premultiplied);
-        expected.fill(window);
-        QPainter painter(&expected);
-        CardBackground::paint(
-            painter, QRectF(0, 0, 300, 200),
-            {.cornerRadius = 16, .tint = QColor(0xff, 0, 0, 0x20), .scheme = scheme});
-        painter.setCompositionMode(QPainter::CompositionMode_Difference);
-        painter.drawImage(0, 0, shown);
-        painter.end();
-        const QImage difference = expected.convertToFormat(QImage::Format_RGB888);
-        EXPECT_LE(std::ranges::max(std::span(difference.constBits(), 300 * 200 * 3)), 3)
-            << "dark " << (scheme == ColorScheme::dark);
-    }
 }
 
 } // namespace

@@ -5,24 +5,25 @@
 namespace kestrowind {
 namespace {
 
-using Palette::Role;
-
+using Palette::Colors;
 using Palette::contrast;
 
 TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
     for (const ColorScheme scheme : {ColorScheme::dark, ColorScheme::light}) {
-        const QColor window = Palette::color(Role::windowBackground, scheme);
-        const QColor card = Palette::composited(Palette::color(Role::cardFill, scheme), window);
-        const QColor popup = Palette::color(Role::popupBackground, scheme);
-        const QColor panel = Palette::color(Role::panelBackground, scheme);
+        const Colors& colors = Palette::colors(scheme);
+        const QColor window = colors.windowBackground;
+        const QColor card = Palette::composited(colors.cardFill, window);
+        const QColor popup = colors.popupBackground;
+        const QColor panel = colors.panelBackground;
         const auto surfaces = {window, card, popup, panel};
         for (const QColor& surface : surfaces) {
-            for (const Role role : {Role::primaryText, Role::secondaryText, Role::tertiaryText,
-                                    Role::accent, Role::warning, Role::danger, Role::success}) {
-                const QColor text = Palette::composited(Palette::color(role, scheme), surface);
+            for (const QColor& ink :
+                 {colors.primaryText, colors.secondaryText, colors.tertiaryText, colors.accent,
+                  colors.warning, colors.danger, colors.success}) {
+                const QColor text = Palette::composited(ink, surface);
                 EXPECT_GE(contrast(text, surface), 4.5)
-                    << "role " << static_cast<int>(role) << ", dark "
-                    << (scheme == ColorScheme::dark) << ", on " << surface.name().toStdString();
+                    << ink.name().toStdString() << ", dark " << (scheme == ColorScheme::dark)
+                    << ", on " << surface.name().toStdString();
             }
             // On the panel they are text, elsewhere marks.
             for (int celsius = 20; celsius <= 110; ++celsius) {
@@ -31,9 +32,7 @@ TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
                     << celsius << " degrees, dark " << (scheme == ColorScheme::dark);
             }
         }
-        EXPECT_GE(contrast(Palette::color(Role::onDanger, scheme),
-                           Palette::color(Role::dangerFill, scheme)),
-                  4.5);
+        EXPECT_GE(contrast(colors.onDanger, colors.dangerFill), 4.5);
         for (const std::optional<QColor>& accent : {std::optional<QColor>(),
                                                     {QColor(Qt::yellow)},
                                                     {QColor(Qt::blue)},
@@ -41,10 +40,10 @@ TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
                                                     {QColor(Qt::black)},
                                                     {QColor(Qt::white)},
                                                     {QColor(0xe6, 0x2d, 0x42)}}) {
-            const auto of = [&](Role role) { return Palette::color(role, scheme, accent); };
-            EXPECT_GE(contrast(of(Role::onAccent), of(Role::accentFill)), 4.5);
+            const Colors chosen = Palette::colors(scheme, accent);
+            EXPECT_GE(contrast(chosen.onAccent, chosen.accentFill), 4.5);
             for (const QColor& surface : surfaces)
-                EXPECT_GE(contrast(of(Role::accent), surface), 4.5) << surface.name().toStdString();
+                EXPECT_GE(contrast(chosen.accent, surface), 4.5) << surface.name().toStdString();
         }
     }
 }

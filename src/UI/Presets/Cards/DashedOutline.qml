@@ -8,6 +8,5 @@ CardOutline {
     cornerRadius: Radius.card
     lineWidth: 1.5
     dashes: [6, 5]
-    bottomColor: topColor
     visible: opacity > 0
 }
