@@ -1,19 +1,22 @@
 #pragma once
 
 #include <chrono>
-#include <cstdint>
 
 class QQuickWindow;
 
-/// The instants at which what moves by itself asks for frames. They are the same for everything in
-/// a window, so that all of it shares its frames: at most 60 a second, on screens that refresh
-/// faster too; half of it where the processor draws, and each frame takes its time from the rest of
-/// the machine.
+/// The instants at which what moves by itself asks for frames: 60 a second, the same for
+/// everything, so that all of it shares its frames. Nobody asks at each of them where a beat of
+/// several will do.
 namespace kestrowind::FrameGrid {
 
-/// The number of the instant that it is now.
-[[nodiscard]] std::int64_t tick(const QQuickWindow& window);
-/// Rounded up. `every` counts ticks: 2 is for each second one.
-[[nodiscard]] std::chrono::milliseconds untilNextTick(const QQuickWindow& window, int every = 1);
+/// Of so many instants no more than one: two where the processor draws, since each frame takes its
+/// time from the rest of the machine, else one.
+[[nodiscard]] int shortestBeat(const QQuickWindow& window);
+
+/// Until the next instant of that beat, rounded up.
+[[nodiscard]] std::chrono::milliseconds untilNext(int beat);
+
+/// How much of a second a beat takes.
+[[nodiscard]] double seconds(int beat);
 
 } // namespace kestrowind::FrameGrid

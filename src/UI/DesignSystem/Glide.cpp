@@ -11,7 +11,9 @@ namespace kestrowind {
 namespace {
 
 /// What moves by some pixels in most of a second looks the same with half of the frames.
-constexpr int ticksPerStep = 2;
+std::chrono::milliseconds untilNextStep(const QQuickWindow& window) {
+    return FrameGrid::untilNext(2 * FrameGrid::shortestBeat(window));
+}
 
 } // namespace
 
@@ -63,7 +65,7 @@ void Glide::depart() {
     while (part > 0 && inPixels(m_target + rest(part - 1)) == inPixels(m_target))
         --part;
     m_duration = std::chrono::milliseconds(m_way.duration) * part / parts;
-    m_nextStep.start(FrameGrid::untilNextTick(*window(), ticksPerStep));
+    m_nextStep.start(untilNextStep(*window()));
 }
 
 void Glide::step() {
@@ -75,7 +77,7 @@ void Glide::step() {
     const double progress =
         std::chrono::duration<double, std::milli>(elapsed).count() / m_way.duration;
     setValue(std::lerp(m_start, m_target, m_way.easing.valueForProgress(progress)));
-    m_nextStep.start(FrameGrid::untilNextTick(*window(), ticksPerStep));
+    m_nextStep.start(untilNextStep(*window()));
 }
 
 void Glide::setValue(double value) {

@@ -9,8 +9,8 @@
 
 namespace kestrowind {
 
-/// A coordinate on its way to where it belongs, in whole device pixels and at each second tick of
-/// the window's frame grid. For what moves with every sample: a Behavior would draw at the
+/// A coordinate on its way to where it belongs, in whole device pixels and with half of the frames
+/// that the window's grid allows. For what moves with every sample: a Behavior would draw at the
 /// display's rate, also where nothing has moved by a pixel.
 class Glide : public QQuickItem {
     Q_OBJECT

@@ -2,7 +2,6 @@
 
 #include "Core/AssignIfChanged.h"
 #include "UI/DesignSystem/FanBladesShape.h"
-#include "UI/DesignSystem/FrameGrid.h"
 #include "UI/DesignSystem/Palette.h"
 
 #include <QLinearGradient>
@@ -11,16 +10,19 @@
 #include <QSGImageNode>
 #include <QSGTransformNode>
 
+#include <numbers>
+
 namespace kestrowind {
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// The turning part and its picture.
+/// The turning part and its picture. Every frame finds it where it belongs by then.
 class BladesNode final : public QSGTransformNode {
 public:
     explicit BladesNode(QQuickWindow& window)
         : m_image(window.createImageNode()) {
+        setFlag(UsePreprocess);
         m_image->setFiltering(QSGTexture::Linear);
         m_image->setOwnsTexture(true);
         appendChildNode(m_image);
@@ -33,18 +35,34 @@ public:
         m_image->setRect(bounds);
     }
 
-    void setTurns(double turns, const QPointF& offset, double diameter) {
-        const auto radius = static_cast<float>(diameter / 2);
-        QMatrix4x4 matrix;
-        matrix.translate(static_cast<float>(offset.x()) + radius,
-                         static_cast<float>(offset.y()) + radius);
-        matrix.rotate(static_cast<float>(turns * 360), 0, 0, 1);
-        matrix.translate(-radius, -radius);
-        setMatrix(matrix);
+    /// The clock is a copy: frames may be drawn by a thread of their own.
+    void setPlace(const QPointF& center, double diameter, const SpinClock& clock, bool isTurning) {
+        m_isTurning = isTurning;
+        m_center = center;
+        m_radius = static_cast<float>(diameter / 2);
+        m_clock = clock;
+        turn();
+    }
+
+    void preprocess() override {
+        if (m_isTurning)
+            turn();
     }
 
 private:
+    void turn() {
+        QMatrix4x4 matrix;
+        matrix.translate(static_cast<float>(m_center.x()), static_cast<float>(m_center.y()));
+        matrix.rotate(static_cast<float>(m_clock.turns(Clock::now()) * 360), 0, 0, 1);
+        matrix.translate(-m_radius, -m_radius);
+        setMatrix(matrix);
+    }
+
     QSGImageNode* m_image;
+    QPointF m_center;
+    float m_radius = 0;
+    SpinClock m_clock;
+    bool m_isTurning = false;
 };
 
 } // namespace
@@ -52,12 +70,16 @@ private:
 SpinningFanBlades::SpinningFanBlades(QQuickItem* parent)
     : PaintedItem(parent)
     , m_visibility(*this) {
-    connect(this, &SpinningFanBlades::lookChanged, this,
-            [this] { setImplicitSize(m_diameter, m_diameter); });
-    m_nextFrame.setSingleShot(true);
-    m_nextFrame.setTimerType(Qt::PreciseTimer);
-    connect(&m_nextFrame, &QTimer::timeout, this, &SpinningFanBlades::requestFrame);
+    connect(this, &SpinningFanBlades::lookChanged, this, [this] {
+        setImplicitSize(m_diameter, m_diameter);
+        applyTurning();
+    });
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &SpinningFanBlades::applyTurning);
+}
+
+SpinningFanBlades::~SpinningFanBlades() {
+    if (m_frames)
+        m_frames->setSpeed(*this, 0);
 }
 
 void SpinningFanBlades::setRevolutionsPerSecond(double revolutionsPerSecond) {
@@ -65,7 +87,6 @@ void SpinningFanBlades::setRevolutionsPerSecond(double revolutionsPerSecond) {
     m_clock.setSpeed(revolutionsPerSecond, Clock::now());
     if (m_clock.revolutionsPerSecond() == before)
         return;
-    update();
     applyTurning();
     Q_EMIT revolutionsPerSecondChanged();
 }
@@ -113,37 +134,18 @@ QSGNode* SpinningFanBlades::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
         const QRectF bounds = pictureBounds();
         blades->setPicture(*window(), takePicture(bounds), bounds);
     }
-    const QPointF offset((width() - m_diameter) / 2, (height() - m_diameter) / 2);
-    blades->setTurns(m_clock.turns(Clock::now()), offset, m_diameter);
+    blades->setPlace(boundingRect().center(), m_diameter, m_clock, isTurning());
     return blades;
 }
 
 void SpinningFanBlades::applyTurning() {
-    if (!isTurning()) {
-        m_nextFrame.stop();
-        disconnect(m_frameShown);
-        m_frameShown = {};
-        return;
-    }
-    if (m_frameShown)
-        return;
-    m_frameShown = connect(window(), &QQuickWindow::frameSwapped, this,
-                           &SpinningFanBlades::frameShown, Qt::QueuedConnection);
-    requestFrame();
-}
-
-void SpinningFanBlades::frameShown() {
-    if (!m_frameShown || m_nextFrame.isActive())
-        return;
-    if (FrameGrid::tick(*window()) != m_lastTick)
-        requestFrame();
-    else
-        m_nextFrame.start(FrameGrid::untilNextTick(*window()));
-}
-
-void SpinningFanBlades::requestFrame() {
-    m_lastTick = FrameGrid::tick(*window());
     update();
+    if (m_frames)
+        m_frames->setSpeed(*this, 0);
+    m_frames = isTurning() ? &FrameClock::of(*window()) : nullptr;
+    if (m_frames) {
+        m_frames->setSpeed(*this, m_diameter * std::numbers::pi * m_clock.revolutionsPerSecond());
+    }
 }
 
 } // namespace kestrowind

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "UI/DesignSystem/FrameClock.h"
 #include "UI/DesignSystem/PaintedItem.h"
 #include "UI/DesignSystem/SpinClock.h"
 #include "UI/DesignSystem/VisibilityWatch.h"
 
-#include <QTimer>
-
-#include <cstdint>
+#include <QPointer>
 
 namespace kestrowind {
 
@@ -30,6 +29,7 @@ public:
     Q_ENUM(Fill)
 
     explicit SpinningFanBlades(QQuickItem* parent = nullptr);
+    ~SpinningFanBlades() override;
 
     [[nodiscard]] double revolutionsPerSecond() const { return m_clock.revolutionsPerSecond(); }
     /// Below 0 counts as 0. The blades go on from the angle they have.
@@ -50,17 +50,13 @@ protected:
 
 private:
     void applyTurning();
-    void frameShown();
-    void requestFrame();
 
     double m_diameter = 0;
     Fill m_fill = Fill::Airflow;
     bool m_isActive = true;
     SpinClock m_clock;
     VisibilityWatch m_visibility;
-    QTimer m_nextFrame;
-    std::int64_t m_lastTick = 0; ///< of the grid of frames, when a frame was last requested
-    QMetaObject::Connection m_frameShown;
+    QPointer<FrameClock> m_frames; ///< while it turns
 };
 
 } // namespace kestrowind
