@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace kestrowind {
@@ -25,29 +26,17 @@ QList<TelemetrySample> samplesAt(const QList<double>& times) {
 }
 
 TEST(HistorySamples, KeepsAboutTwoHundredAndFortyAndTheNewest) {
-    struct Row {
-        int count;
-        int kept;
-        int step;
-    };
-    for (const Row& row : {Row{0, 0, 1},
-                           {1, 1, 1},
-                           {240, 240, 1},
-                           {241, 121, 2},
-                           {242, 122, 2},
-                           {480, 241, 2},
-                           {481, 161, 3},
-                           {900, 226, 4}}) {
+    const std::tuple<int, int, int> rows[] = {{0, 0, 1},     {1, 1, 1},     {240, 240, 1},
+                                              {241, 121, 2}, {242, 122, 2}, {480, 241, 2},
+                                              {481, 161, 3}, {900, 226, 4}};
+    for (const auto& [count, kept, step] : rows) {
         QList<TelemetrySample> history;
-        for (int index = 0; index < row.count; ++index)
+        for (int index = 0; index < count; ++index)
             history.append(sampleAt(index, 50, 50));
-        const QList<TelemetrySample> kept = HistorySamples::downsampled(history);
-        ASSERT_EQ(kept.size(), row.kept) << row.count;
-        if (kept.isEmpty())
-            continue;
-        EXPECT_EQ(kept.last(), history.last()) << row.count;
-        for (int index = 0; index < row.kept - 1; ++index)
-            ASSERT_EQ(kept[index], history[index * row.step]) << row.count;
+        const QList<TelemetrySample> samples = HistorySamples::downsampled(history);
+        ASSERT_EQ(samples.size(), kept) << count;
+        for (int index = 0; index < kept; ++index)
+            ASSERT_EQ(samples[index], history[std::min(index * step, count - 1)]) << count;
     }
 }
 
@@ -130,21 +119,14 @@ TEST(TemperatureHistory, RoundsItsDomainOutwards) {
 
 TEST(FanSpeedHistory, CoversTheFastestFan) {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-    struct Row {
-        double maxRPM;
-        double speed;
-        double upper;
-    };
-    for (const Row& row : {Row{6550, 2000, 7000},
-                           {6000, 2000, 6000},
-                           {500, 300, 1000},
-                           {6000, 6001, 7000},
-                           {nan, 1500, 2000},
-                           {1500, nan, 2000}}) {
-        const QList<TelemetrySample> samples = {sampleAt(0, 50, 50, {row.speed}, 9000),
-                                                sampleAt(2, 50, 50, {900}, row.maxRPM)};
+    const std::tuple<double, double, double> rows[] = {{6550, 2000, 7000}, {6000, 2000, 6000},
+                                                       {500, 300, 1000},   {6000, 6001, 7000},
+                                                       {nan, 1500, 2000},  {1500, nan, 2000}};
+    for (const auto& [maxRPM, speed, upper] : rows) {
+        const QList<TelemetrySample> samples = {sampleAt(0, 50, 50, {speed}, 9000),
+                                                sampleAt(2, 50, 50, {900}, maxRPM)};
         EXPECT_EQ(FanSpeedHistory::domain(samples, FanSpeedHistory::points(samples)),
-                  (LineChart::Domain{0, row.upper}));
+                  (LineChart::Domain{0, upper}));
     }
     EXPECT_EQ(FanSpeedHistory::domain({}, {}), (LineChart::Domain{0, 1000}));
 }

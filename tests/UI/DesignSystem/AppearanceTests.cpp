@@ -1,7 +1,5 @@
 #include "UI/DesignSystem/Scene.h"
 
-#include "UI/DesignSystem/Palette.h"
-
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -66,27 +64,6 @@ TEST(SceneAppearanceTests, ForcedBeatsTheSystemWhichBeatsThePalette) {
     appearance.setForcedScheme(std::nullopt);
     EXPECT_TRUE(appearance.isDark()) << "without the system the palette is asked again";
     setApplicationBackground(Qt::white);
-}
-
-TEST(SceneAppearanceTests, BindingsFollowTheSceneAndOtherScenesDoNot) {
-    const QByteArray body = "Rectangle { color: AppColors.temperatureColor(67.5)\n"
-                            "  property color text: AppColors.tertiaryText }";
-    Scene first(body);
-    Scene second(body);
-    first.appearance().setForcedScheme(ColorScheme::light);
-    second.appearance().setForcedScheme(ColorScheme::light);
-    first.appearance().setForcedScheme(ColorScheme::dark);
-
-    const auto colors = [](Scene& scene) {
-        return std::pair(scene.item().property("color").value<QColor>(),
-                         scene.item().property("text").value<QColor>());
-    };
-    const auto expected = [](ColorScheme scheme) {
-        return std::pair(Palette::temperatureColor(67.5, scheme),
-                         Palette::colors(scheme).tertiaryText);
-    };
-    EXPECT_EQ(colors(first), expected(ColorScheme::dark));
-    EXPECT_EQ(colors(second), expected(ColorScheme::light));
 }
 
 TEST(SceneAppearanceTests, BindingsFollowTheAccentOfTheSystem) {

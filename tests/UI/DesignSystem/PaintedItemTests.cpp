@@ -41,42 +41,18 @@ TEST(PaintedItemTests, IsPaintedOnceForEachLookAndNotUnseen) {
     };
     const Row rows[] = {
         {"nothing", [] {}, 0},
-        {"a place",
-         [&] {
-             item.setPosition({5, 5});
-         },
-         0},
+        {"a place", [&] { item.setX(5); }, 0},
         {"an opacity", [&] { item.setOpacity(0.5); }, 0},
-        {"the same size",
-         [&] {
-             item.setSize({20, 20});
-         },
-         0},
-        {"a size",
-         [&] {
-             item.setSize({30, 20});
-         },
-         1},
+        {"the same size", [&] { item.setWidth(20); }, 0},
+        {"a size", [&] { item.setWidth(30); }, 1},
         {"a scheme", [&] { appearance.setForcedScheme(ColorScheme::dark); }, 1},
         {"the same scheme", [&] { appearance.setForcedScheme(ColorScheme::dark); }, 0},
         {"a look", [&] { Q_EMIT item.lookChanged(); }, 1},
-        {"hidden",
-         [&] {
-             item.setVisible(false);
-             Q_EMIT item.lookChanged();
-         },
-         0},
+        {"hidden", [&] { item.setVisible(false); }, 0},
+        {"a look, hidden", [&] { Q_EMIT item.lookChanged(); }, 0},
         {"shown", [&] { item.setVisible(true); }, 1},
-        {"empty",
-         [&] {
-             item.setSize({0, 20});
-         },
-         0},
-        {"no longer empty",
-         [&] {
-             item.setSize({10, 20});
-         },
-         1},
+        {"empty", [&] { item.setWidth(0); }, 0},
+        {"no longer empty", [&] { item.setWidth(10); }, 1},
     };
     for (const Row& row : rows) {
         item.count = 0;
