@@ -8,7 +8,7 @@
 namespace kestrowind {
 
 /// Grid lines and their labels, over the whole chart.
-class ChartGridAndAxes : public PaintedItem {
+class ChartGridAndAxes : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY lookChanged
                    FINAL REQUIRED)

@@ -12,7 +12,7 @@ namespace kestrowind {
 /// The curve's line and the area under it, exactly as the curve is evaluated. Lies over the plot
 /// and `bleed` points beyond it on every side. A change that is to be seen moving springs; one that
 /// comes in the middle of another starts from where the line is.
-class CurveShape : public PaintedItem {
+class CurveShape : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart WRITE setChart NOTIFY lookChanged
                    FINAL REQUIRED)

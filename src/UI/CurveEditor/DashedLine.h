@@ -5,7 +5,7 @@
 namespace kestrowind {
 
 /// A vertical line, 4 points on, 4 off.
-class DashedLine : public PaintedItem {
+class DashedLine : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY lookChanged FINAL)
     QML_ELEMENT

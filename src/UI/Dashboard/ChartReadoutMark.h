@@ -7,7 +7,7 @@ namespace kestrowind {
 
 /// A line at the moment that is read, and a dot on each of the chart's lines. As high as the chart
 /// and only as wide as a dot, so that following the pointer costs next to nothing.
-class ChartReadoutMark : public PaintedItem {
+class ChartReadoutMark : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(kestrowind::ChartReadout readout MEMBER m_readout NOTIFY lookChanged FINAL)
     QML_ELEMENT

@@ -9,7 +9,7 @@
 namespace kestrowind {
 
 /// A chart of the history. What it shows under the pointer is told beside it.
-class HistoryChart : public PaintedItem {
+class HistoryChart : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(kestrowind::LineChart chart MEMBER m_chart NOTIFY lookChanged FINAL)
     Q_PROPERTY(kestrowind::ChartReadout readout READ readout NOTIFY readoutChanged FINAL)

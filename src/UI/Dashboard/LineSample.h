@@ -5,7 +5,7 @@
 namespace kestrowind {
 
 /// A straight piece of a fan's line for the legend, through the middle of its height.
-class LineSample : public PaintedItem {
+class LineSample : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(bool isDashed MEMBER m_isDashed NOTIFY lookChanged FINAL)
     QML_ELEMENT

@@ -9,7 +9,7 @@ namespace kestrowind {
 /// What lies under a card: a translucent rounded rectangle, lit along its upper inner edge and
 /// shaded along the lower one. The picture is as narrow as its corners and stretched between them,
 /// so that a wide card costs little memory.
-class CardBackground : public PaintedItem {
+class CardBackground : public kestrowind::PaintedItem {
     Q_OBJECT
     /// No more than half of the shorter side is used: a large value makes a capsule.
     Q_PROPERTY(double cornerRadius MEMBER m_cornerRadius NOTIFY lookChanged FINAL)

@@ -9,7 +9,7 @@ namespace kestrowind {
 
 /// The ring of a gauge. A new fraction is moved to from what is displayed, so a change in the
 /// middle of a movement goes on from where the arc is.
-class FanGaugeArcs : public PaintedItem {
+class FanGaugeArcs : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(double diameter MEMBER m_diameter NOTIFY lookChanged FINAL)
     Q_PROPERTY(double lineWidth MEMBER m_lineWidth NOTIFY lookChanged FINAL)

@@ -7,7 +7,7 @@
 namespace kestrowind {
 
 /// The fan standing still, in one colour.
-class FanGlyph : public PaintedItem {
+class FanGlyph : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(double side MEMBER m_side NOTIFY lookChanged FINAL)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY lookChanged FINAL)

@@ -11,7 +11,7 @@ namespace kestrowind {
 /// The soft shadow of a rounded rectangle, drawn around it and never under it: what lies on a
 /// translucent card stays as light as it is. The item is larger than what casts the shadow by twice
 /// the blur radius at every side.
-class SoftShadow : public PaintedItem {
+class SoftShadow : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(double blurRadius MEMBER m_blurRadius NOTIFY lookChanged FINAL)
     /// Downwards, points.

@@ -12,7 +12,7 @@ namespace kestrowind {
 
 /// Something is being done that nobody knows the end of: spokes, one after another lit. It moves
 /// only while somebody can see it.
-class Spinner : public PaintedItem {
+class Spinner : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(double diameter MEMBER m_diameter NOTIFY lookChanged FINAL)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY lookChanged FINAL)

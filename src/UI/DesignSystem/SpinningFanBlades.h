@@ -11,7 +11,7 @@ namespace kestrowind {
 
 /// The fan that turns: the blades are an image drawn once for each look and turned by the scene
 /// graph. It asks for frames only while it turns and somebody can see it.
-class SpinningFanBlades : public PaintedItem {
+class SpinningFanBlades : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(double diameter MEMBER m_diameter NOTIFY lookChanged FINAL)
     Q_PROPERTY(double revolutionsPerSecond READ revolutionsPerSecond WRITE setRevolutionsPerSecond

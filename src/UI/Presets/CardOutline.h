@@ -6,7 +6,7 @@ namespace kestrowind {
 
 /// A line along the inner edge of a rounded rectangle, from one colour at the top to another at the
 /// bottom, whole or in dashes.
-class CardOutline : public PaintedItem {
+class CardOutline : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(double lineWidth MEMBER m_lineWidth NOTIFY lookChanged FINAL)
     Q_PROPERTY(double cornerRadius MEMBER m_cornerRadius NOTIFY lookChanged FINAL)

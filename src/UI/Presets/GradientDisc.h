@@ -5,7 +5,7 @@
 namespace kestrowind {
 
 /// A disc in a vertical gradient, smooth at its edge in every renderer.
-class GradientDisc : public PaintedItem {
+class GradientDisc : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(QColor topColor MEMBER m_topColor NOTIFY lookChanged FINAL)
     Q_PROPERTY(QColor bottomColor MEMBER m_bottomColor NOTIFY lookChanged FINAL)

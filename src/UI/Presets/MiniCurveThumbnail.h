@@ -6,7 +6,7 @@
 namespace kestrowind {
 
 /// A fan curve in small: a line over a faint area.
-class MiniCurveThumbnail : public PaintedItem {
+class MiniCurveThumbnail : public kestrowind::PaintedItem {
     Q_OBJECT
     Q_PROPERTY(kestrowind::ThumbnailCurve curve MEMBER m_curve NOTIFY lookChanged FINAL)
     Q_PROPERTY(QColor lineColor MEMBER m_lineColor NOTIFY lookChanged FINAL)
