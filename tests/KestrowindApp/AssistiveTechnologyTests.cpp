@@ -2,11 +2,12 @@
 #include "KestrowindApp/Scenes.h"
 #include "Platform/Linux/RememberedActivationPolicy.h"
 #include "Platform/Platform.h"
+#include "Support/FakeLoginItem.h"
 #include "Support/FakeStatusItem.h"
+#include "Support/FakeSystemInformation.h"
 #include "Support/QtPrinters.h"
 #include "Support/ScreenReader.h"
 #include "UI/MenuBar/MenuBarPanel.h"
-#include "UI/Settings/SettingsMachine.h"
 #include "UI/TestState.h"
 
 #include <QGuiApplication>

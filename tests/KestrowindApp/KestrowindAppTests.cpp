@@ -5,10 +5,12 @@
 #include "Shared/HelperShared/HelperConstants.h"
 #include "Simulator/SimulatedSMC.h"
 #include "Support/FakeHelperConnection.h"
+#include "Support/FakeLoginItem.h"
 #include "Support/FakeStatusItem.h"
+#include "Support/FakeSystemInformation.h"
 #include "Support/QtPrinters.h"
 #include "Support/ScreenReader.h"
-#include "UI/Settings/SettingsMachine.h"
+#include "Support/TestDefaults.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>

@@ -50,6 +50,10 @@ public:
     [[nodiscard]] bool isGone(const QString& name) const {
         return QTest::qWaitFor([&] { return named(name) == nullptr; });
     }
+    /// What is said of an item besides its name.
+    [[nodiscard]] static QString description(const QQuickItem& item) {
+        return spokenText(item, QAccessible::Description);
+    }
     /// What has the keyboard.
     [[nodiscard]] QString focused() const {
         const QQuickItem* item = activeFocusItem();
@@ -77,9 +81,12 @@ public:
 
 private:
     static QString spokenName(const QQuickItem& item) {
+        return spokenText(item, QAccessible::Name);
+    }
+    static QString spokenText(const QQuickItem& item, QAccessible::Text text) {
         QAccessibleInterface* spoken =
             QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(&item));
-        return spoken ? spoken->text(QAccessible::Name) : QString();
+        return spoken ? spoken->text(text) : QString();
     }
     static QQuickItem* find(const QQuickItem* below, const QString& name,
                             std::optional<QAccessible::Role> role) {

@@ -251,10 +251,8 @@ void CurvesModel::redo() {
 // --- what is seen -------------------------------------------------------------------------------
 
 void CurvesModel::setView(QQuickItem* view) {
-    if (!m_visibility.watch(view))
-        return;
+    m_visibility.watch(view);
     refreshTelemetry();
-    Q_EMIT viewChanged();
 }
 
 void CurvesModel::refresh() {

@@ -43,7 +43,6 @@ class CurvesModel final : public QObject {
     Q_PROPERTY(kestrowind::RowList* userPresets READ userPresets CONSTANT FINAL)
     Q_PROPERTY(kestrowind::RowList* builtInPresets READ builtInPresets CONSTANT FINAL)
     Q_PROPERTY(kestrowind::FanCurveChartModel* chart READ chart CONSTANT FINAL)
-    Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")
 
@@ -98,13 +97,11 @@ public:
     Q_INVOKABLE void redo();
 
     /// The item that shows the model; without one the model counts as seen.
-    [[nodiscard]] QQuickItem* view() const { return m_visibility.item(); }
-    void setView(QQuickItem* view);
+    Q_INVOKABLE void setView(QQuickItem* view);
 
 Q_SIGNALS:
     /// The preset that is shown, or what can be done with it, is another.
     void presetChanged();
-    void viewChanged();
 
 private:
     void movePoint(int index, const FanCurvePoint& to, bool isFinal);

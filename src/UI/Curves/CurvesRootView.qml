@@ -11,7 +11,7 @@ Item {
     implicitWidth: 820
     implicitHeight: editor.active ? editor.implicitHeight : 420
 
-    Component.onCompleted: model.view = root
+    Component.onCompleted: model.setView(root)
 
     Loader {
         id: editor

@@ -28,10 +28,8 @@ DashboardModel::State DashboardModel::select(const TelemetryStore& telemetry) {
 }
 
 void DashboardModel::setView(QQuickItem* view) {
-    if (!m_visibility.watch(view))
-        return;
+    m_visibility.watch(view);
     refreshIfSeen();
-    Q_EMIT viewChanged();
 }
 
 void DashboardModel::takeSample() {

@@ -30,7 +30,6 @@ class DashboardModel final : public QObject {
     Q_PROPERTY(kestrowind::LineChart temperatures READ temperatures NOTIFY historyChanged FINAL)
     Q_PROPERTY(kestrowind::LineChart fanSpeeds READ fanSpeeds NOTIFY historyChanged FINAL)
     Q_PROPERTY(kestrowind::HistoryExport* historyExport READ historyExport CONSTANT FINAL)
-    Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")
 
@@ -62,8 +61,7 @@ public:
     [[nodiscard]] HistoryExport* historyExport() { return &m_historyExport; }
 
     /// The item that shows the model; without one the model counts as seen.
-    [[nodiscard]] QQuickItem* view() const { return m_visibility.item(); }
-    void setView(QQuickItem* view);
+    Q_INVOKABLE void setView(QQuickItem* view);
 
 Q_SIGNALS:
     void stateChanged();
@@ -73,7 +71,6 @@ Q_SIGNALS:
     void windowCaptionChanged();
     void hasHistoryChanged();
     void historyChanged();
-    void viewChanged();
 
 private:
     void takeSample();

@@ -12,7 +12,7 @@ Item {
     implicitWidth: 820
     implicitHeight: content.active ? content.implicitHeight : 420
 
-    Component.onCompleted: model.view = root
+    Component.onCompleted: model.setView(root)
 
     Loader {
         active: root.model.state === DashboardModel.Loading

@@ -9,9 +9,9 @@
 
 namespace kestrowind {
 
-bool VisibilityWatch::watch(QQuickItem* item) {
+void VisibilityWatch::watch(QQuickItem* item) {
     if (item == m_item)
-        return false;
+        return;
     if (m_item)
         m_item->disconnect(this);
     m_item = item;
@@ -25,7 +25,6 @@ bool VisibilityWatch::watch(QQuickItem* item) {
         });
     }
     follow(item ? item->window() : nullptr);
-    return true;
 }
 
 bool VisibilityWatch::eventFilter(QObject* watched, QEvent* event) {

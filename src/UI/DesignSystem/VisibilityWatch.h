@@ -19,8 +19,7 @@ public:
 
     /// Null when there is none yet, or no longer.
     [[nodiscard]] QQuickItem* item() const { return m_item; }
-    /// Whether it is another item than before.
-    bool watch(QQuickItem* item);
+    void watch(QQuickItem* item);
 
     /// Nothing to watch is nothing to see.
     [[nodiscard]] bool isSeen() const { return m_isSeen; }

@@ -37,8 +37,6 @@ void FanBoostSettings::chooseTemperatureSource(int index) {
     if (index < 0 || index >= static_cast<int>(offered.size()))
         return;
     m_userDefaults.setString(settingsKey, text(offered[static_cast<std::size_t>(index)]));
-    // Even if the choice does not count because a launch argument does: what is shown follows.
-    Q_EMIT temperatureSourceChanged();
 }
 
 } // namespace kestrowind

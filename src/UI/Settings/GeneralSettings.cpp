@@ -1,26 +1,29 @@
 #include "UI/Settings/GeneralSettings.h"
 
+#include "Core/AlertNotifier.h"
 #include "Core/AssignIfChanged.h"
+#include "Core/LocalizedText.h"
 #include "Platform/LoginItem.h"
-#include "Platform/UserDefaults.h"
 
 namespace kestrowind {
-namespace {
 
 using namespace Qt::StringLiterals;
 
-const QString hideDockIconKey = u"hideDockIconWhenWindowClosed"_s;
-
-} // namespace
-
 GeneralSettings::GeneralSettings(UserDefaults& userDefaults, LoginItem& loginItem)
-    : m_userDefaults(userDefaults)
-    , m_loginItem(loginItem)
+    : m_loginItem(loginItem)
     , m_launchesAtLogin(loginItem.isEnabled()) {
-    connect(&userDefaults, &UserDefaults::changed, this, [this](const QString& changed) {
-        if (changed == hideDockIconKey)
-            Q_EMIT hidesDockIconChanged();
-    });
+    const auto add = [&](const QString& key, const char* title, const char* subtitle) {
+        m_switches.append(
+            new SettingSwitch(userDefaults, key, localized(title), localized(subtitle), this));
+    };
+    add(u"hideDockIconWhenWindowClosed"_s, "settings.general.hideDockIcon.title",
+        "settings.general.hideDockIcon.subtitle");
+    add(alertKey(AlertKind::overheating), "settings.notifications.overheating.title",
+        "settings.notifications.overheating.subtitle");
+    add(alertKey(AlertKind::fanStandsStill), "settings.notifications.standingFan.title",
+        "settings.notifications.standingFan.subtitle");
+    add(alertKey(AlertKind::helperFailed), "settings.notifications.helperFailure.title",
+        "settings.notifications.helperFailure.subtitle");
 }
 
 void GeneralSettings::setLaunchesAtLogin(bool wanted) {
@@ -32,16 +35,6 @@ void GeneralSettings::setLaunchesAtLogin(bool wanted) {
     showError(changed ? QString() : changed.error());
     if (!changed)
         showLaunchesAtLogin(m_loginItem.isEnabled());
-}
-
-bool GeneralSettings::hidesDockIcon() const {
-    return m_userDefaults.boolean(hideDockIconKey);
-}
-
-void GeneralSettings::setHidesDockIcon(bool hides) {
-    m_userDefaults.setBoolean(hideDockIconKey, hides);
-    // A launch argument may count instead: what is shown follows.
-    Q_EMIT hidesDockIconChanged();
 }
 
 void GeneralSettings::appear() {

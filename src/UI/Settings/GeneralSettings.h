@@ -1,21 +1,23 @@
 #pragma once
 
+#include "UI/Settings/SettingSwitch.h"
+
 #include <QObject>
+#include <QQmlListProperty>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
 namespace kestrowind {
 
 class LoginItem;
-class UserDefaults;
 
-/// Launch at login, and the Dock icon.
+/// Launch at login, the Dock icon, and which alerts the user wants to hear.
 class GeneralSettings final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool launchesAtLogin READ launchesAtLogin NOTIFY launchesAtLoginChanged FINAL)
     Q_PROPERTY(
         QString launchAtLoginError READ launchAtLoginError NOTIFY launchAtLoginErrorChanged FINAL)
-    Q_PROPERTY(bool hidesDockIcon READ hidesDockIcon NOTIFY hidesDockIconChanged FINAL)
+    Q_PROPERTY(QQmlListProperty<kestrowind::SettingSwitch> switches READ switches CONSTANT FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")
 
@@ -28,9 +30,8 @@ public:
     Q_INVOKABLE void setLaunchesAtLogin(bool wanted);
     /// Why that could not be changed; empty otherwise.
     [[nodiscard]] const QString& launchAtLoginError() const { return m_launchAtLoginError; }
-    /// While the main window is closed.
-    [[nodiscard]] bool hidesDockIcon() const;
-    Q_INVOKABLE void setHidesDockIcon(bool hides);
+    /// In the order in which they stand.
+    [[nodiscard]] QQmlListProperty<SettingSwitch> switches() { return {this, &m_switches}; }
 
     /// The section came on screen: the user may have changed the login item elsewhere.
     void appear();
@@ -38,16 +39,15 @@ public:
 Q_SIGNALS:
     void launchesAtLoginChanged();
     void launchAtLoginErrorChanged();
-    void hidesDockIconChanged();
 
 private:
     void showLaunchesAtLogin(bool launches);
     void showError(const QString& error);
 
-    UserDefaults& m_userDefaults;
     LoginItem& m_loginItem;
     bool m_launchesAtLogin;
     QString m_launchAtLoginError;
+    QList<SettingSwitch*> m_switches; ///< children of this
 };
 
 } // namespace kestrowind

@@ -5,50 +5,38 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace kestrowind {
 
 HelperOperation::HelperOperation(HelperControlling& helper)
     : m_helper(helper) {}
 
-QCoro::Task<void> HelperOperation::install() {
+QCoro::Task<void> HelperOperation::runInstallation() {
     if (m_isWorking)
         co_return;
     const QPointer<HelperOperation> self(this);
-    begin();
+    show(true, {});
     const auto outcome = co_await m_helper.install();
     if (self)
-        finish(outcome ? QString() : outcome.error().localizedDescription());
+        show(false, outcome ? QString() : outcome.error().localizedDescription());
 }
 
-QCoro::Task<void> HelperOperation::uninstall() {
+QCoro::Task<void> HelperOperation::runRemoval() {
     if (m_isWorking)
         co_return;
     const QPointer<HelperOperation> self(this);
-    begin();
+    show(true, {});
     // Whether the helper is gone shows in its state.
     co_await m_helper.uninstall();
     if (self)
-        finish({});
+        show(false, {});
 }
 
-void HelperOperation::begin() {
-    setWorking(true);
-    setErrorMessage({});
-}
-
-void HelperOperation::finish(const QString& errorMessage) {
-    setErrorMessage(errorMessage);
-    setWorking(false);
-}
-
-void HelperOperation::setWorking(bool isWorking) {
-    if (assignIfChanged(m_isWorking, isWorking))
-        Q_EMIT isWorkingChanged();
-}
-
-void HelperOperation::setErrorMessage(const QString& message) {
-    if (assignIfChanged(m_errorMessage, message))
-        Q_EMIT errorMessageChanged();
+void HelperOperation::show(bool isWorking, const QString& errorMessage) {
+    const bool wasWorking = std::exchange(m_isWorking, isWorking);
+    if (assignIfChanged(m_errorMessage, errorMessage) || wasWorking != isWorking)
+        Q_EMIT changed();
 }
 
 } // namespace kestrowind

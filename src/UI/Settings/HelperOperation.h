@@ -3,6 +3,7 @@
 #include <QCoroTask>
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 namespace kestrowind {
 
@@ -13,30 +14,32 @@ class HelperControlling;
 /// Belongs to the main thread.
 class HelperOperation final : public QObject {
     Q_OBJECT
+    Q_PROPERTY(bool isWorking READ isWorking NOTIFY changed FINAL)
+    Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY changed FINAL)
+    QML_ELEMENT
+    QML_UNCREATABLE("made with the application's scenes")
 
 public:
     /// The helper must outlive the operation.
     explicit HelperOperation(HelperControlling& helper);
 
     /// Neither does anything while one runs. Reinstalling is installing.
-    QCoro::Task<void> install();
-    QCoro::Task<void> uninstall();
+    Q_INVOKABLE void install() { runInstallation(); }
+    Q_INVOKABLE void uninstall() { runRemoval(); }
 
     [[nodiscard]] bool isWorking() const { return m_isWorking; }
     /// Why the last one failed, in the user's language; empty otherwise.
     [[nodiscard]] const QString& errorMessage() const { return m_errorMessage; }
     /// The screen that showed it is gone.
-    void forgetError() { setErrorMessage({}); }
+    void forgetError() { show(m_isWorking, {}); }
 
 Q_SIGNALS:
-    void isWorkingChanged();
-    void errorMessageChanged();
+    void changed();
 
 private:
-    void begin();
-    void finish(const QString& errorMessage);
-    void setWorking(bool isWorking);
-    void setErrorMessage(const QString& message);
+    QCoro::Task<void> runInstallation();
+    QCoro::Task<void> runRemoval();
+    void show(bool isWorking, const QString& errorMessage);
 
     HelperControlling& m_helper;
     bool m_isWorking = false;

@@ -13,10 +13,6 @@ HelperSettings::HelperSettings(HelperControlling& helper, const ControlState& co
     , m_control(control)
     , m_operation(operation) {
     connect(&control, &ControlState::changed, this, &HelperSettings::changed);
-    connect(&operation, &HelperOperation::isWorkingChanged, this,
-            &HelperSettings::isWorkingChanged);
-    connect(&operation, &HelperOperation::errorMessageChanged, this,
-            &HelperSettings::errorMessageChanged);
     m_nextQuestion.setSingleShot(true);
     m_nextQuestion.setTimerType(Qt::PreciseTimer);
     m_nextQuestion.setInterval(interval);
@@ -24,12 +20,20 @@ HelperSettings::HelperSettings(HelperControlling& helper, const ControlState& co
 }
 
 HelperSettings::~HelperSettings() {
-    m_operation.disconnect(this);
     m_operation.forgetError();
 }
 
 HelperStatusFacts HelperSettings::status() const {
     return HelperStatusFacts::of(m_control.facts());
+}
+
+bool HelperSettings::hasStatus() const {
+    return m_control.facts().status.has_value();
+}
+
+QString HelperSettings::version() const {
+    const auto& status = m_control.facts().status;
+    return status ? QString::fromStdString(status->version) : QString();
 }
 
 bool HelperSettings::hasFailure() const {

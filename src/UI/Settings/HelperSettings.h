@@ -17,12 +17,13 @@ class ControlState;
 class HelperSettings final : public QObject {
     Q_OBJECT
     Q_PROPERTY(kestrowind::HelperStatusFacts status READ status NOTIFY changed FINAL)
+    Q_PROPERTY(bool hasStatus READ hasStatus NOTIFY changed FINAL)
+    Q_PROPERTY(QString version READ version NOTIFY changed FINAL)
     Q_PROPERTY(bool isOutdated READ isOutdated NOTIFY changed FINAL)
     Q_PROPERTY(bool hasFailure READ hasFailure NOTIFY changed FINAL)
     Q_PROPERTY(QString failure READ failure NOTIFY changed FINAL)
     Q_PROPERTY(bool isUnlocking READ isUnlocking NOTIFY changed FINAL)
-    Q_PROPERTY(bool isWorking READ isWorking NOTIFY isWorkingChanged FINAL)
-    Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged FINAL)
+    Q_PROPERTY(kestrowind::HelperOperation* operation READ operation CONSTANT FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")
 
@@ -37,25 +38,22 @@ public:
     ~HelperSettings() override;
 
     [[nodiscard]] HelperStatusFacts status() const;
+    /// False until the helper has answered.
+    [[nodiscard]] bool hasStatus() const;
+    /// The helper's; empty until it has answered.
+    [[nodiscard]] QString version() const;
     /// The helper is another version than the one that this application comes with.
     [[nodiscard]] bool isOutdated() const { return m_helper.isHelperOutdated(); }
     /// The helper reports that it failed, and why.
     [[nodiscard]] bool hasFailure() const;
     [[nodiscard]] QString failure() const;
     [[nodiscard]] bool isUnlocking() const;
-    [[nodiscard]] bool isWorking() const { return m_operation.isWorking(); }
-    /// Why the last installation failed; empty otherwise.
-    [[nodiscard]] QString errorMessage() const { return m_operation.errorMessage(); }
-
-    Q_INVOKABLE void install() { m_operation.install(); }
-    Q_INVOKABLE void uninstall() { m_operation.uninstall(); }
+    [[nodiscard]] HelperOperation* operation() const { return &m_operation; }
 
     void setSeen(bool isSeen);
 
 Q_SIGNALS:
     void changed();
-    void isWorkingChanged();
-    void errorMessageChanged();
 
 private:
     QCoro::Task<void> askForStatus();

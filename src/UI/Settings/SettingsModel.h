@@ -1,17 +1,17 @@
 #pragma once
 
 #include "UI/DesignSystem/VisibilityWatch.h"
-#include "UI/Settings/AboutSettings.h"
 #include "UI/Settings/FanBoostSettings.h"
 #include "UI/Settings/GeneralSettings.h"
 #include "UI/Settings/HelperSettings.h"
-#include "UI/Settings/NotificationSettings.h"
 
 #include <QObject>
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
 namespace kestrowind {
+
+class SystemInformation;
 
 /// What the settings work on. All of it must outlive the model.
 struct SettingsServices {
@@ -29,9 +29,7 @@ class SettingsModel final : public QObject {
     Q_PROPERTY(kestrowind::HelperSettings* helper READ helper CONSTANT FINAL)
     Q_PROPERTY(kestrowind::FanBoostSettings* fanBoost READ fanBoost CONSTANT FINAL)
     Q_PROPERTY(kestrowind::GeneralSettings* general READ general CONSTANT FINAL)
-    Q_PROPERTY(kestrowind::NotificationSettings* notifications READ notifications CONSTANT FINAL)
-    Q_PROPERTY(kestrowind::AboutSettings* about READ about CONSTANT FINAL)
-    Q_PROPERTY(QQuickItem* view READ view WRITE setView NOTIFY viewChanged FINAL)
+    Q_PROPERTY(QString version READ version CONSTANT FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")
 
@@ -41,15 +39,11 @@ public:
     [[nodiscard]] HelperSettings* helper() { return &m_helper; }
     [[nodiscard]] FanBoostSettings* fanBoost() { return &m_fanBoost; }
     [[nodiscard]] GeneralSettings* general() { return &m_general; }
-    [[nodiscard]] NotificationSettings* notifications() { return &m_notifications; }
-    [[nodiscard]] AboutSettings* about() { return &m_about; }
+    /// The application's: "2.3 (41)".
+    [[nodiscard]] const QString& version() const { return m_version; }
 
     /// The item that shows the model; without one nobody sees it.
-    [[nodiscard]] QQuickItem* view() const { return m_visibility.item(); }
-    void setView(QQuickItem* view);
-
-Q_SIGNALS:
-    void viewChanged();
+    Q_INVOKABLE void setView(QQuickItem* view);
 
 private:
     void takeVisibility();
@@ -57,8 +51,7 @@ private:
     HelperSettings m_helper;
     FanBoostSettings m_fanBoost;
     GeneralSettings m_general;
-    NotificationSettings m_notifications;
-    AboutSettings m_about;
+    QString m_version;
     VisibilityWatch m_visibility;
 };
 

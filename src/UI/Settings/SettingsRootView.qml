@@ -14,7 +14,7 @@ Item {
     implicitWidth: 820
     implicitHeight: stack.height + 2 * Spacing.medium
 
-    Component.onCompleted: model.view = root
+    Component.onCompleted: model.setView(root)
 
     Column {
         id: stack
@@ -36,12 +36,12 @@ Item {
         GeneralSettingsSection {
             width: parent.width
             model: root.model.general
-            notifications: root.model.notifications
         }
 
         AboutSettingsSection {
             width: parent.width
-            model: root.model.about
+            version: root.model.version
+            helper: root.model.helper
         }
     }
 }

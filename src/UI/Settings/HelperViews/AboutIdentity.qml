@@ -1,5 +1,6 @@
 import QtQuick
 import Kestrowind.DesignSystem
+import Kestrowind.Settings
 
 // The application's icon and name.
 Item {
@@ -10,8 +11,8 @@ Item {
 
     implicitHeight: iconSide
     Accessible.role: Accessible.StaticText
-    Accessible.name: name.text
-    Accessible.description: caption.text
+    Accessible.name: words.title
+    Accessible.description: words.subtitle
 
     AppIcon {
         x: -root.shadowRoom
@@ -21,34 +22,14 @@ Item {
         side: root.iconSide
     }
 
-    Column {
+    SettingsRowLabel {
+        id: words
+
         x: root.iconSide + Spacing.medium
         anchors.verticalCenter: parent.verticalCenter
         width: root.width - x
-        spacing: Spacing.hair
-
-        Text {
-            id: name
-
-            width: parent.width
-            text: qsTrId("settings.about.applicationName")
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
-            font: Typography.headline
-            color: AppColors.primaryText
-            Accessible.ignored: true
-        }
-
-        Text {
-            id: caption
-
-            width: parent.width
-            text: qsTrId("settings.about.optimisedForCaption")
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            font: Typography.caption
-            color: AppColors.secondaryText
-            Accessible.ignored: true
-        }
+        title: qsTrId("settings.about.applicationName")
+        subtitle: qsTrId("settings.about.optimisedForCaption")
+        font: Typography.headline
     }
 }

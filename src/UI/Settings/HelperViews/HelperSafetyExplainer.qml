@@ -18,27 +18,24 @@ Column {
         Accessible.name: text
     }
 
-    SettingsNotice {
+    Notice {
         width: root.width
+        color: AppColors.secondaryText
         symbolName: "arrow.up.to.line"
-        symbolColor: AppColors.secondaryText
         text: qsTrId("settings.helper.safety.boostOnly")
-        color: AppColors.secondaryText
     }
 
-    SettingsNotice {
+    Notice {
         width: root.width
+        color: AppColors.secondaryText
         symbolName: "arrow.uturn.backward.circle"
-        symbolColor: AppColors.secondaryText
         text: qsTrId("settings.helper.safety.automaticRelease")
-        color: AppColors.secondaryText
     }
 
-    SettingsNotice {
+    Notice {
         width: root.width
-        symbolName: "cpu"
-        symbolColor: AppColors.secondaryText
-        text: qsTrId("settings.helper.safety.macOSProtection")
         color: AppColors.secondaryText
+        symbolName: "cpu"
+        text: qsTrId("settings.helper.safety.macOSProtection")
     }
 }

@@ -6,9 +6,8 @@ import Kestrowind.Settings
 Item {
     id: root
 
-    required property HelperSettings model
-
-    readonly property helperStatusFacts facts: model.status
+    required property helperStatusFacts facts
+    required property HelperOperation operation
 
     implicitHeight: Math.max(frame.height, words.height, buttons.height)
 
@@ -27,42 +26,24 @@ Item {
         }
     }
 
-    Column {
+    SettingsRowLabel {
         id: words
 
         x: frame.width + Spacing.medium
         y: Math.round((root.height - height) / 2)
-        width: root.width - x - Spacing.section - (root.model.isWorking ? spinner.width : buttons.width)
-        spacing: Spacing.hair
+        width: root.width - x - Spacing.section - (root.operation.isWorking ? spinner.width : buttons.width)
+        title: root.facts.title
+        subtitle: root.facts.description
+        font: Typography.weighted(Typography.body, Font.DemiBold)
         Accessible.role: Accessible.StaticText
-        Accessible.name: root.facts.title
-        Accessible.description: root.facts.description
-
-        Text {
-            width: parent.width
-            text: root.facts.title
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            font: Typography.weighted(Typography.body, Font.DemiBold)
-            color: AppColors.primaryText
-            Accessible.ignored: true
-        }
-
-        Text {
-            width: parent.width
-            text: root.facts.description
-            textFormat: Text.PlainText
-            wrapMode: Text.Wrap
-            font: Typography.caption
-            color: AppColors.secondaryText
-            Accessible.ignored: true
-        }
+        Accessible.name: title
+        Accessible.description: subtitle
     }
 
     Spinner {
         id: spinner
 
-        visible: root.model.isWorking
+        visible: root.operation.isWorking
         x: root.width - width
         y: Math.round((root.height - height) / 2)
         diameter: 18
@@ -71,14 +52,24 @@ Item {
         Accessible.name: qsTrId("settings.helper.workingSpinner")
     }
 
-    HelperActionButtons {
+    Row {
         id: buttons
 
-        visible: !root.model.isWorking
+        visible: !root.operation.isWorking
         x: root.width - width
         y: Math.round((root.height - height) / 2)
-        facts: root.facts
-        onInstallRequested: root.model.install()
-        onUninstallRequested: root.model.uninstall()
+        spacing: Spacing.small
+
+        PushButton {
+            text: root.facts.installTitle
+            prominent: root.facts.wantsInstall
+            onClicked: root.operation.install()
+        }
+
+        PushButton {
+            visible: text.length > 0
+            text: root.facts.uninstallTitle
+            onClicked: root.operation.uninstall()
+        }
     }
 }

@@ -19,17 +19,15 @@ Item {
         color: AppColors.secondaryText
     }
 
-    Text {
+    Label {
         id: caption
 
         x: spinner.width + Spacing.small
         y: Math.round((root.height - height) / 2)
         width: root.width - x
         text: root.text
-        textFormat: Text.PlainText
         wrapMode: Text.Wrap
         font: Typography.caption
         color: AppColors.secondaryText
-        Accessible.ignored: true
     }
 }

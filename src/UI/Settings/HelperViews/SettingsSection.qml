@@ -10,37 +10,33 @@ Item {
 
     readonly property real margin: Spacing.small
 
-    implicitHeight: stack.y + stack.height + margin
+    implicitHeight: card.y + card.height + margin
     Accessible.role: Accessible.Grouping
     Accessible.name: title
 
-    Text {
+    Heading {
         id: heading
 
         x: root.margin + Spacing.tight
         y: root.margin
         width: root.width - 2 * x
         text: root.title
-        textFormat: Text.PlainText
-        font: Typography.headline
-        color: AppColors.primaryText
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
     }
 
-    CardBackground {
-        x: stack.x
-        y: stack.y
-        width: stack.width
-        height: stack.height
-        cornerRadius: Radius.banner
-    }
-
-    Column {
-        id: stack
+    Card {
+        id: card
 
         x: root.margin
         y: heading.y + heading.height + Spacing.small
         width: root.width - 2 * root.margin
+        height: implicitHeight
+        padding: 0
+        cornerRadius: Radius.banner
+
+        Column {
+            id: stack
+
+            width: parent.width
+        }
     }
 }

@@ -12,25 +12,18 @@ SettingsRow {
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + value
 
-    Text {
+    Label {
         id: name
 
         text: root.label
-        textFormat: Text.PlainText
-        font: Typography.body
-        color: AppColors.primaryText
-        Accessible.ignored: true
     }
 
-    Text {
+    Label {
         x: name.width + Spacing.regular
         width: parent.width - x
         horizontalAlignment: Text.AlignRight
         text: root.value
-        textFormat: Text.PlainText
         wrapMode: Text.Wrap
-        font: Typography.body
         color: AppColors.secondaryText
-        Accessible.ignored: true
     }
 }

@@ -1,10 +1,12 @@
 import QtQuick
 import Kestrowind.Settings
 
+// The versions of the application and of the helper that answers it.
 SettingsSection {
     id: root
 
-    required property AboutSettings model
+    required property string version
+    required property HelperSettings helper
 
     title: qsTrId("settings.about.sectionTitle")
 
@@ -14,12 +16,12 @@ SettingsSection {
 
     SettingsValueRow {
         label: qsTrId("settings.about.versionLabel")
-        value: root.model.version
+        value: root.version
     }
 
     SettingsValueRow {
-        visible: root.model.hasHelperVersion
+        visible: root.helper.hasStatus
         label: qsTrId("settings.about.helperVersionLabel")
-        value: root.model.helperVersion
+        value: root.helper.version
     }
 }

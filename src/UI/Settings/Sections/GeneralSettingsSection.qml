@@ -6,7 +6,6 @@ SettingsSection {
     id: root
 
     required property GeneralSettings model
-    required property NotificationSettings notifications
 
     title: qsTrId("settings.general.sectionTitle")
 
@@ -17,44 +16,20 @@ SettingsSection {
         onFlipped: on => root.model.setLaunchesAtLogin(on)
     }
 
-    SettingsRow {
-        visible: root.model.launchAtLoginError.length > 0
+    SettingsNoticeRow {
+        color: AppColors.danger
+        text: root.model.launchAtLoginError
+    }
 
-        SettingsNotice {
-            width: parent.width
-            symbolName: "exclamationmark.circle.fill"
-            symbolColor: AppColors.danger
-            color: AppColors.danger
-            text: root.model.launchAtLoginError
-            Accessible.role: Accessible.AlertMessage
+    Repeater {
+        model: root.model.switches
+        delegate: SettingsToggleRow {
+            required property SettingSwitch modelData
+
+            title: modelData.title
+            subtitle: modelData.subtitle
+            isOn: modelData.isOn
+            onFlipped: on => modelData.isOn = on
         }
-    }
-
-    SettingsToggleRow {
-        title: qsTrId("settings.general.hideDockIcon.title")
-        subtitle: qsTrId("settings.general.hideDockIcon.subtitle")
-        isOn: root.model.hidesDockIcon
-        onFlipped: on => root.model.setHidesDockIcon(on)
-    }
-
-    SettingsToggleRow {
-        title: qsTrId("settings.notifications.overheating.title")
-        subtitle: qsTrId("settings.notifications.overheating.subtitle")
-        isOn: root.notifications.overheating
-        onFlipped: on => root.notifications.setOverheating(on)
-    }
-
-    SettingsToggleRow {
-        title: qsTrId("settings.notifications.standingFan.title")
-        subtitle: qsTrId("settings.notifications.standingFan.subtitle")
-        isOn: root.notifications.standingFan
-        onFlipped: on => root.notifications.setStandingFan(on)
-    }
-
-    SettingsToggleRow {
-        title: qsTrId("settings.notifications.helperFailure.title")
-        subtitle: qsTrId("settings.notifications.helperFailure.subtitle")
-        isOn: root.notifications.helperFailure
-        onFlipped: on => root.notifications.setHelperFailure(on)
     }
 }

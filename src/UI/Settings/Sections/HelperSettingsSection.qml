@@ -10,35 +10,25 @@ SettingsSection {
 
     title: qsTrId("settings.helper.sectionTitle")
 
-    SettingsRow {
+    SettingsNoticeRow {
         visible: root.model.isOutdated
-
-        SettingsNotice {
-            width: parent.width
-            symbolName: "arrow.triangle.2.circlepath"
-            symbolColor: AppColors.warning
-            text: qsTrId("settings.helper.outdatedNotice")
-            Accessible.role: Accessible.AlertMessage
-        }
+        symbolName: "arrow.triangle.2.circlepath"
+        symbolColor: AppColors.warning
+        text: qsTrId("settings.helper.outdatedNotice")
     }
 
     SettingsRow {
         HelperStatusRow {
             width: parent.width
-            model: root.model
+            facts: root.model.status
+            operation: root.model.operation
         }
     }
 
-    SettingsRow {
+    SettingsNoticeRow {
         visible: root.model.hasFailure
-
-        SettingsNotice {
-            width: parent.width
-            symbolName: "exclamationmark.circle.fill"
-            symbolColor: AppColors.warning
-            text: root.model.failure
-            Accessible.role: Accessible.AlertMessage
-        }
+        symbolColor: AppColors.warning
+        text: root.model.failure
     }
 
     SettingsRow {
@@ -50,17 +40,9 @@ SettingsSection {
         }
     }
 
-    SettingsRow {
-        visible: root.model.errorMessage.length > 0
-
-        SettingsNotice {
-            width: parent.width
-            symbolName: "exclamationmark.circle.fill"
-            symbolColor: AppColors.danger
-            color: AppColors.danger
-            text: root.model.errorMessage
-            Accessible.role: Accessible.AlertMessage
-        }
+    SettingsNoticeRow {
+        color: AppColors.danger
+        text: root.model.operation.errorMessage
     }
 
     SettingsRow {

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Platform/LoginItem.h"
+
+namespace kestrowind {
+
+class FakeLoginItem final : public LoginItem {
+public:
+    bool enabled = false;
+    QString failure; ///< of every change, unless empty
+
+    bool isEnabled() const override { return enabled; }
+    std::expected<void, QString> registerApplication() override { return change(true); }
+    std::expected<void, QString> unregisterApplication() override { return change(false); }
+
+private:
+    std::expected<void, QString> change(bool wanted) {
+        if (!failure.isEmpty())
+            return std::unexpected(failure);
+        enabled = wanted;
+        return {};
+    }
+};
+
+} // namespace kestrowind
