@@ -201,26 +201,6 @@ TEST_F(FaultTest, EveryCallToTheSMCMayFailFromTheStartOrLater) {
     }
 }
 
-TEST_F(FaultTest, FansThatVanishAreTakenAgainWhenTheyComeBack) {
-    using Fault = SimulatedSMC::Fault;
-    RunningState mac;
-    mac.start();
-    for (const char* key : {"FNum", "F0Ac", "F1Mx"}) {
-        ASSERT_TRUE(mac.regainsControl()) << key;
-        mac.smc->setFault(key, Fault::missing);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !mac.state->engine().isOverriding(); }, limit));
-        EXPECT_TRUE(mac.state->engine().requestedPercents().isEmpty());
-        mac.smc->setFault(key, std::nullopt);
-    }
-    ASSERT_TRUE(mac.regainsControl());
-    // A fan less is a list of targets less, and the other way round.
-    mac.smc->setByte("FNum", 1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return mac.helper.targets.size() == 1; }, limit));
-    mac.smc->setByte("FNum", 2);
-    EXPECT_TRUE(mac.regainsControl());
-    mac.quit();
-}
-
 TEST_F(FaultTest, AHelperMayFailAtEachStepOfAPushAndOfQuitting) {
     const QSet appliesNothing{Answer::silent,      Answer::late,  Answer::broken,
                               Answer::invalidated, Answer::empty, Answer::nonsense};
@@ -254,20 +234,6 @@ TEST_F(FaultTest, AHelperMayFailAtEachStepOfAPushAndOfQuitting) {
             });
         }
     }
-}
-
-TEST_F(FaultTest, AHelperThatDiesAgainAndAgainIsFoundAgain) {
-    RunningState mac;
-    mac.start();
-    for (int round = 0; round < 20; ++round) {
-        ASSERT_TRUE(mac.regainsControl()) << round;
-        mac.takesSamples(round % 3);
-        mac.helper.restart();
-        EXPECT_FALSE(mac.helper.isHolding);
-    }
-    EXPECT_TRUE(mac.regainsControl());
-    EXPECT_EQ(mac.helper.connectionsMade, 1) << "an interrupted connection is kept";
-    mac.quit();
 }
 
 } // namespace

@@ -188,31 +188,5 @@ TEST_F(PresetDurabilityTest, HasTheOldOrTheNewPresetsWhicheverCallFails) {
 }
 #endif
 
-TEST_F(PresetDurabilityTest, KeepsEveryDamagedFile) {
-    ASSERT_TRUE(makeStore().addPreset(QString(3000, u'x')));
-    before = content();
-    ASSERT_GE(before.size(), 4096);
-    const auto check = [&](const QByteArray& damaged, bool alsoSave) {
-        restore();
-        home.write(file, damaged);
-        auto store = makeStore();
-        const auto decoded = decodePresets(damaged);
-        ASSERT_EQ(content(), damaged) << "loading must not touch it";
-        ASSERT_EQ(store.presets().size(), 2 + (decoded ? decoded->size() : 0));
-        if (!alsoSave || decoded)
-            return;
-        ASSERT_TRUE(store.addPreset(u"New"_s));
-        ASSERT_EQ(home.content(file + u".unreadable"_s), damaged);
-    };
-    // A store is made of some damaged files, and saves over fewer.
-    for (qsizetype length = 0; length < before.size(); length += 32)
-        ASSERT_NO_FATAL_FAILURE(check(before.left(length), length % 256 == 0)) << length;
-    for (qsizetype bit = 0; bit < 8 * before.size(); bit += 61) {
-        QByteArray damaged = before;
-        damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << (bit % 8)));
-        ASSERT_NO_FATAL_FAILURE(check(damaged, bit % 2013 == 0)) << "bit " << bit;
-    }
-}
-
 } // namespace
 } // namespace kestrowind

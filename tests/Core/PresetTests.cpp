@@ -1,5 +1,6 @@
 #include "Core/CanonicalUuid.h"
 #include "Core/LocalizedText.h"
+#include "Core/PresetCaption.h"
 #include "Core/PresetCoding.h"
 #include "Core/PresetFile.h"
 #include "Core/PresetStore.h"
@@ -111,6 +112,21 @@ TEST(FanPreset, BuiltInsAreTheSameAtEveryStart) {
     EXPECT_EQ(presets[1].percents(20, 2), QList<double>({100, 100}));
 }
 
+TEST(PresetCaption, DescribesAutomaticBuiltInsAndTheUsersOwn) {
+    const auto builtIns = FanPreset::builtIns(1);
+    FanPreset another = builtIns.first();
+    another.id = custom.id;
+    const std::pair<std::optional<FanPreset>, const char*> rows[] = {
+        {std::nullopt, "presets.card.automaticCaption"},
+        {custom, "presets.card.customCurveCaption"},
+        {builtIns.first(), "presets.card.coolCaption"},
+        {builtIns.last(), "presets.card.fullSpeedCaption"},
+        {another, "presets.card.builtInCurveCaption"},
+    };
+    for (const auto& [preset, key] : rows)
+        EXPECT_EQ(PresetCaption::text(preset), localized(key));
+}
+
 TEST(FanPreset, ExtraFansFollowTheLastCurve) {
     FanPreset preset;
     EXPECT_EQ(preset.percents(60, 2), QList<double>({0, 0}));
@@ -145,6 +161,7 @@ TEST(PresetCoding, FailsAsAWhole) {
         {"\"tempC\": 55.0", "\"tempC\": true"},
         {"\"tempC\": 55.0", "\"tempC\": 55.0, \"tempC\": 56.0"},
         {"\"isBuiltIn\": false", "\"isBuiltIn\": 0"},
+        {": \"fanblades\"", ": \"fanblades\", \"x\": [1, -1, null], \"curves\": []"},
         {"\"0F0E0D0C-", "\"{0F0E0D0C-"},
         {"\"0F0E0D0C-0B0A", "\"0F0E0D0C0B0A"},
         {"laut", "la\xFFut"},
@@ -228,6 +245,7 @@ TEST(PresetFile, TakesWhatItGaveAndNothingThatNoEditorMakes) {
     const auto large = [](qsizetype curves, qsizetype points, qsizetype text) {
         FanPreset preset = madeBy(QString(text, u'x'), QList<FanCurvePoint>(points, {50, 50}));
         preset.curves = QList<FanCurve>(curves, preset.curves.front());
+        preset.symbolName = preset.name;
         return preset;
     };
     FanPreset longSymbol = good;

@@ -68,6 +68,8 @@ TEST(SMCDiagnostics, ReportsAWholeMachine) {
              "    -> NO GPU SENSORS.",
          })
         EXPECT_THAT(report, HasSubstr(part));
+    EXPECT_THAT(report, Not(HasSubstr("fan 1:")));
+    EXPECT_THAT(report, Not(HasSubstr("no recognised")));
     EXPECT_THAT(report, EndsWith("\n\nEnd of dump.\n"));
 }
 
@@ -86,6 +88,8 @@ TEST(SMCDiagnostics, TurnsEveryFailureIntoWords) {
                 HasSubstr("#KEY           : UNREADABLE — cannot enumerate keys\n\n-- sensor"));
     EXPECT_THAT(report, HasSubstr("       recover. This is the expensive case.\n    -> NO GPU"));
 
+    EXPECT_THAT(dump(std::make_shared<SimulatedSMC>()),
+                HasSubstr("Tg*: 0\n    first few: \n    -> no recognised die sensors"));
     smc->setServices(SimulatedSMC::Services::none);
     EXPECT_EQ(dump(smc), header +
                              "FATAL: could not open the SMC: AppleSMC service not found\n"
@@ -104,6 +108,13 @@ TEST(SMCDiagnostics, JudgesByTheSensorsThatTheReadingsAreFrom) {
     });
     EXPECT_THAT(report, HasSubstr("cpu avg 45.5"));
     EXPECT_THAT(report, Not(HasSubstr("NO CPU")));
+    EXPECT_THAT(report, Not(HasSubstr("both groups")));
+    for (char digit = '0'; digit <= '9'; ++digit)
+        smc->setFloat(std::string("Tg0") + digit, 40);
+    EXPECT_THAT(dump(smc), HasSubstr("both groups filled; no repeated re-enumeration.\n\nEnd"));
+    smc->setFloat("Tp02", 45);
+    smc->setFloat("Tp03", 45);
+    EXPECT_THAT(dump(smc), HasSubstr("Tg09, Tp02\n")) << "the first twelve of thirteen";
 }
 
 TEST(SMCDiagnostics, WritesNumbersInFullAndNoDigitTooMany) {

@@ -9,6 +9,11 @@ ScenePalette {
         return temperatureColorFor(celsius, isDark)
     }
 
+    // For marks that carry white text in both schemes.
+    function temperatureLabelColor(celsius: real): color {
+        return temperatureColorFor(celsius, false)
+    }
+
     function toneColor(tone: int): color {
         switch (tone) {
         case MessageTone.Accent:
@@ -20,10 +25,5 @@ ScenePalette {
         default:
             return secondaryText
         }
-    }
-
-    // For marks that carry white text in both schemes.
-    function temperatureLabelColor(celsius: real): color {
-        return temperatureColorFor(celsius, false)
     }
 }
