@@ -5,6 +5,7 @@
 #include "Simulator/Services/ListeningSocket.h"
 
 #include <QElapsedTimer>
+#include <QSocketNotifier>
 #include <QTimer>
 
 #include <expected>
