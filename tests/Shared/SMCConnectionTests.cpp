@@ -1,7 +1,25 @@
+#include "Shared/SMCKit/FourCC.h"
 #include "Shared/SMCMachine.h"
 
 namespace kestrowind {
 namespace {
+
+using namespace std::string_literals;
+
+TEST(FourCC, PacksAnyNameAndUnpacksToFourCharactersOrQuestionMarks) {
+    const std::pair<std::string_view, std::uint32_t> packed[] = {
+        {"FNum", 0x464E756D}, {"flt ", 0x666C7420},  {"", 0},
+        {"ui8", 0x756938},    {"F10Ac", 0x31304163}, {"\xC3\xA9", 0xC3A9}};
+    for (const auto& [name, code] : packed)
+        EXPECT_EQ(smcFourCC(name), code) << name;
+    const std::pair<std::uint32_t, std::string> unpacked[] = {{0x464E756D, "FNum"},
+                                                              {0, "\0\0\0\0"s},
+                                                              {0x7F00417F, "\x7F\0A\x7F"s},
+                                                              {0xFF000000, "????"},
+                                                              {0x41414180, "????"}};
+    for (const auto& [code, name] : unpacked)
+        EXPECT_EQ(smcFourCCString(code), name) << std::hex << code;
+}
 
 TEST(SMCConnection, OpensEitherServiceAndClosesItWhenDestroyed) {
     const auto smc = std::make_shared<SimulatedSMC>();
@@ -76,8 +94,10 @@ TEST(SMCConnection, RefusesValuesOfAnotherTypeOrLengthEitherWay) {
     mac.smc->setWriteRule("byte", [](auto) { return std::uint8_t{130}; });
     EXPECT_EQ(failure(smc.writeUInt8("byte", 1)), "SMC key byte error (result 130)");
     EXPECT_EQ(smc.readUInt8("byte"), 7);
-    EXPECT_EQ(failure(smc.writeFloat("F0Tg", 2400.5F)), "");
-    EXPECT_EQ(smc.readFloat("F0Tg"), 2400.5F);
+    EXPECT_EQ(failure(smc.writeFloat("F0Tg", 50)), "");
+    EXPECT_EQ(smc.readFloat("F0Tg"), 50.0F);
+    const auto bytes = smc.readBytes("F0Tg")->bytes();
+    EXPECT_THAT(bytes, testing::ElementsAre(0, 0, 0x48, 0x42)) << "the lowest one first";
 }
 
 } // namespace

@@ -66,6 +66,7 @@ public:
         m_process.start(QStringLiteral(KESTROWIND_SIMULATOR),
                         QStringList{u"--root"_s, m_folder.path() + u'/'} + options);
         m_isUp = waitUntil([this] { return control("status").status == 0; });
+        EXPECT_TRUE(m_isUp) << "the machine does not boot";
     }
     ~BootedMac() {
         m_process.terminate();
@@ -88,6 +89,9 @@ public:
     }
     [[nodiscard]] nlohmann::json status() const {
         return nlohmann::json::parse(control("status").output);
+    }
+    [[nodiscard]] SMCResult<std::unique_ptr<SMCConnection>> openSMC() const {
+        return SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(root())));
     }
 
 private:
@@ -139,7 +143,6 @@ private:
 class HeldFan : public testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(mac.isUp());
         const auto reply = holder.call(u"SetTargets"_s, {QVariant::fromValue(QList<double>{2500})});
         ASSERT_EQ(reply.type(), QDBusMessage::ReplyMessage) << reply.errorMessage().toStdString();
         ASSERT_EQ(smc->readUInt8("F0md"), 1);
@@ -147,8 +150,7 @@ protected:
 
     const BootedMac mac{{u"--installed"_s, u"--profile"_s, u"desktop-1fan"_s}};
     HelperCaller holder{mac, u"holder"_s};
-    std::unique_ptr<SMCConnection> smc =
-        SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root()))).value();
+    std::unique_ptr<SMCConnection> smc = mac.openSMC().value();
 };
 
 } // namespace kestrowind

@@ -1,7 +1,5 @@
 #include "Simulator/BootedMac.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 
 #include <csignal>
@@ -17,10 +15,9 @@ using testing::HasSubstr;
 
 TEST(BootedMac, RunsACommandInsideAndEndsLikeIt) {
     Outcome outcome = runSimulator(
-        {u"--"_s, u"sh"_s, u"-c"_s, u"cat $KESTROWIND_SIMULATED_MAC/run/system.json"_s});
-    EXPECT_EQ(outcome.status, 0);
+        {u"--"_s, u"sh"_s, u"-c"_s, u"cat $KESTROWIND_SIMULATED_MAC/run/system.json; exit 7"_s});
+    EXPECT_EQ(outcome.status, 7);
     EXPECT_THAT(outcome.output, HasSubstr("hw.model"));
-    EXPECT_EQ(runSimulator({u"--"_s, u"sh"_s, u"-c"_s, u"exit 7"_s}).status, 7);
     EXPECT_EQ(runSimulator({u"--"_s, u"sh"_s, u"-c"_s, u"kill -9 $$"_s}).status, 128 + SIGKILL);
     outcome = runSimulator({u"--"_s, u"no-such-program"_s});
     EXPECT_EQ(outcome.status, 127);
@@ -29,7 +26,6 @@ TEST(BootedMac, RunsACommandInsideAndEndsLikeIt) {
 
 TEST(BootedMac, SaysWhyItCannotBoot) {
     const BootedMac other({});
-    ASSERT_TRUE(other.isUp());
     const auto otherRoot = QString::fromStdString(other.root().string());
     const QTemporaryDir folders;
     const auto folder = [&folders](const QString& name, mode_t mode) {
@@ -39,33 +35,26 @@ TEST(BootedMac, SaysWhyItCannotBoot) {
         return path;
     };
     constexpr mode_t open = 0777;
-    QDir().mkpath(folders.filePath(u"planted/run"_s));
-    // Only the superuser has files of others.
-    const bool canGiveAway = ::getuid() == 0;
-    if (canGiveAway)
-        ::lchown(qPrintable(folders.filePath(u"planted/run"_s)), 1, 1);
+    // Only the superuser can give it away.
+    const bool isGivenAway = ::lchown(qPrintable(folder(u"planted/run"_s, open)), 1, 1) == 0;
     QDir().mkpath(folders.filePath(u"linked/run"_s));
     QFile::link(u"/dev/null"_s, folders.filePath(u"linked/run/system.json"_s));
-    struct Case {
-        QStringList arguments;
-        const char* message;
+    const std::pair<QStringList, const char*> rows[] = {
+        {{u"--bogus"_s}, "Unknown option 'bogus'"},
+        {{u"--profile"_s, u"nothing"_s}, "profile nothing: neither a file nor one of"},
+        {{u"--load"_s, u"nan%"_s}, "\"nan%\" is no load"},
+        {{u"--root"_s, u"/proc/none"_s}, "cannot create /proc/none"},
+        {{u"--root"_s, u"/tmp/"_s + QString(90, u'x')}, "too long for a socket"},
+        {{u"--root"_s, folders.filePath(u"a:b"_s)}, "a colon, which"},
+        {{u"--root"_s, folder(u"open"_s, open)}, "open is writable by other users"},
+        {{u"--root"_s, folder(u"open/above"_s, S_IRWXU)}, "open is writable by other"},
+        {{u"--root"_s, folders.filePath(u"planted"_s)},
+         isGivenAway ? "run belongs to another user" : "run is writable by other users"},
+        {{u"--root"_s, folders.filePath(u"linked"_s)}, "system.json is a link"},
+        {{u"--root"_s, folders.path()}, "holds other files than a machine's"},
+        {{u"--root"_s, otherRoot + u"/run/../"_s}, "a machine is already running in"},
     };
-    for (const auto& [arguments, message] : {
-             Case{{u"--bogus"_s}, "Unknown option 'bogus'"},
-             Case{{u"--profile"_s, u"nothing"_s}, "profile nothing: neither a file nor one of"},
-             Case{{u"--load"_s, u"nan%"_s}, "\"nan%\" is no load"},
-             Case{{u"--root"_s, u"/proc/none"_s}, "cannot create /proc/none"},
-             Case{{u"--root"_s, u"/tmp/"_s + QString(90, u'x')}, "too long for a socket"},
-             Case{{u"--root"_s, folders.filePath(u"a:b"_s)}, "a colon, which"},
-             Case{{u"--root"_s, folder(u"open"_s, open)}, "open is writable by other users"},
-             Case{{u"--root"_s, folder(u"open/above"_s, S_IRWXU)}, "open is writable by other"},
-             Case{{u"--root"_s, folders.filePath(u"planted"_s)}, "run belongs to another user"},
-             Case{{u"--root"_s, folders.filePath(u"linked"_s)}, "system.json is a link"},
-             Case{{u"--root"_s, folders.path()}, "holds other files than a machine's"},
-             Case{{u"--root"_s, otherRoot + u"/run/../"_s}, "a machine is already running in"},
-         }) {
-        if (std::string_view(message).contains("belongs") && !canGiveAway)
-            continue;
+    for (const auto& [arguments, message] : rows) {
         const Outcome outcome = runSimulator(arguments + QStringList{u"--"_s, u"true"_s});
         EXPECT_EQ(outcome.status, 2) << message;
         EXPECT_THAT(outcome.errors, HasSubstr(message));
@@ -74,7 +63,6 @@ TEST(BootedMac, SaysWhyItCannotBoot) {
 
 TEST(BootedMac, TakesItsHelperWithItWhenItIsKilledAndLeavesARootThatCanBeTakenOver) {
     BootedMac mac({u"--installed"_s});
-    ASSERT_TRUE(mac.isUp());
     HelperCaller caller(mac, u"survivor"_s);
     ASSERT_EQ(caller.status().at("phase"), "idle");
     mac.process().kill();
@@ -87,7 +75,6 @@ TEST(BootedMac, TakesItsHelperWithItWhenItIsKilledAndLeavesARootThatCanBeTakenOv
 TEST(BootedMac, PassesSignalsOnAndShutsDownInGoodOrder) {
     BootedMac mac({u"--installed"_s, u"--"_s, u"sh"_s, u"-c"_s,
                    u"trap 'exit 9' TERM; while :; do sleep 0.01; done"_s});
-    ASSERT_TRUE(mac.isUp());
     HelperCaller caller(mac, u"bystander"_s);
     ASSERT_EQ(caller.status().at("phase"), "idle");
     const auto helper = mac.status().at("helper").at("pid").get<pid_t>();
@@ -99,35 +86,16 @@ TEST(BootedMac, PassesSignalsOnAndShutsDownInGoodOrder) {
     EXPECT_FALSE(std::filesystem::exists(SimulatedMac::controlSocket(mac.root())));
 }
 
-TEST_F(HeldFan, IsTheSystemsAgainAsSoonAsItsHolderIsGone) {
-    {
-        HelperCaller visitor(mac, u"visitor"_s);
-        EXPECT_EQ(visitor.status().at("phase"), "controlling");
-    }
-    EXPECT_EQ(holder.status().at("phase"), "controlling") << "a visitor's end changes nothing";
-    EXPECT_EQ(smc->readUInt8("F0md"), 1);
-
-    holder.hangUp();
-    QElapsedTimer sinceHangUp;
-    sinceHangUp.start();
-    EXPECT_TRUE(waitUntil([this] { return smc->readUInt8("F0md") == 0; }));
-    EXPECT_LT(sinceHangUp.elapsed(), 500) << "far before the heartbeat time is over";
-}
-
 TEST_F(HeldFan, IsHandedBackByTheHelperThatFollowsAKilledOne) {
-    EXPECT_EQ(mac.status().at("helper").at("starts"), 1);
     ASSERT_EQ(mac.control("helper kill").status, 0);
     EXPECT_EQ(holder.call(u"Status"_s).type(), QDBusMessage::ErrorMessage);
     holder.hangUp();
     EXPECT_TRUE(waitUntil([this] { return smc->readUInt8("F0md") == 0; }))
         << "though nobody asks for the helper any more";
-    EXPECT_EQ(mac.status().at("helper").at("starts"), 2);
-    EXPECT_EQ(mac.status().at("helper").at("lastExit"), "killed by signal 9");
 
     HelperCaller second(mac, u"second"_s);
     EXPECT_EQ(second.call(u"ShutDown"_s).type(), QDBusMessage::ReplyMessage);
     EXPECT_TRUE(waitUntil([this] { return mac.status().at("helper").at("pid").is_null(); }));
-    EXPECT_EQ(mac.status().at("helper").at("lastExit"), "exited with status 0");
     HelperCaller third(mac, u"third"_s);
     EXPECT_EQ(third.status().at("phase"), "idle") << "it ended well, and comes back when asked for";
 }
@@ -154,24 +122,21 @@ TEST_F(HeldFan, IsLostToAHelperThatIsNoProgramWhoseCallersAreHungUpOn) {
 }
 
 TEST_F(HeldFan, IsNotMovedByCallsThatMakeNoSense) {
-    struct Case {
-        QString method;
-        QVariantList arguments;
-        std::string error;
+    const std::tuple<QString, QVariantList, QString> rows[] = {
+        {u"SetTargets"_s, {QVariant::fromValue(QList<double>{2000, 2000})}, u"InvalidArgs"_s},
+        {u"SetTargets"_s, {u"fast"_s}, u"InvalidArgs"_s},
+        {u"SetTargets"_s, {}, u"InvalidArgs"_s},
+        {u"Status"_s, {true}, u"InvalidArgs"_s},
+        {u"Explode"_s, {}, u"UnknownMethod"_s},
     };
-    const std::string invalid = "org.freedesktop.DBus.Error.InvalidArgs";
-    for (const auto& [method, arguments, error] :
-         {Case{u"SetTargets"_s, {QVariant::fromValue(QList<double>{2000, 2000})}, invalid},
-          Case{u"SetTargets"_s, {u"fast"_s}, invalid}, Case{u"SetTargets"_s, {}, invalid},
-          Case{u"Status"_s, {true}, invalid},
-          Case{u"Explode"_s, {}, "org.freedesktop.DBus.Error.UnknownMethod"}})
-        EXPECT_EQ(holder.call(method, arguments).errorName().toStdString(), error);
+    for (const auto& [method, arguments, error] : rows)
+        EXPECT_EQ(holder.call(method, arguments).errorName(),
+                  u"org.freedesktop.DBus.Error."_s + error);
     EXPECT_EQ(smc->readFloat("F0Tg"), 2500.0F);
 }
 
 TEST(BootedMac, HasAHelperThatMisbehavesOnCommandAndIsUninstalled) {
     const BootedMac mac({u"--installed"_s});
-    ASSERT_TRUE(mac.isUp());
     HelperCaller caller(mac, u"caller"_s);
     ASSERT_EQ(mac.control("helper version 9.9").status, 0);
     EXPECT_EQ(caller.status().at("version"), "9.9");
@@ -191,11 +156,7 @@ TEST(BootedMac, HasAHelperThatMisbehavesOnCommandAndIsUninstalled) {
 
 TEST(Control, BreaksAndMendsTheMachineWhileItRuns) {
     const BootedMac mac({});
-    ASSERT_TRUE(mac.isUp());
-    const auto open = [&mac] {
-        return SMCConnection::open(std::make_shared<SMCLink>(SimulatedMac::smcSocket(mac.root())));
-    };
-    const auto smc = open().value();
+    const auto smc = mac.openSMC().value();
     const std::pair<const char*, const char*> rows[] = {
         {"key F0Ac fail", "SMC key F0Ac error (result 133)"},
         {"key F0Ac timeout", "SMC call failed (0xe00002d6)"},
@@ -204,7 +165,7 @@ TEST(Control, BreaksAndMendsTheMachineWhileItRuns) {
     };
     for (const auto& [command, error] : rows) {
         EXPECT_EQ(mac.control(command).status, 0);
-        const auto fresh = open().value();
+        const auto fresh = mac.openSMC().value();
         const auto read = fresh->readFloat("F0Ac");
         EXPECT_EQ(read ? "" : description(read.error()), error);
         EXPECT_EQ(mac.control("key F0Ac ok").status, 0);
@@ -216,20 +177,17 @@ TEST(Control, BreaksAndMendsTheMachineWhileItRuns) {
     EXPECT_TRUE(waitUntil([&smc] { return smc->readFloat("Tp05").value() > 45; }));
     EXPECT_EQ(smc->readFloat("Tp01"), 50.0F) << "held against the hardware";
     EXPECT_EQ(mac.control("service none").status, 0);
-    EXPECT_EQ(description(open().error()), "AppleSMC service not found");
+    EXPECT_EQ(description(mac.openSMC().error()), "AppleSMC service not found");
     EXPECT_EQ(mac.control("service second").status, 0);
     EXPECT_EQ(mac.control("open-result 0xe00002c5").status, 0);
-    EXPECT_EQ(description(open().error()), "IOServiceOpen failed (0xe00002c5)");
+    EXPECT_EQ(description(mac.openSMC().error()), "IOServiceOpen failed (0xe00002c5)");
 }
 
 TEST(Control, SaysWhatIsWrongWithACommand) {
     const BootedMac mac({});
-    ASSERT_TRUE(mac.isUp());
     const std::pair<const char*, const char*> rows[] = {
-        {"", "unknown command"},
         {"explode", "unknown command: explode"},
         {"service third", "unknown command: service third\n  service both|second|none"},
-        {"status now", "unknown command: status now\n  status"},
         {"key Tp0 fail", "is no key name"},
         {"key Zz99 fail", "the machine has no key Zz99"},
         {"key Tp01 value 4", "not pairs of hexadecimal digits"},
@@ -249,9 +207,3 @@ TEST(Control, SaysWhatIsWrongWithACommand) {
 
 } // namespace
 } // namespace kestrowind
-
-int main(int argc, char* argv[]) {
-    testing::InitGoogleMock(&argc, argv);
-    const QCoreApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

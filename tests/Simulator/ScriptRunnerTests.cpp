@@ -14,15 +14,6 @@ using namespace Qt::StringLiterals;
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-/// Every character that a file name can be written with on a keyboard, the line feed, and some that
-/// take more than one byte.
-QString everyCharacter() {
-    QString text = u"ä€𝄞\n\t"_s;
-    for (char16_t character = u' '; character <= u'~'; ++character)
-        text += QChar(character);
-    return text;
-}
-
 TEST(AdministratorSentence, IsTheOnlyScriptThatIsUnderstood) {
     EXPECT_EQ(parseAdministratorSentence(
                   R"(do shell script "a\\\"\n\r\tb" with administrator privileges)"),
@@ -42,10 +33,6 @@ TEST(MacCommand, ReachesOnlyIntoTheMachinesLibrary) {
     };
     EXPECT_EQ(here("mkdir", {"-p", "/Library/A b"}),
               (Words{"mkdir", "-p", "--", "/mac/Library/A b"}));
-    EXPECT_EQ(here("cp", {"/home/x", "/Library/x"}),
-              (Words{"cp", "--", "/home/x", "/mac/Library/x"}));
-    EXPECT_EQ(here("chmod", {"755", "/Library/x"}),
-              (Words{"chmod", "--", "755", "/mac/Library/x"}));
     for (const auto& [name, arguments] : std::initializer_list<std::pair<std::string, Words>>{
              {"rm", {"-rf", "/Library/x"}},
              {"rm", {"-f", "/home/x"}},
@@ -62,8 +49,6 @@ TEST(MacCommand, ReachesOnlyIntoTheMachinesLibrary) {
 /// The script runner of a running machine, and what the application hands to it.
 class ScriptRunnerTest : public testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(mac.isUp()); }
-
     Outcome runAppleScript(const QString& script) const {
         const auto runner = SimulatedMac::systemPath(mac.root(), MacCommand::scriptRunnerPath);
         qputenv(SimulatedMac::rootVariable, mac.root().c_str());
@@ -76,15 +61,7 @@ protected:
     }
 
     const BootedMac mac{{}};
-    const fs::path program =
-        SimulatedMac::systemPath(mac.root(), HelperConstants::helperInstallPath);
-    const fs::path job = SimulatedMac::systemPath(mac.root(), HelperConstants::daemonPlistPath);
 };
-
-std::string content(const fs::path& path) {
-    QFile file(QString::fromStdString(path.string()));
-    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(missing)";
-}
 
 TEST_F(ScriptRunnerTest, SaysHowAScriptFailedAsTheRealOneDoes) {
     const auto errors = [this](const QString& text) {
@@ -103,40 +80,37 @@ TEST_F(ScriptRunnerTest, SaysHowAScriptFailedAsTheRealOneDoes) {
 }
 
 TEST_F(ScriptRunnerTest, InstallsReinstallsAndRemovesTheHelper) {
-    // From a folder whose name has it all.
-    const QTemporaryDir bundle;
-    QString name = everyCharacter();
+    // From a folder whose name has every character of a keyboard but the slash, the line feed, and
+    // some that take more than one byte.
+    QString name = u"ä€𝄞\n\t"_s;
+    for (char16_t character = u' '; character <= u'~'; ++character)
+        name += QChar(character);
     name.remove(u'/');
-    ASSERT_TRUE(QDir(bundle.path()).mkpath(name));
+    const QTemporaryDir bundle;
     const QString folder = bundle.path() + u'/' + name + u'/';
-    const QString resources = QStringLiteral(KESTROWIND_BUNDLE_RESOURCES) + u'/';
-    for (const QString& file :
-         {HelperInstallation::executableResource(), HelperInstallation::jobDescriptionResource()})
-        ASSERT_TRUE(QFile::copy(resources + file, folder + file)) << file.toStdString();
-    const QString install =
-        HelperInstallation::installScript(folder + HelperInstallation::executableResource(),
-                                          folder + HelperInstallation::jobDescriptionResource());
+    ASSERT_TRUE(QDir().mkpath(folder));
+    QStringList files{HelperInstallation::executableResource(),
+                      HelperInstallation::jobDescriptionResource()};
+    for (QString& file : files) {
+        const QString resource = QStringLiteral(KESTROWIND_BUNDLE_RESOURCES) + u'/' + file;
+        file.prepend(folder);
+        ASSERT_TRUE(QFile::copy(resource, file)) << file.toStdString();
+    }
+    const QString install = HelperInstallation::installScript(files[0], files[1]);
+    const fs::path program =
+        SimulatedMac::systemPath(mac.root(), HelperConstants::helperInstallPath);
+    const fs::path job = SimulatedMac::systemPath(mac.root(), HelperConstants::daemonPlistPath);
 
     Outcome outcome = runShell(install);
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
-    const auto mode = [](const fs::path& path) { return fs::status(path).permissions(); };
-    EXPECT_EQ(mode(program), fs::perms{0755});
-    EXPECT_EQ(mode(job), fs::perms{0644});
-    EXPECT_EQ(content(job),
-              content((resources + HelperInstallation::jobDescriptionResource()).toStdString()));
-    {
-        HelperCaller caller(mac, u"installed"_s);
-        EXPECT_EQ(caller.status().at("version"), HelperConstants::helperVersion);
-    }
+    EXPECT_EQ(fs::status(program).permissions(), fs::perms{0755});
+    EXPECT_EQ(fs::status(job).permissions(), fs::perms{0644});
+    EXPECT_EQ(HelperCaller(mac, u"installed"_s).status().at("phase"), "idle");
     const auto helper = mac.status()["helper"]["pid"].get<pid_t>();
-    EXPECT_EQ(fs::read_symlink("/proc/" + std::to_string(helper) + "/exe"), program);
 
     EXPECT_EQ(runShell(install).status, 0) << "over a helper that runs";
     EXPECT_NE(::kill(helper, 0), 0) << "which was stopped before";
-    {
-        HelperCaller caller(mac, u"reinstalled"_s);
-        EXPECT_EQ(caller.status().at("phase"), "idle");
-    }
+    EXPECT_EQ(HelperCaller(mac, u"reinstalled"_s).status().at("phase"), "idle");
 
     EXPECT_EQ(runShell(HelperInstallation::removalScript()).status, 0);
     EXPECT_FALSE(fs::exists(program) || fs::exists(job));

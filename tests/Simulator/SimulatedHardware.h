@@ -2,28 +2,18 @@
 
 #include "Shared/SMCKit/SMCConnection.h"
 #include "Simulator/Hardware/MachineHardware.h"
+#include "Simulator/Hardware/ProfileLibrary.h"
 
 #include <gmock/gmock.h>
 
 namespace kestrowind {
 
-/// A notebook without a unit of its own: one sensor a part, 3 seconds to unlock.
+/// A notebook with two fans, the second of which spells its mode key the other way; its fans take
+/// 3 seconds to unlock.
 inline MachineProfile notebookProfile() {
-    return {.model = "Notebook1,1",
-            .cpu = "Some processor",
-            .osVersion = "Version 15.5",
-            .thermal = {.ambient = 25,
-                        .timeConstant = 7,
-                        .cooling = 1.67,
-                        .cpu = {.idle = 14.2, .full = 129.6},
-                        .gpu = {.idle = 12.5, .full = 108}},
-            .systemControl = {},
-            .fans = {{.minimum = 1350, .maximum = 5780, .inertia = 1.2, .modeKeySuffix = "Md"},
-                     {.minimum = 1350, .maximum = 6240, .inertia = 1.2, .modeKeySuffix = "md"}},
-            .unlockSeconds = 3,
-            .sensors = {{.name = smcFourCC("Tp01"), .part = SensorProfile::Part::cpu, .offset = 0},
-                        {.name = smcFourCC("Tg0D"), .part = SensorProfile::Part::gpu, .offset = 0}},
-            .keys = {}};
+    MachineProfile profile = ProfileLibrary::load(QStringLiteral("notebook-2fan")).value();
+    profile.fans[1].modeKeySuffix = "md";
+    return profile;
 }
 
 /// The hardware in process, and an open connection to its SMC.
