@@ -22,9 +22,10 @@ void CardOutline::paint(QPainter& painter) {
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
     // A pen is centred on its path.
-    const double inset = m_lineWidth / 2;
-    const double radius = std::max(m_cornerRadius - inset, 0.0);
-    painter.drawRoundedRect(boundingRect().adjusted(inset, inset, -inset, -inset), radius, radius);
+    const double halfLine = m_lineWidth / 2;
+    const double radius = std::max(m_cornerRadius - halfLine, 0.0);
+    painter.drawRoundedRect(boundingRect().adjusted(halfLine, halfLine, -halfLine, -halfLine),
+                            radius, radius);
 }
 
 } // namespace kestrowind

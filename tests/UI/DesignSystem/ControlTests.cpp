@@ -30,8 +30,9 @@ public:
 };
 
 TEST(ControlTests, ButtonsAreClickedBySpaceReturnAndPointerUnlessDisabled) {
-    for (const QByteArray& body : {QByteArray("PushButton { text: 'Install' }"),
-                                   QByteArray("IconButton { text: 'Install'; symbolName: 'plus' }")}) {
+    for (const QByteArray& body :
+         {QByteArray("PushButton { text: 'Install' }"),
+          QByteArray("IconButton { text: 'Install'; symbolName: 'plus' }")}) {
         Shown scene(body);
         QSignalSpy clicked(&scene.item(), SIGNAL(clicked()));
         scene.press(Qt::Key_Space);
