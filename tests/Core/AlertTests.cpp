@@ -9,8 +9,6 @@
 #include <QTest>
 #include <gmock/gmock.h>
 
-#include <limits>
-
 namespace kestrowind {
 namespace {
 
@@ -18,9 +16,10 @@ using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr double none = 0;
 constexpr double hot = 101;
 constexpr double cold = 60;
+
+using Work = AlertRules::Helper::Work;
 
 AlertRules::TimePoint at(double seconds) {
     // Far from the beginning of time, so that a clock can be set back.
@@ -30,99 +29,67 @@ AlertRules::TimePoint at(double seconds) {
 
 using Work = AlertRules::Helper::Work;
 
-/// One sample: when, how hot, what the first fan does, and how the helper does.
-struct Moment {
-    double seconds;
-    double hottest = none;
-    double target = none;
-    double actual = none;
+/// Samples every two seconds from the first to the last second: how hot, what the first fan does,
+/// and how the helper does.
+struct Span {
+    double first, last;
+    double hottest = cold;
+    double target = 0;
+    double actual = 0;
     Work helper = Work::done;
 };
 
 /// The seconds of the samples that alert; below zero when one is over.
-std::vector<double> alertTimes(const std::vector<Moment>& moments,
+std::vector<double> alertTimes(const std::vector<Span>& spans,
                                const AlertRules::Choice& choice = {}) {
     AlertRules rules;
     std::vector<double> times;
-    for (const Moment& moment : moments) {
-        const TelemetrySample sample{
-            .timestamp = at(moment.seconds),
-            .temperatures = {.cpuMax = moment.hottest, .hottest = moment.hottest},
-            .fans = {{.index = 0, .actualRPM = moment.actual, .targetRPM = moment.target}}};
-        for (const Alert& alert : rules.take(sample, {moment.helper}, choice))
-            times.push_back(alert.isOver ? -moment.seconds : moment.seconds);
+    for (const Span& span : spans) {
+        for (double seconds = span.first; seconds <= span.last; seconds += 2) {
+            const TelemetrySample sample{
+                .timestamp = at(seconds),
+                .temperatures = {.cpuMax = span.hottest, .hottest = span.hottest},
+                .fans = {{.index = 0, .actualRPM = span.actual, .targetRPM = span.target}}};
+            for (const Alert& alert : rules.take(sample, {span.helper}, choice))
+                times.push_back(alert.isOver ? -seconds : seconds);
+        }
     }
     return times;
 }
 
-/// Samples every two seconds from the first to the last second.
-std::vector<Moment> every2s(double first, double last, const Moment& like) {
-    std::vector<Moment> moments;
-    for (double seconds = first; seconds <= last; seconds += 2) {
-        moments.push_back(like);
-        moments.back().seconds = seconds;
-    }
-    return moments;
-}
-
-std::vector<Moment> operator+(std::vector<Moment> first, const std::vector<Moment>& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
-TEST(AlertRules, TellsOfHeatThatStays) {
-    const Moment burning{.seconds = 0, .hottest = hot};
-    const Moment calm{.seconds = 0, .hottest = cold};
-    const std::vector<Moment> tenSeconds = every2s(0, 10, burning);
+TEST(AlertRules, TellsOfHeatAndStandingFansThatStay) {
+    const double nan = std::nan("");
     struct Row {
         const char* what;
-        std::vector<Moment> moments;
+        std::vector<Span> spans;
         std::vector<double> told;
     };
-    for (const auto& [what, moments, told] : {
-             Row{"at ten seconds, not before", every2s(0, 30, burning), {10}},
-             Row{"at 100 degrees it is not too hot",
-                 every2s(0, 30, {.seconds = 0, .hottest = 100}),
-                 {}},
-             Row{"no number", every2s(0, 30, {.seconds = 0, .hottest = std::nan("")}), {}},
-             Row{"one cool sample begins it anew",
-                 every2s(0, 8, burning) + every2s(10, 10, calm) + every2s(12, 30, burning),
-                 {22}},
-             Row{"a gap of five seconds", every2s(0, 4, burning) + every2s(9, 20, burning), {11}},
-             Row{"no longer one, a sleep for instance",
-                 every2s(0, 4, burning) + every2s(9.1, 20, burning),
-                 {19.1}},
-             Row{"two at the same time", every2s(0, 4, burning) + every2s(4, 20, burning), {10}},
+    for (const auto& [what, spans, told] : {
+             Row{"at ten seconds, not before", {{0, 30, hot}}, {10}},
+             Row{"at 100 degrees it is not too hot", {{0, 30, 100}}, {}},
+             Row{"no temperature", {{0, 30, nan}}, {}},
+             Row{"one cool sample begins it anew", {{0, 8, hot}, {10, 10}, {12, 30, hot}}, {22}},
+             Row{"a gap of five seconds", {{0, 4, hot}, {9, 20, hot}}, {11}},
+             Row{"no longer one, a sleep for instance", {{0, 4, hot}, {9.1, 20, hot}}, {19.1}},
+             Row{"two at the same time", {{0, 4, hot}, {4, 20, hot}}, {10}},
              Row{"it comes back within the hour, and after it",
-                 tenSeconds + every2s(1000, 1030, burning) + every2s(3700, 3730, burning),
+                 {{0, 10, hot}, {1000, 1030, hot}, {3700, 3730, hot}},
                  {10, 3710}},
-             Row{"it stays", every2s(0, 7300, burning), {10, 3610, 7210}},
-             Row{"the clock is set back meanwhile",
-                 every2s(0, 8, burning) + every2s(-500, -480, burning),
-                 {-490}},
+             Row{"it stays", {{0, 7300, hot}}, {10, 3610, 7210}},
+             Row{"the clock is set back meanwhile", {{0, 8, hot}, {-500, -480, hot}}, {-490}},
              Row{"and must not stretch the silence",
-                 tenSeconds + every2s(-80'000, -76'000, burning),
+                 {{0, 10, hot}, {-80'000, -76'000, hot}},
                  {10, -76'400}},
+             Row{"a fan stands", {{0, 30, cold, 2000, 0}}, {10}},
+             Row{"it creeps", {{0, 30, cold, 2000, 59}}, {10}},
+             Row{"it is parked", {{0, 30, cold, 0, 0}}, {}},
+             Row{"it turns once a second", {{0, 30, cold, 2000, 60}}, {}},
+             Row{"no speeds", {{0, 30, cold, nan, nan}}, {}},
          })
-        EXPECT_EQ(alertTimes(moments), told) << what;
+        EXPECT_EQ(alertTimes(spans), told) << what;
 }
 
-TEST(AlertRules, TellsOfAFanThatShouldTurn) {
-    struct Row {
-        const char* what;
-        Moment like;
-        std::vector<double> told;
-    };
-    for (const auto& [what, like, told] : {
-             Row{"stands", {.seconds = 0, .target = 2000, .actual = 0}, {10}},
-             Row{"creeps", {.seconds = 0, .target = 2000, .actual = 59}, {10}},
-             Row{"is parked", {.seconds = 0, .target = 0, .actual = 0}, {}},
-             Row{"turns once a second", {.seconds = 0, .target = 2000, .actual = 60}, {}},
-             Row{"no numbers", {.seconds = 0, .target = std::nan(""), .actual = std::nan("")}, {}},
-         })
-        EXPECT_EQ(alertTimes(every2s(0, 30, like)), told) << what;
-
-    // Each fan for itself; one that cannot be read for a moment is not forgotten.
+TEST(AlertRules, TellsOfEachFanForItselfAndForgetsNoneThatIsUnreadableForAMoment) {
     AlertRules rules;
     std::vector<std::pair<double, int>> told;
     for (double seconds = 0; seconds <= 40; seconds += 2) {
@@ -140,20 +107,17 @@ TEST(AlertRules, TellsOfAFanThatShouldTurn) {
     EXPECT_THAT(told, ElementsAre(std::pair(10.0, 0), std::pair(30.0, 1)));
 }
 
-TEST(AlertRules, TellsOfAFailingHelperAtOnceUntilItWorksAgain) {
+TEST(AlertRules, TellsOfAFailingHelperAtOnceUntilItWorksAgainAndOnlyOfWhatIsWanted) {
     const auto like = [](double first, double last, Work helper) {
-        return every2s(first, last, {.seconds = 0, .helper = helper});
+        return Span{.first = first, .last = last, .helper = helper};
     };
-    EXPECT_THAT(alertTimes(like(0, 20, Work::failing) + like(22, 30, Work::pending) +
-                           like(32, 40, Work::failing) + like(42, 50, Work::done) +
-                           like(52, 60, Work::failing) + like(62, 70, Work::done)),
+    EXPECT_THAT(alertTimes({like(0, 20, Work::failing), like(22, 30, Work::pending),
+                            like(32, 40, Work::failing), like(42, 50, Work::done),
+                            like(52, 60, Work::failing), like(62, 70, Work::done)}),
                 ElementsAre(0, -42, 52, -62));
-    EXPECT_THAT(alertTimes(like(0, 3700, Work::failing)), ElementsAre(0, 3600));
-}
+    EXPECT_THAT(alertTimes({like(0, 3700, Work::failing)}), ElementsAre(0, 3600));
 
-TEST(AlertRules, TellsOnlyOfWhatIsWanted) {
-    const std::vector<Moment> all =
-        every2s(0, 20, {.seconds = 0, .hottest = hot, .target = 900, .helper = Work::failing});
+    const std::vector<Span> all{{0, 20, hot, 900, 0, Work::failing}};
     EXPECT_THAT(alertTimes(all), ElementsAre(0, 10, 10));
     EXPECT_THAT(alertTimes(all, {.helperFailed = false}), ElementsAre(10, 10));
     EXPECT_THAT(alertTimes(all, {.fanStandsStill = false}), ElementsAre(0, 10));

@@ -34,14 +34,17 @@ TEST(ControlArithmetic, RisesAtOnceAndFallsSlowly) {
         std::optional<double> elapsed;
         double expected;
     };
-    const Row rows[] = {
-        {0, 60, std::nullopt, 60},  {70, 60, 2, 69},     {70, 75, 2, 75},     {70, 60, 3600, 60},
-        {70, 60, std::nullopt, 70}, {70, 69.5, 2, 69.5}, {70, 60, -3600, 70},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(ControlArithmetic::smoothedTemperature(row.previous, row.measured, row.elapsed),
-                  row.expected)
-            << row.previous << " " << row.measured;
+    for (const auto& [previous, measured, elapsed, expected] : {
+             Row{0, 60, std::nullopt, 60},
+             Row{70, 60, 2, 69},
+             Row{70, 75, 2, 75},
+             Row{70, 60, 3600, 60},
+             Row{70, 60, std::nullopt, 70},
+             Row{70, 69.5, 2, 69.5},
+             Row{70, 60, -3600, 70},
+         })
+        EXPECT_EQ(ControlArithmetic::smoothedTemperature(previous, measured, elapsed), expected)
+            << previous << " " << measured;
 }
 
 TEST(ControlArithmetic, TurnsDemandIntoSpeed) {
@@ -252,60 +255,30 @@ TEST_F(ControlEngineTest, PushesOnceAfterABurstOfChanges) {
     EXPECT_EQ(helper.takeLog(), QStringList({u"set 1300 1600"_s, u"status"_s}));
 }
 
-TEST_F(ControlEngineTest, ShutsDownWithoutThePendingPush) {
-    sample(50, twoFans);
-    engine->setQuickBoostPercent(30);
-    helper.takeLog();
-    QCoro::waitFor(engine->shutDown());
-    QTest::qWait(150);
-    sample(90, twoFans);
-    EXPECT_EQ(helper.takeLog(), QStringList{u"release"_s});
-    EXPECT_FALSE(engine->isOverriding());
-}
-
-TEST_F(ControlEngineTest, MayGoWhileACallIsUnderWay) {
+TEST_F(ControlEngineTest, ShutsDownWithoutThePendingPushAndMayGoWhileACallIsUnderWay) {
     sample(50, twoFans);
     engine->setQuickBoostPercent(30);
     helper.gate = std::make_shared<QPromise<void>>();
     helper.gate->start();
     sample(50, twoFans);
     helper.takeLog();
+    engine->setQuickBoostPercent(40);
+    QCoro::waitFor(engine->shutDown());
+    QTest::qWait(150);
+    sample(90, twoFans);
+    EXPECT_EQ(helper.takeLog(), QStringList{u"release"_s});
     engine.reset();
     helper.gate->finish();
     QTest::qWait(20);
-    EXPECT_TRUE(helper.takeLog().isEmpty()) << "a push without its engine goes no further";
     sample(50, twoFans);
-    EXPECT_TRUE(helper.takeLog().isEmpty());
+    EXPECT_TRUE(helper.takeLog().isEmpty()) << "a push without its engine goes no further";
 }
 
-TEST(PresetControlState, TheFirstFactThatAppliesWins) {
-    using Kind = PresetControlState::Kind;
-    using Phase = HelperControlPhase;
-    struct Row {
-        HelperState helper;
-        Phase phase;
-        bool boosting;
-        Kind kind;
-        QByteArray key;
-        bool inProgress;
-    };
-    const Row rows[] = {
-        {HelperState::notInstalled, Phase::failed, true, Kind::unavailable,
-         "mainWindow.presetBar.helperMissing", false},
-        {HelperState::installed, Phase::failed, true, Kind::switchable,
-         "mainWindow.presetBar.hardwareFailure", false},
-        {HelperState::unreachable, Phase::unlocking, true, Kind::busy, "shared.mode.startingBoost",
-         true},
-        {HelperState::installed, Phase::controlling, true, Kind::switchable, "shared.mode.boosting",
-         false},
-        {HelperState::installed, Phase::idle, false, Kind::switchable, "", false},
-    };
-    for (const Row& row : rows) {
-        const auto state = PresetControlStateResolver::state(row.helper, row.phase, row.boosting);
-        EXPECT_EQ(state.kind, row.kind) << row.key.constData();
-        EXPECT_EQ(state.status ? state.status->text.key : QByteArray(), row.key);
-        EXPECT_EQ(state.status && state.status->isInProgress, row.inProgress);
-    }
+TEST(PresetControlState, AFailureComesBeforeABoostAndLeavesPresetsSwitchable) {
+    const auto state =
+        PresetControlStateResolver::state(HelperState::installed, HelperControlPhase::failed, true);
+    EXPECT_EQ(state.kind, PresetControlState::Kind::switchable);
+    EXPECT_EQ(state.status->text.key, QByteArray("mainWindow.presetBar.hardwareFailure"));
 }
 
 TEST_F(ControlEngineTest, TheStateOfControlFollowsEachOfItsFacts) {

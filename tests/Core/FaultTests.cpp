@@ -87,7 +87,10 @@ public:
                                            std::move(presets), std::move(engine));
         // A demand of its own, since without a temperature no curve asks for anything.
         state->engine().setQuickBoostPercent(100);
-        state->telemetry().onSample(state.get(), [this](const TelemetrySample&) { ++samples; });
+        state->telemetry().onSample(state.get(), [this](const TelemetrySample&) {
+            EXPECT_EQ(QThread::currentThread(), state->thread());
+            ++samples;
+        });
     }
     ~RunningState() { state.reset(); }
     RunningState(const RunningState&) = delete;

@@ -13,7 +13,6 @@
 
 #include <atomic>
 #include <limits>
-#include <mutex>
 
 namespace kestrowind {
 namespace {
@@ -76,12 +75,12 @@ TEST_F(TelemetryStoreTest, SmoothsPeaksAndRemembers) {
 TEST_F(TelemetryStoreTest, ChoosesTheTemperatureByTheUsersSetting) {
     store.ingest(sample(60, 70));
     store.ingest(sample(80, 50));
-    EXPECT_EQ(store.systemTemperature(), 79);
-    defaults->setString(u"fanBoostTemperatureSource"_s, u"hottestCore"_s);
-    EXPECT_EQ(store.systemTemperature(), 60 + 20 * 0.4);
+    for (const auto& [source, chosen] :
+         {std::pair("", 79.0), {"HottestCore", 79.0}, {"hottestCore", 60 + 20 * 0.4}}) {
+        defaults->setString(u"fanBoostTemperatureSource"_s, QString::fromLatin1(source));
+        EXPECT_EQ(store.systemTemperature(), chosen) << source;
+    }
     EXPECT_EQ(store.systemTemperature(), store.hottestTemperature());
-    defaults->setString(u"fanBoostTemperatureSource"_s, u"HottestCore"_s);
-    EXPECT_EQ(store.systemTemperature(), 79);
 }
 
 TEST_F(TelemetryStoreTest, TellsOnlyOfRealChangesAndOnlyOfWholeOnes) {
@@ -125,24 +124,13 @@ TEST_F(TelemetryStoreTest, TellsOnlyOfRealChangesAndOnlyOfWholeOnes) {
     EXPECT_THAT(order, ElementsAre(1, 3)) << "a listener that is gone hears no more";
 }
 
-TEST_F(TelemetryStoreTest, ReceivesSamplesOnTheMainThread) {
-    QThread* handlerThread = nullptr;
-    store.onSample(&store,
-                   [&](const TelemetrySample&) { handlerThread = QThread::currentThread(); });
-    store.start(10ms);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return store.history().size() >= 3; }, 3000));
-    EXPECT_EQ(handlerThread, QThread::currentThread());
-}
-
 constexpr const char* header = "Time,CPU average (Celsius),CPU hottest (Celsius),"
                                "GPU average (Celsius),GPU hottest (Celsius)";
 
 TelemetrySample sampleAt(qint64 milliseconds, const SMCTemperatureSnapshot& temperatures,
                          std::vector<SMCFanReading> fans) {
-    return {.timestamp =
-                std::chrono::system_clock::time_point(std::chrono::milliseconds(milliseconds)),
-            .temperatures = temperatures,
-            .fans = std::move(fans)};
+    const std::chrono::system_clock::time_point timestamp(milliseconds * 1ms);
+    return {timestamp, temperatures, std::move(fans)};
 }
 
 TEST(HistoryTable, HasARowForEachSampleAndAColumnForEachFan) {
@@ -194,48 +182,34 @@ TEST(FanFacts, SaysOfAFanWhatIsKnown) {
 }
 
 TEST(TemperatureText, FollowsTheLocale) {
-    struct Row {
-        QLocale locale;
-        double celsius;
-        QString text;
-    };
-    const QLocale english(QLocale::English, QLocale::UnitedStates);
-    const QLocale german(QLocale::German, QLocale::Germany);
-    const Row rows[] = {
-        {english, 54.24, u"54.2"_s},
-        {german, 54.26, u"54,3"_s},
-        {english, 0, u"--"_s},
-        {german, 99.94, u"99,9"_s},
-        {english, 100, u"100"_s},
-        {german, 104.6, u"105"_s},
-        {english, std::numeric_limits<double>::quiet_NaN(), u"--"_s},
-    };
     const QLocale before;
-    for (const Row& row : rows) {
-        QLocale::setDefault(row.locale);
-        EXPECT_EQ(TemperatureText::precise(row.celsius), row.text);
+    for (const auto& [language, celsius, text] : {
+             std::tuple(QLocale::English, 54.24, u"54.2"_s),
+             {QLocale::German, 54.26, u"54,3"_s},
+             {QLocale::German, 99.94, u"99,9"_s},
+             {QLocale::German, 100, u"100"_s},
+             {QLocale::German, 104.6, u"105"_s},
+             {QLocale::German, 0, u"--"_s},
+             {QLocale::German, std::nan(""), u"--"_s},
+         }) {
+        QLocale::setDefault(QLocale(language));
+        EXPECT_EQ(TemperatureText::precise(celsius), text);
     }
     QLocale::setDefault(before);
 }
 
-/// A sampler whose samples arrive in a guarded list.
+/// The sampler's callback; samples are handed over to this thread.
 struct SamplerProbe {
-    std::mutex mutex;
+    QObject here;
     std::vector<TelemetrySample> samples;
 
     TelemetrySampler::OnSample callback() {
         return [this](const TelemetrySample& taken) {
-            const std::lock_guard lock(mutex);
-            samples.push_back(taken);
+            QMetaObject::invokeMethod(&here, [this, taken] { samples.push_back(taken); });
         };
     }
     bool waitFor(std::size_t count) {
-        return QTest::qWaitFor(
-            [&] {
-                const std::lock_guard lock(mutex);
-                return samples.size() >= count;
-            },
-            3000);
+        return QTest::qWaitFor([&] { return samples.size() >= count; }, 3000);
     }
 };
 
@@ -243,20 +217,19 @@ TEST(TelemetrySampler, DeliversNothingWithoutAnSMC) {
     const auto smc = makeMachine();
     smc->setServices(SimulatedSMC::Services::none);
     SamplerProbe probe;
-    {
-        std::atomic<int> attempts = 0;
-        TelemetrySampler sampler([&] {
-            ++attempts;
-            return smc;
-        });
-        sampler.start(1ms, probe.callback());
-        ASSERT_TRUE(QTest::qWaitFor([&] { return attempts == 1; }, 3000));
-        // A later start tries again and then delivers.
-        smc->setServices(SimulatedSMC::Services::both);
-        EXPECT_TRUE(probe.samples.empty());
-        sampler.start(1ms, probe.callback());
-        EXPECT_TRUE(probe.waitFor(1));
-    }
+    std::atomic<int> attempts = 0;
+    auto sampler = std::make_unique<TelemetrySampler>([&] {
+        ++attempts;
+        return smc;
+    });
+    sampler->start(1ms, probe.callback());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return attempts == 1; }, 3000));
+    EXPECT_TRUE(probe.samples.empty());
+    // A later start tries again and then delivers.
+    smc->setServices(SimulatedSMC::Services::both);
+    sampler->start(1ms, probe.callback());
+    EXPECT_TRUE(probe.waitFor(1));
+    sampler.reset();
     EXPECT_EQ(smc->openConnections(), 0U);
 }
 
@@ -278,17 +251,17 @@ TEST(TelemetrySampler, KeepsTemperaturesWhenAFanFailsAndDatesSamplesBeforeReadin
     const auto smc = makeMachine();
     smc->removeKey("F0Mx");
     SamplerProbe probe;
-    std::atomic<std::chrono::system_clock::time_point> lastFanCountRead{};
+    std::atomic<std::chrono::system_clock::time_point> lastSensorRead{};
     smc->setCallObserver([&](const SMCParamStruct& record) {
         if (record.key == smcFourCC("Tp01") && record.data8 == SMCCommand::readKey)
-            lastFanCountRead = std::chrono::system_clock::now();
+            lastSensorRead = std::chrono::system_clock::now();
     });
     TelemetrySampler sampler([&] { return smc; });
     sampler.start(1h, probe.callback());
     ASSERT_TRUE(probe.waitFor(1));
     EXPECT_TRUE(probe.samples[0].fans.empty());
     EXPECT_EQ(probe.samples[0].temperatures.cpuMax, 50);
-    EXPECT_LE(probe.samples[0].timestamp, lastFanCountRead.load());
+    EXPECT_LE(probe.samples[0].timestamp, lastSensorRead.load());
 
     // A second start neither opens nor discovers again, and keeps one timer.
     const int names = smc->counts().keyNames;
