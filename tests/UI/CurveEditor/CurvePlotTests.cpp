@@ -12,17 +12,11 @@ using namespace Qt::StringLiterals;
 TEST(CurvePlot, MapsValuesToPlacesAndPlacesToWholeValuesInsideTheAxes) {
     const CurvePlotGeometry plot{.plotSize = {450, 200}};
     EXPECT_EQ(plot.position({65, 50}), QPointF(225, 100));
-    EXPECT_EQ(plot.position({20, 100}), QPointF(0, 0));
-    EXPECT_EQ(plot.position({110, 0}), QPointF(450, 200));
-    struct Row {
-        QPointF position;
-        FanCurvePoint value;
-    };
     for (const auto& [position, value] : {
-             Row{{0, 0}, {20, 100}}, Row{{460, 210}, {110, 0}}, Row{{-30, 400}, {20, 0}},
-             Row{{225, 100}, {65, 50}},
-             Row{{227.4, 98.9}, {65, 51}}, // 65.48 degrees, 50.55 percent
-             Row{{227.5, 99}, {66, 51}},   // halves away from zero
+             std::pair(QPointF(460, -10), FanCurvePoint{110, 100}),
+             {{-30, 400}, {20, 0}},
+             {{227.4, 98.9}, {65, 51}}, // 65.48 degrees, 50.55 percent
+             {{227.5, 99}, {66, 51}},   // halves away from zero
          })
         EXPECT_EQ(plot.value(position), value) << position.x() << ' ' << position.y();
     EXPECT_EQ(CurvePlotGeometry{}.value({10, 10}), (FanCurvePoint{20, 0})) << "no plot at all";
@@ -83,23 +77,14 @@ TEST(CurveOutlines, BlendFromOneCurveToAnother) {
 }
 
 TEST(CurveCallouts, TellWhatTheFanWouldBeAskedFor) {
-    const auto fan = [](double minRPM, double maxRPM) {
-        return std::optional(SMCFanReading{.minRPM = minRPM, .maxRPM = maxRPM});
+    const auto text = [](const FanCurvePoint& point, double minRPM) {
+        return CurveCallout::textOf(point, SMCFanReading{.minRPM = minRPM, .maxRPM = 6001});
     };
-    struct Row {
-        FanCurvePoint point;
-        std::optional<SMCFanReading> fan;
-        QString text;
-    };
-    for (const auto& [point, reading, text] : {
-             Row{{64, 49}, std::nullopt, u"64 °C · 49%"_s},
-             Row{{64, 40}, fan(1200, 6001), u"64 °C · 40% · about 3,120 rpm"_s},
-             Row{{64.4, 39.6}, fan(1200, 6001), u"64 °C · 40% · about 3,120 rpm"_s},
-             Row{{64, 140}, fan(1200, 6001), u"64 °C · 140% · about 6,001 rpm"_s},
-             Row{{64, 40}, fan(1000, 1000), u"64 °C · 40% · about 1,000 rpm"_s},
-             Row{{64, 0}, fan(1200, 6001), u"64 °C · 0% · automatic speed"_s},
-         })
-        EXPECT_EQ(CurveCallout::textOf(point, reading).toStdString(), text.toStdString());
+    EXPECT_EQ(text({64.4, 39.6}, 1200), u"64 °C · 40% · about 3,120 rpm"_s);
+    EXPECT_EQ(text({64, 140}, 1200), u"64 °C · 140% · about 6,001 rpm"_s);
+    EXPECT_EQ(text({64, 40}, 6001), u"64 °C · 40% · about 6,001 rpm"_s);
+    EXPECT_EQ(text({64, 0}, 1200), u"64 °C · 0% · automatic speed"_s);
+    EXPECT_EQ(text({64, 40}, 1e30), u"64 °C · 40%"_s);
 }
 
 } // namespace
