@@ -27,6 +27,12 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using QAccessible::Button;
+using QAccessible::CheckBox;
+using QAccessible::MenuItem;
+using QAccessible::PageTab;
+using QAccessible::PopupMenu;
+using QAccessible::RadioButton;
+using Action = QAccessibleActionInterface;
 using testing::ElementsAre;
 
 class FakeNotifications final : public Notifications {
@@ -59,36 +65,12 @@ public:
     void replyToShouldTerminate() override { hasEnded = true; }
 };
 
-/// Older copies of the application: one ends when it is asked to, one has to be made to.
-class FakeCopies final : public RunningApplications {
+class NoCopies final : public RunningApplications {
 public:
-    QStringList notes;
-
     std::vector<std::unique_ptr<RunningApplication>>
-    olderCopies(const QString& bundleIdentifier) override {
-        notes.append(bundleIdentifier);
-        std::vector<std::unique_ptr<RunningApplication>> copies;
-        copies.push_back(std::make_unique<Copy>(notes, true));
-        copies.push_back(std::make_unique<Copy>(notes, false));
-        return copies;
+    olderCopies(const QString& /*bundleIdentifier*/) override {
+        return {};
     }
-
-private:
-    class Copy final : public RunningApplication {
-    public:
-        Copy(QStringList& notes, bool isPolite)
-            : m_notes(notes)
-            , m_isPolite(isPolite) {}
-        void terminate() override { m_notes.append(u"asked"_s); }
-        void forceTerminate() override {
-            m_notes.append(m_isPolite ? u"forced in vain"_s : u"forced"_s);
-        }
-        [[nodiscard]] bool isTerminated() const override { return m_isPolite; }
-
-    private:
-        QStringList& m_notes;
-        bool m_isPolite;
-    };
 };
 
 /// The whole application on a machine with one fan and the helper installed, of which nothing is
@@ -118,16 +100,17 @@ protected:
         platform.application = kept(application)();
         platform.information = kept(information)();
         platform.userDefaults = home.defaults(arguments);
-        platform.runningApplications = kept(copies)();
+        platform.runningApplications = std::make_unique<NoCopies>();
         platform.activationPolicy = kept(policy)();
-        platform.loginItem = std::make_unique<FakeLoginItem>();
+        platform.loginItem = kept(loginItem)();
         platform.helperConnection = helper.factory();
         platform.smc = [this] { return smc; };
         platform.systemAppearance = kept(appearance);
         platform.notifications = kept(notifications);
         platform.returnFreedMemory = [this] { ++timesMemoryWasReturned; };
-        information->files = {QString::fromLatin1(HelperConstants::daemonPlistPath),
-                              QString::fromLatin1(HelperConstants::helperInstallPath)};
+        if (hasHelper)
+            information->files = {QString::fromLatin1(HelperConstants::daemonPlistPath),
+                                  QString::fromLatin1(HelperConstants::helperInstallPath)};
         information->supportFolder = home.path();
         defaults = platform.userDefaults.get();
         const auto makeItem = [this, hasTray] {
@@ -167,14 +150,15 @@ protected:
         reader.act(localized(buttonKey), Button);
     }
 
+    bool hasHelper = true;
     TestHome home;
     std::shared_ptr<SimulatedSMC> smc = std::make_shared<SimulatedSMC>();
     FakeHelper helper;
     // The application has them.
     FakeApplication* application = nullptr;
     FakeSystemInformation* information = nullptr;
-    FakeCopies* copies = nullptr;
     RememberedActivationPolicy* policy = nullptr;
+    FakeLoginItem* loginItem = nullptr;
     FakeAppearance* appearance = nullptr;
     FakeNotifications* notifications = nullptr;
     FakeStatusItem* item = nullptr;
@@ -298,29 +282,6 @@ TEST_F(KestrowindAppTest, StaysHiddenOnlyWhereThereIsATray) {
     }
 }
 
-TEST_F(KestrowindAppTest, TakesThePlaceOfOlderCopies) {
-    start();
-    EXPECT_THAT(copies->notes, ElementsAre(u"app.kestrowind"_s, u"asked"_s, u"asked"_s));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return copies->notes.size() > 3; }));
-    EXPECT_EQ(copies->notes.last(), u"forced"_s);
-}
-
-/// Standard output goes to another descriptor while it lives.
-class OutputTo {
-public:
-    explicit OutputTo(int descriptor) { ::dup2(descriptor, STDOUT_FILENO); }
-    OutputTo(const OutputTo&) = delete;
-    OutputTo& operator=(const OutputTo&) = delete;
-    ~OutputTo() {
-        std::fflush(stdout);
-        ::dup2(m_before, STDOUT_FILENO);
-        ::close(m_before);
-    }
-
-private:
-    int m_before = ::dup(STDOUT_FILENO);
-};
-
 TEST_F(KestrowindAppTest, PrintsItsReadingsAndEndsWhenNobodyTakesThem) {
     QTemporaryFile file;
     ASSERT_TRUE(file.open());
@@ -329,18 +290,132 @@ TEST_F(KestrowindAppTest, PrintsItsReadingsAndEndsWhenNobodyTakesThem) {
     ASSERT_EQ(::pipe(ends), 0);
     ::close(ends[0]);
     std::fflush(stdout);
+    const int before = ::dup(STDOUT_FILENO);
     make({}, {.readings = ReadingsFormat::text});
-    {
-        const OutputTo output(file.handle());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return file.size() > 0; }));
-        EXPECT_EQ(application->terminations, 0);
-    }
+    ::dup2(file.handle(), STDOUT_FILENO);
+    static_cast<void>(QTest::qWaitFor([&] { return file.size() > 0; }));
+    const int terminations = application->terminations;
+    ::dup2(ends[1], STDOUT_FILENO);
+    static_cast<void>(QTest::qWaitFor([this] { return application->terminations > 0; }));
+    std::fflush(stdout);
+    ::dup2(before, STDOUT_FILENO);
+    EXPECT_EQ(terminations, 0);
+    EXPECT_GT(application->terminations, 0);
     ASSERT_TRUE(file.seek(0));
-    EXPECT_EQ(file.readAll().mid(8), // behind the time
+    EXPECT_EQ(file.readLine().mid(8), // behind the time
               "  CPU  60.0 °C (max  60.0)  GPU    -- °C (max    --)  fan 0  2000 →  2100 rpm"
               "  Automatic  helper installed\n");
-    const OutputTo output(ends[1]);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return application->terminations > 0; }));
+}
+
+/// Nobody is at the pointer, and hardly anybody at the keyboard.
+class AssistiveTechnologyTest : public KestrowindAppTest {
+protected:
+    void show(const QString& section) {
+        reader.look(*mainWindow());
+        reader.act(section, PageTab);
+        EXPECT_TRUE(reader.state(section, PageTab).selected);
+    }
+    [[nodiscard]] bool isChosen(const QString& name) const {
+        return reader.state(name, RadioButton).checked;
+    }
+
+    const QString automatic = u"Automatic"_s;
+    const QString cool = u"Cool"_s;
+    const QString card =
+        u"Cool: "_s + localized("presets.card.spokenCaption")
+                          .arg(localized("presets.card.coolCaption"), u"2"_s, u"3"_s);
+};
+
+TEST_F(AssistiveTechnologyTest, SwitchesPresetsByPillCardAndChip) {
+    start();
+    for (const auto& [place, name] :
+         {std::pair(u"Dashboard"_s, cool), {u"Presets"_s, card}, {u"panel"_s, cool}}) {
+        SCOPED_TRACE(place.toStdString());
+        if (place == u"panel"_s)
+            reader.look(*panel());
+        else
+            show(place);
+        const auto changes = reader.heard(QAccessible::StateChanged, cool);
+        reader.act(name, RadioButton);
+        EXPECT_TRUE(isChosen(name));
+        EXPECT_FALSE(isChosen(automatic));
+        EXPECT_GT(reader.heard(QAccessible::StateChanged, cool), changes);
+        reader.act(name, RadioButton, Action::toggleAction());
+        EXPECT_TRUE(isChosen(name)) << "once more";
+        reader.act(automatic, RadioButton);
+        EXPECT_FALSE(isChosen(name));
+    }
+}
+
+TEST_F(AssistiveTechnologyTest, HearsWhyNoPillCanBePressedAndWhereACardWent) {
+    hasHelper = false;
+    start();
+    show(u"Presets"_s);
+    reader.act(u"Cool: "_s + localized("mainWindow.presetBar.helperMissing"), RadioButton);
+    EXPECT_FALSE(isChosen(cool));
+    const auto moves = reader.heard(QAccessible::DescriptionChanged, cool);
+    QAccessibleInterface* focused = reader.awaited(card, RadioButton);
+    ASSERT_NE(focused, nullptr);
+    focused->actionInterface()->doAction(Action::setFocusAction());
+    QTest::keyClick(mainWindow(), Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_GT(reader.heard(QAccessible::DescriptionChanged, cool), moves);
+}
+
+TEST_F(AssistiveTechnologyTest, WorksButtonsMenusFieldsSwitchesPickersAndSliders) {
+    start();
+    show(u"Presets"_s);
+    const QString ways = localized("presets.card.newPreset");
+    reader.act(localized("presets.card.menuButton").arg(ways), Button);
+    EXPECT_NE(reader.awaited(ways, PopupMenu), nullptr);
+    reader.act(localized("presets.contextMenu.new"), MenuItem);
+    QAccessibleInterface* field =
+        reader.awaited(localized("presets.rename.fieldLabel"), QAccessible::EditableText);
+    ASSERT_NE(field, nullptr);
+    field->setText(QAccessible::Value, u"Night"_s);
+    reader.act(localized("presets.rename.confirm"), Button);
+    reader.act(u"Night"_s, RadioButton);
+
+    show(u"Curves"_s);
+    const QString added = localized("curves.chart.pointAccessibilityLabel").arg(4);
+    EXPECT_TRUE(reader.isGone(added));
+    reader.act(localized("curves.chart.label"));
+    reader.act(added, QAccessible::Slider, Action::decreaseAction());
+    EXPECT_EQ(reader.heard(QAccessible::ValueChanged, added), 1);
+    reader.act(added, QAccessible::Slider);
+    reader.act(localized("curves.chart.deletePoint"), MenuItem);
+    EXPECT_TRUE(reader.isGone(added));
+
+    show(u"Settings"_s);
+    const QString login = localized("settings.general.launchAtLogin.title");
+    for (const QString& action : {Action::toggleAction(), Action::pressAction()}) {
+        const bool before = loginItem->enabled;
+        reader.act(login, CheckBox, action);
+        EXPECT_EQ(loginItem->enabled, !before);
+        EXPECT_EQ(reader.state(login, CheckBox).checked, !before);
+    }
+    const QString source = localized("settings.fanBoost.temperatureSource.title");
+    const QString hottest = localized("settings.fanBoost.temperatureSource.hottest");
+    reader.act(source, Button);
+    EXPECT_NE(reader.awaited(source, PopupMenu), nullptr);
+    EXPECT_TRUE(reader.state(localized("settings.fanBoost.temperatureSource.average")).checked);
+    reader.act(hottest, MenuItem);
+    EXPECT_NE(reader.awaited(source + u": "_s + hottest, Button), nullptr);
+
+    reader.look(*panel());
+    const QString boost = localized("menuBar.boost.caption");
+    QAccessibleValueInterface* slider = reader.value(boost);
+    ASSERT_NE(slider, nullptr);
+    EXPECT_EQ(slider->minimumValue(), 0);
+    EXPECT_EQ(slider->maximumValue(), 100);
+    reader.act(boost, QAccessible::Slider, Action::increaseAction());
+    EXPECT_EQ(slider->currentValue(), 5);
+    reader.act(boost, QAccessible::Slider, Action::decreaseAction());
+    EXPECT_EQ(slider->currentValue(), 0);
+    EXPECT_EQ(reader.heard(QAccessible::ValueChanged, boost), 2);
+    for (const auto& [wanted, applied] : {std::pair(42, 40.0), {41, 40.0}, {400, 100.0}}) {
+        slider->setCurrentValue(wanted);
+        EXPECT_EQ(slider->currentValue(), applied) << wanted;
+    }
 }
 
 } // namespace
