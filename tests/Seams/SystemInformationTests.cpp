@@ -7,14 +7,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class SystemInformationContract : public testing::Test {
-protected:
-    ThisSystem::Machine m_machine;
-    std::unique_ptr<SystemInformation> m_information = m_machine.information();
-};
-
-TEST_F(SystemInformationContract, SaysWhatThereIsAndNothingOfTheRest) {
-    const SystemInformation& information = *m_information;
+TEST(SystemInformationContract, SaysWhatThereIsAndNothingOfTheRest) {
+    ThisSystem::Machine machine;
+    const auto made = machine.information();
+    const SystemInformation& information = *made;
     for (const char* name : {"hw.model", "machdep.cpu.brand_string"}) {
         const auto text = information.sysctl(name);
         ASSERT_TRUE(text) << name;

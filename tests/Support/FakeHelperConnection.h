@@ -2,12 +2,15 @@
 
 #include "Platform/HelperConnection.h"
 
+#include <QObject>
 #include <QStringList>
 
 namespace kestrowind {
 
+using namespace Qt::StringLiterals;
+
 /// A helper's end of the connection that does what the test says: it keeps each call's handlers,
-/// and the test answers, fails, or leaves them.
+/// and the test answers, fails, or leaves them, or takes the calls itself.
 class FakeHelper {
 public:
     struct Call {
@@ -18,9 +21,11 @@ public:
         std::function<void(bool)> replyBool = {};
         std::function<void()> reply = {};
         HelperConnection::ErrorHandler error = {};
+        QObject* connection = nullptr; ///< lives as long as that does
     };
 
     std::vector<Call> calls;
+    std::function<void(Call)> take = [this](Call call) { calls.push_back(std::move(call)); };
     int connectionsMade = 0;
     int connectionsOpen = 0;
     std::function<void()> invalidationHandler;
@@ -51,30 +56,30 @@ private:
         }
         void setTargets(const std::vector<double>& targets, Reply<std::vector<double>> reply,
                         ErrorHandler error) override {
-            Call& call = note("setTargets", std::move(error));
-            call.targets = targets;
-            call.replyTargets = std::move(reply);
+            take({.method = u"setTargets"_s, .targets = targets, .replyTargets = std::move(reply)},
+                 std::move(error));
         }
         void releaseControl(Reply<> reply, ErrorHandler error) override {
-            note("releaseControl", std::move(error)).reply = std::move(reply);
+            take({.method = u"releaseControl"_s, .reply = std::move(reply)}, std::move(error));
         }
         void status(Reply<std::optional<QByteArray>> reply, ErrorHandler error) override {
-            note("status", std::move(error)).replyStatus = std::move(reply);
+            take({.method = u"status"_s, .replyStatus = std::move(reply)}, std::move(error));
         }
         void uninstall(Reply<bool> reply, ErrorHandler error) override {
-            note("uninstall", std::move(error)).replyBool = std::move(reply);
+            take({.method = u"uninstall"_s, .replyBool = std::move(reply)}, std::move(error));
         }
         void shutDown(Reply<> reply, ErrorHandler error) override {
-            note("shutDown", std::move(error)).reply = std::move(reply);
+            take({.method = u"shutDown"_s, .reply = std::move(reply)}, std::move(error));
         }
 
     private:
-        Call& note(const char* method, ErrorHandler error) {
-            m_helper.calls.push_back(
-                {.method = QString::fromLatin1(method), .error = std::move(error)});
-            return m_helper.calls.back();
+        void take(Call call, ErrorHandler error) {
+            call.error = std::move(error);
+            call.connection = &m_lifetime;
+            m_helper.take(std::move(call));
         }
 
+        QObject m_lifetime;
         FakeHelper& m_helper;
     };
 };

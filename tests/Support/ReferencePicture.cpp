@@ -92,21 +92,16 @@ testing::AssertionResult looksLike(const QString& name, const QImage& picture) {
     const QString advice =
         u"%1-actual.png, %1-difference.png show it, KESTROWIND_RECORD_PICTURES=1 keeps it"_s.arg(
             shown);
-    if (expected.size() != actual.size()) {
-        save(actual, shown + u"-actual.png"_s);
-        return failure(u"%1 is %2 by %3 pixels, not %4 by %5: %6"_s.arg(name)
-                           .arg(actual.width())
-                           .arg(actual.height())
-                           .arg(expected.width())
-                           .arg(expected.height())
-                           .arg(advice));
+    QString complaint = u"is of another size"_s;
+    if (expected.size() == actual.size()) {
+        const Comparison comparison = compared(expected, actual);
+        if (comparison.pixels <= pixelTolerance * actual.width() * actual.height())
+            return testing::AssertionSuccess();
+        save(comparison.difference, shown + u"-difference.png"_s);
+        complaint = u"differs in %1 pixels"_s.arg(comparison.pixels);
     }
-    const Comparison comparison = compared(expected, actual);
-    if (comparison.pixels <= pixelTolerance * actual.width() * actual.height())
-        return testing::AssertionSuccess();
     save(actual, shown + u"-actual.png"_s);
-    save(comparison.difference, shown + u"-difference.png"_s);
-    return failure(u"%1 differs in %2 pixels: %3"_s.arg(name).arg(comparison.pixels).arg(advice));
+    return failure(u"%1 %2: %3"_s.arg(name, complaint, advice));
 }
 
 void useReferenceFonts() {

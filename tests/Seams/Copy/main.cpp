@@ -7,6 +7,7 @@
 
 #include <QGuiApplication>
 #include <QSocketNotifier>
+#include <QTest>
 #include <QTimer>
 
 #include <algorithm>
@@ -28,25 +29,14 @@ int main(int argc, char* argv[]) {
     QGuiApplication application(argc, argv);
     const bool isForcing = QGuiApplication::arguments().value(1) == QLatin1StringView("force");
     const auto applications = ThisSystem::Workspace::applications();
-    std::vector<std::unique_ptr<RunningApplication>> copies;
-
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &application, [&] {
-        if (std::ranges::all_of(copies, [](const auto& copy) { return copy->isTerminated(); })) {
-            look.stop();
-            say("ended");
-        }
-    });
     const auto act = [&] {
-        copies = applications->olderCopies(QStringLiteral("app.kestrowind.seam-copy"));
+        const auto copies = applications->olderCopies(QStringLiteral("app.kestrowind.seam-copy"));
         say(std::to_string(copies.size()).c_str());
-        for (const auto& copy : copies) {
-            if (isForcing)
-                copy->forceTerminate();
-            else
-                copy->terminate();
-        }
-        look.start(10);
+        for (const auto& copy : copies)
+            isForcing ? copy->forceTerminate() : copy->terminate();
+        const auto hasEnded = [](const auto& copy) { return copy->isTerminated(); };
+        if (QTest::qWaitFor([&] { return std::ranges::all_of(copies, hasEnded); }, 10'000))
+            say("ended");
     };
 
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);

@@ -16,22 +16,26 @@ namespace kestrowind::ThisSystem {
 
 using namespace Qt::StringLiterals;
 
+/// A simulated Mac, and this process inside it.
+class Inside {
+public:
+    Inside() { qputenv(SimulatedMac::rootVariable, m_mac.root().c_str()); }
+    ~Inside() { qunsetenv(SimulatedMac::rootVariable); }
+
+protected:
+    BootedMac m_mac{{u"--installed"_s}};
+};
+
 /// The simulated kernel, over its socket.
-class Kernel {
+class Kernel : Inside {
 public:
     std::shared_ptr<SMCUserClient> userClient() {
         return std::make_shared<SMCLink>(SimulatedMac::smcSocket(m_mac.root()));
     }
-
-private:
-    BootedMac m_mac{{}};
 };
 
-class Helper {
+class Helper : Inside {
 public:
-    Helper() { qputenv(SimulatedMac::rootVariable, m_mac.root().c_str()); }
-    ~Helper() { qunsetenv(SimulatedMac::rootVariable); }
-
     /// Whether a test may drive the fans, and freeze, kill and uninstall the helper.
     static constexpr bool isExpendable = true;
 
@@ -49,9 +53,6 @@ public:
             return !now.is_null() && now != pid;
         });
     }
-
-private:
-    BootedMac m_mac{{u"--installed"_s}};
 };
 
 class Defaults {
@@ -65,17 +66,11 @@ private:
 };
 
 /// Copies find each other inside one simulated Mac, which no other test shares.
-class Workspace {
+class Workspace : Inside {
 public:
-    Workspace() { qputenv(SimulatedMac::rootVariable, m_root.path().toUtf8()); }
-    ~Workspace() { qunsetenv(SimulatedMac::rootVariable); }
-
     static std::unique_ptr<RunningApplications> applications() {
         return std::make_unique<LinuxRunningApplications>();
     }
-
-private:
-    QTemporaryDir m_root;
 };
 
 class Login {
@@ -89,16 +84,11 @@ private:
     QTemporaryDir m_folder;
 };
 
-class Machine {
+class Machine : Inside {
 public:
-    Machine() { qputenv(SimulatedMac::rootVariable, m_mac.root().c_str()); }
-    ~Machine() { qunsetenv(SimulatedMac::rootVariable); }
     std::unique_ptr<SystemInformation> information() {
         return std::make_unique<LinuxSystemInformation>();
     }
-
-private:
-    BootedMac m_mac{{u"--installed"_s}};
 };
 
 } // namespace kestrowind::ThisSystem
