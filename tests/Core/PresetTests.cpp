@@ -87,7 +87,8 @@ TEST(FanCurve, MovesAPointOnlyBetweenItsNeighbours) {
 const FanPreset custom{.id = QUuid::fromString(u"0f0e0d0c-0b0a-4908-8706-050403020100"_s),
                        .name = u"Wöchentlich \"laut\" 🌀"_s,
                        .symbolName = u"fanblades"_s,
-                       .curves = {FanCurve({{55, 0}, {75.5, 50}}), FanCurve()},
+                       .curves = {FanCurve::fromStoredPoints({{75.5, 140}, {55, 0}, {5, -1}}),
+                                  FanCurve()}, // points stay as they are stored
                        .isBuiltIn = false};
 
 TEST(FanPreset, IsTheSameAtEveryStartAndGivesExtraFansTheLastCurve) {
