@@ -96,8 +96,8 @@ TEST(SMCConnection, RefusesValuesOfAnotherTypeOrLengthEitherWay) {
     EXPECT_EQ(smc.readUInt8("byte"), 7);
     EXPECT_EQ(failure(smc.writeFloat("F0Tg", 50)), "");
     EXPECT_EQ(smc.readFloat("F0Tg"), 50.0F);
-    const auto bytes = smc.readBytes("F0Tg")->bytes();
-    EXPECT_THAT(bytes, testing::ElementsAre(0, 0, 0x48, 0x42)) << "the lowest one first";
+    const auto fifty = smc.readBytes("F0Tg").value();
+    EXPECT_THAT(fifty.bytes(), testing::ElementsAre(0, 0, 0x48, 0x42)) << "the lowest one first";
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "Shared/SMCKit/SMCTemperatureSensors.h"
+#include "Simulator/Hardware/ProfileLibrary.h"
 #include "Simulator/SimulatedHardware.h"
 
 #include <QFile>
