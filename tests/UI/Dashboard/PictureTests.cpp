@@ -30,23 +30,18 @@ QList<TelemetrySample> eightMinutes() {
 
 TEST(PictureTests, ChartsHaveAxesLinesAndWhatIsReadUnderThePointer) {
     const QList<TelemetrySample> samples = eightMinutes();
-    struct Row {
-        QString name;
-        LineChart chart;
-        int pointer;
-    };
-    for (const Row& row :
-         {Row{u"Dashboard/temperatures"_s, TemperatureHistory::chart(samples), 300},
-          Row{u"Dashboard/fanSpeeds"_s, FanSpeedHistory::chart(samples), 232}}) {
+    for (const auto& [name, shown, pointer] :
+         {std::tuple(u"Dashboard/temperatures"_s, TemperatureHistory::chart(samples), 300),
+          {u"Dashboard/fanSpeeds"_s, FanSpeedHistory::chart(samples), 232}}) {
         Scene scene("import Kestrowind.Dashboard\n"
                     "HistoryPlot { y: 30; width: 420; height: 170 }",
                     {420, 204});
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
         auto& chart = dynamic_cast<HistoryChart&>(scene.item());
-        chart.setProperty("chart", QVariant::fromValue(row.chart));
-        QTest::mouseMove(&scene.window(), {row.pointer, 90});
+        chart.setProperty("chart", QVariant::fromValue(shown));
+        QTest::mouseMove(&scene.window(), {pointer, 90});
         ASSERT_TRUE(QTest::qWaitFor([&] { return chart.readout().isShown; }));
-        EXPECT_TRUE(looksLike(row.name, scene.inBothSchemes()));
+        EXPECT_TRUE(looksLike(name, scene.inBothSchemes()));
     }
 }
 

@@ -21,18 +21,15 @@ QStringList titles(const auto* list) {
 }
 
 TEST(PresetPillsTest, ShortensLongNamesByPerceivedCharacters) {
-    struct Row {
-        QString name, title;
-    };
     for (const auto& [name, title] : {
-             Row{u"Performance"_s, u"Performan…"_s},
-             Row{u"Quiet mode"_s, u"Quiet mode"_s},
-             Row{u"Cool and quiet"_s, u"Cool and…"_s},
-             Row{u"  Night shift"_s, u"Night s…"_s},
+             std::pair(u"Performance"_s, u"Performan…"_s),
+             {u"Quiet mode"_s, u"Quiet mode"_s},
+             {u"Cool and quiet"_s, u"Cool and…"_s},
+             {u"  Night shift"_s, u"Night s…"_s},
              // Each cook is four code points but one character; each e with its accent two.
-             Row{u"👩🏽‍🍳👩🏽‍🍳👩🏽‍🍳"_s,
-                 u"👩🏽‍🍳👩🏽‍🍳👩🏽‍🍳"_s},
-             Row{u"e\u0301"_s.repeated(11), u"e\u0301"_s.repeated(9) + u'…'},
+             {u"👩🏽‍🍳👩🏽‍🍳👩🏽‍🍳"_s,
+              u"👩🏽‍🍳👩🏽‍🍳👩🏽‍🍳"_s},
+             {u"e\u0301"_s.repeated(11), u"e\u0301"_s.repeated(9) + u'…'},
          })
         EXPECT_EQ(PresetPills::shortenedTitle(name), title);
 }

@@ -16,12 +16,7 @@ using namespace Qt::StringLiterals;
 
 TEST(MenuBarReadingTest, SaysTheHottestAndTheFastest) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    struct Row {
-        double cpu;
-        std::vector<double> speeds;
-        MenuBarReading expected;
-    };
-    const Row rows[] = {
+    const std::tuple<double, std::vector<double>, MenuBarReading> rows[] = {
         {71.5, {999.9, 500}, {u"72"_s, u"999"_s}}, {71.4, {}, {u"71"_s, u"0"_s}},
         {-0.4, {-0.5}, {u"0"_s, u"0"_s}},          {60, {nan, 1234}, {u"60"_s, u"1234"_s}},
         {60, {nan}, {u"60"_s, u"--"_s}},           {60, {1e19}, {u"60"_s, u"1000000000000000"_s}},
