@@ -1,18 +1,12 @@
-#include "UI/DesignSystem/Palette.h"
 #include "UI/DesignSystem/Scene.h"
-#include "UI/DesignSystem/SymbolGlyphs.h"
 
 #include <QGuiApplication>
 #include <QPalette>
-#include <QRawFont>
 
 #include <gmock/gmock.h>
 
 namespace kestrowind {
 namespace {
-
-using Palette::Colors;
-using Palette::contrast;
 
 class SystemAppearanceFake final : public SystemAppearance {
 public:
@@ -82,57 +76,6 @@ TEST(SceneAppearanceTests, BindingsFollowTheAccentOfTheSystem) {
     EXPECT_EQ(color(), QColor::fromRgbF(1, 0.5, 0));
     system.setAccent(std::nullopt);
     EXPECT_EQ(color(), own);
-}
-
-TEST(PaletteTests, EveryTextIsReadableOnEverySurfaceInBothSchemes) {
-    for (const ColorScheme scheme : {ColorScheme::dark, ColorScheme::light}) {
-        const Colors& colors = Palette::colors(scheme);
-        const QColor window = colors.windowBackground;
-        const QColor card = Palette::composited(colors.cardFill, window);
-        const QColor popup = colors.popupBackground;
-        const QColor panel = colors.panelBackground;
-        const auto surfaces = {window, card, popup, panel};
-        for (const QColor& surface : surfaces) {
-            for (const QColor& ink :
-                 {colors.primaryText, colors.secondaryText, colors.tertiaryText, colors.accent,
-                  colors.warning, colors.danger, colors.success}) {
-                const QColor text = Palette::composited(ink, surface);
-                EXPECT_GE(contrast(text, surface), 4.5)
-                    << ink.name().toStdString() << ", dark " << (scheme == ColorScheme::dark)
-                    << ", on " << surface.name().toStdString();
-            }
-            // On the panel they are text, elsewhere marks.
-            for (int celsius = 20; celsius <= 110; ++celsius) {
-                EXPECT_GE(contrast(Palette::temperatureColor(celsius, scheme), surface),
-                          surface == panel ? 4.5 : 3.0)
-                    << celsius << " degrees, dark " << (scheme == ColorScheme::dark);
-            }
-        }
-        EXPECT_GE(contrast(colors.onDanger, colors.dangerFill), 4.5);
-        using Accent = std::optional<QColor>;
-        for (const Accent& accent :
-             {Accent(), Accent(Qt::yellow), Accent(Qt::blue), Accent(Qt::gray), Accent(Qt::black),
-              Accent(Qt::white), Accent(QColor(0xe6, 0x2d, 0x42))}) {
-            const Colors chosen = Palette::colors(scheme, accent);
-            EXPECT_GE(contrast(chosen.onAccent, chosen.accentFill), 4.5);
-            for (const QColor& surface : surfaces)
-                EXPECT_GE(contrast(chosen.accent, surface), 4.5) << surface.name().toStdString();
-        }
-    }
-}
-
-TEST(SymbolTests, EveryNameHasAGlyphOfItsOwnInTheFont) {
-    const QRawFont font(SymbolGlyphs::fontFile(), 24);
-    ASSERT_TRUE(font.isValid());
-    QStringList glyphs{SymbolGlyphs::glyph(QStringLiteral("no.such.symbol"))};
-    for (const QString& name : SymbolGlyphs::names()) {
-        const QString glyph = SymbolGlyphs::glyph(name);
-        ASSERT_EQ(glyph.size(), 1);
-        EXPECT_TRUE(font.supportsCharacter(glyph[0])) << name.toStdString();
-        EXPECT_FALSE(glyphs.contains(glyph)) << name.toStdString();
-        glyphs.append(glyph);
-    }
-    EXPECT_EQ(SymbolGlyphs::fontFamily(), QStringLiteral("Material Icons"));
 }
 
 } // namespace
