@@ -5,7 +5,6 @@
 #include <sys/types.h>
 
 typedef NS_ENUM(NSUInteger, NSApplicationTerminateReply) {
-    NSTerminateCancel = 0,
     NSTerminateNow = 1,
     NSTerminateLater = 2,
 };
@@ -13,7 +12,6 @@ typedef NS_ENUM(NSUInteger, NSApplicationTerminateReply) {
 typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
     NSApplicationActivationPolicyRegular,
     NSApplicationActivationPolicyAccessory,
-    NSApplicationActivationPolicyProhibited,
 };
 
 @class NSApplication;

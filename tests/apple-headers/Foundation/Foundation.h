@@ -24,7 +24,6 @@ typedef unsigned long NSUInteger;
 #define NS_OPTIONS(type, name) NS_ENUM(type, name)
 
 typedef struct objc_selector* SEL;
-typedef struct _NSZone NSZone;
 
 @protocol NSObject
 - (BOOL)respondsToSelector:(SEL)selector;

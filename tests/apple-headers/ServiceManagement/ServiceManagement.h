@@ -5,8 +5,6 @@
 typedef NS_ENUM(NSInteger, SMAppServiceStatus) {
     SMAppServiceStatusNotRegistered,
     SMAppServiceStatusEnabled,
-    SMAppServiceStatusRequiresApproval,
-    SMAppServiceStatusNotFound,
 };
 
 __attribute__((availability(macos, introduced = 13.0)))

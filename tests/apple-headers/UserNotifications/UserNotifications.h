@@ -3,14 +3,11 @@
 #import <Foundation/Foundation.h>
 
 typedef NS_OPTIONS(NSUInteger, UNAuthorizationOptions) {
-    UNAuthorizationOptionBadge = 1 << 0,
     UNAuthorizationOptionSound = 1 << 1,
     UNAuthorizationOptionAlert = 1 << 2,
 };
 
 typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
-    UNNotificationPresentationOptionNone = 0,
-    UNNotificationPresentationOptionSound = 1 << 1,
     UNNotificationPresentationOptionList = 1 << 3,
     UNNotificationPresentationOptionBanner = 1 << 4,
 };
