@@ -29,32 +29,32 @@ protected:
         chart.setIsEditable(true);
         chart.setCurve(asFound);
         chart.setSize(chartSize);
-        QObject::connect(&chart, &FanCurveChartModel::movePoint, &chart,
-                         [this](int index, const FanCurvePoint& to, bool isFinal) {
-                             if (!beforeDrag)
-                                 beforeDrag = chart.curve();
-                             if (isFinal)
-                                 tell(u"move %1:"_s.arg(index), to);
-                             if (isFinal)
-                                 beforeDrag.reset();
-                             edit([&](FanCurve& curve) { curve.move(index, to); });
-                         });
-        QObject::connect(&chart, &FanCurveChartModel::nudgePoint, &chart,
-                         [this](int index, const FanCurvePoint& to) {
-                             tell(u"nudge %1:"_s.arg(index), to);
-                             edit([&](FanCurve& curve) { curve.move(index, to); });
-                         });
-        QObject::connect(&chart, &FanCurveChartModel::addPoint, &chart,
-                         [this](const FanCurvePoint& point) {
-                             tell(u"add:"_s, point);
-                             edit([&](FanCurve& curve) { curve.insert(point); });
-                         });
-        QObject::connect(&chart, &FanCurveChartModel::deletePointRequested, &chart,
-                         [this](int index) {
-                             edits.append(u"delete %1"_s.arg(index));
-                             edit([&](FanCurve& curve) { curve.remove(index); });
-                         });
-        QObject::connect(&chart, &FanCurveChartModel::dragCancelled, &chart, [this] {
+        using Chart = FanCurveChartModel;
+        const auto on = [this](auto signal, auto slot) {
+            QObject::connect(&chart, signal, &chart, slot);
+        };
+        on(&Chart::movePoint, [this](int index, const FanCurvePoint& to, bool isFinal) {
+            if (!beforeDrag)
+                beforeDrag = chart.curve();
+            edit([&](FanCurve& curve) { curve.move(index, to); });
+            if (!isFinal)
+                return;
+            tell(u"move %1:"_s.arg(index), to);
+            beforeDrag.reset();
+        });
+        on(&Chart::nudgePoint, [this](int index, const FanCurvePoint& to) {
+            tell(u"nudge %1:"_s.arg(index), to);
+            edit([&](FanCurve& curve) { curve.move(index, to); });
+        });
+        on(&Chart::addPoint, [this](const FanCurvePoint& point) {
+            tell(u"add:"_s, point);
+            edit([&](FanCurve& curve) { curve.insert(point); });
+        });
+        on(&Chart::deletePointRequested, [this](int index) {
+            edits.append(u"delete %1"_s.arg(index));
+            edit([&](FanCurve& curve) { curve.remove(index); });
+        });
+        on(&Chart::dragCancelled, [this] {
             edits.append(u"cancel"_s);
             chart.setCurve(*std::exchange(beforeDrag, std::nullopt));
         });
@@ -105,25 +105,19 @@ TEST_F(CurveChart, ShowsTheTemperatureAndWhatTheCurveMakesOfIt) {
 }
 
 TEST_F(CurveChart, TakesEditsFromTheKeyboard) {
-    struct Row {
-        int key;
-        Qt::KeyboardModifiers modifiers;
-        QString edit;
-    };
-    const Row rows[] = {
-        {Qt::Key_Right, Qt::NoModifier, u"nudge 1: 61 50"_s},
-        {Qt::Key_Left, Qt::ShiftModifier, u"nudge 1: 56 50"_s},
-        {Qt::Key_Up, Qt::KeypadModifier, u"nudge 1: 56 51"_s},
-        {Qt::Key_Down, Qt::ShiftModifier, u"nudge 1: 56 46"_s},
-        {Qt::Key_N, Qt::NoModifier, u"add: 68 73"_s},
-        {Qt::Key_Delete, Qt::NoModifier, u"delete 2"_s},
-        {Qt::Key_Insert, Qt::NoModifier, u"add: 95 100"_s}, // after the last: half of the flat part
-        {Qt::Key_Backspace, Qt::NoModifier, u"delete 3"_s},
-    };
     chart.setCurrentPoint(1);
-    for (const auto& [key, modifiers, edit] : rows) {
+    for (const auto& [key, modifiers, edit] : {
+             std::tuple(Qt::Key_Right, Qt::NoModifier, "nudge 1: 61 50"),
+             {Qt::Key_Left, Qt::ShiftModifier, "nudge 1: 56 50"},
+             {Qt::Key_Up, Qt::KeypadModifier, "nudge 1: 56 51"},
+             {Qt::Key_Down, Qt::ShiftModifier, "nudge 1: 56 46"},
+             {Qt::Key_N, Qt::NoModifier, "add: 68 73"},
+             {Qt::Key_Delete, Qt::NoModifier, "delete 2"},
+             {Qt::Key_Insert, Qt::NoModifier, "add: 95 100"}, // half of the flat part at the end
+             {Qt::Key_Backspace, Qt::NoModifier, "delete 3"},
+         }) {
         EXPECT_TRUE(chart.pressKey(chart.currentPoint(), key, modifiers));
-        EXPECT_EQ(takeEdits(), QStringList{edit});
+        EXPECT_EQ(takeEdits(), QStringList{QString::fromLatin1(edit)});
     }
     EXPECT_EQ(chart.currentPoint(), 2) << "the last point is the one before the deleted one";
     EXPECT_FALSE(chart.pressKey(1, Qt::Key_Right, Qt::ControlModifier));
@@ -288,6 +282,8 @@ TEST_F(CurveGestures, DragPointsAndLetThemGoWhereTheyAre) {
     EXPECT_EQ(chart.hoveredPoint(), 2);
     drag(above, at(85, 90));
     EXPECT_EQ(takeEdits(), QStringList{u"move 2: 85 90"_s});
+    move({5, 5});
+    EXPECT_TRUE(chart.isIdle()) << "the pointer has left the plot";
     move(at(30, 80));
     EXPECT_EQ(area->cursor().shape(), Qt::CrossCursor);
     EXPECT_EQ(area->pointer(), at(30, 80));
@@ -331,8 +327,10 @@ TEST_F(CurveGestures, EndAsIfTheyHadNotBegun) {
     QTest::keyClick(&view, Qt::Key_Delete); // one hand at a time
     chart.setPercent(1, 30);
     chart.addPointAnywhere();
+    QSignalSpy motion(&chart, &FanCurveChartModel::motionChanged);
     QTest::keyClick(&view, Qt::Key_Escape);
     EXPECT_EQ(chart.curve(), asFound);
+    EXPECT_EQ(motion.size(), 2) << "it springs back";
     move(at(75, 70));
     EXPECT_TRUE(chart.ghost().isShown) << "it follows the pointer again";
     move(at(80, 100));

@@ -75,7 +75,9 @@ TEST_F(CurvesScreen, ChoosesWhatIsChosenElseActiveElseTheUsersElseCool) {
     EXPECT_EQ(model->presetName(), u"Full Speed"_s);
     EXPECT_FALSE(model->builtInNote().isEmpty());
     chooseUser(1);
-    EXPECT_TRUE(model->userPresets()->rows()[1].isChosen);
+    EXPECT_EQ(model->userPresets()->rows()[1],
+              (Choice{PresetSlot::preset(*model->selectedPresetID()).id(), u"B"_s,
+                      model->shownPreset()->symbolName, true}));
     model->select(u"automatic"_s);
     EXPECT_EQ(model->presetName(), u"B"_s);
     state->presets().remove(*model->shownPreset());
@@ -83,25 +85,6 @@ TEST_F(CurvesScreen, ChoosesWhatIsChosenElseActiveElseTheUsersElseCool) {
     EXPECT_FALSE(chart->isEditable());
     state->presets().setActivePresetID(FanPreset::coolID);
     EXPECT_EQ(model->presetName(), u"Cool"_s) << "what was chosen is gone";
-}
-
-TEST_F(CurvesScreen, MakesPresetsUpToTheLimitUnderNamesOfTheirOwn) {
-    open({u"New Preset"_s});
-    model->createPreset();
-    EXPECT_EQ(model->presetName(), u"New Preset 2"_s);
-    EXPECT_FALSE(state->presets().activePresetID());
-    model->duplicateForEditing();
-    EXPECT_TRUE(model->canAddPreset()) << "it can be edited as it is";
-    chooseCool();
-    model->duplicateForEditing();
-    EXPECT_EQ(model->presetName(), u"Cool Copy"_s);
-
-    EXPECT_FALSE(model->canAddPreset());
-    chooseCool();
-    EXPECT_THAT(model->customizeHelp().toStdString(), testing::HasSubstr("3"));
-    model->createPreset();
-    model->duplicateForEditing();
-    EXPECT_EQ(model->presetName(), u"Cool"_s);
 }
 
 TEST_F(CurvesScreen, StoresAndPushesADragOnceItIsLetGo) {
@@ -328,7 +311,7 @@ TEST_F(CurvesView, CustomizesEditsAndUndoesByPointerAndKeys) {
     EXPECT_EQ(third(), 31);
 }
 
-TEST_F(CurvesView, PicksAndMakesPresetsInItsMenu) {
+TEST_F(CurvesView, PicksAndMakesPresetsUpToTheLimitInItsMenu) {
     view->click(u"Preset"_s);
     ASSERT_NE(view->awaited(u"Full Speed"_s), nullptr);
     EXPECT_EQ(view->named(u"Your Presets"_s), nullptr) << "there are none";
@@ -346,6 +329,16 @@ TEST_F(CurvesView, PicksAndMakesPresetsInItsMenu) {
         const double y = RoomView::middle(*view->named(next)).y();
         EXPECT_GT(y, std::exchange(above, y)) << next.toStdString();
     }
+    EXPECT_FALSE(state->presets().activePresetID());
+    model->duplicateForEditing(); // it can be edited as it is
+    EXPECT_TRUE(model->canAddPreset());
+    model->createPreset();
+    EXPECT_FALSE(model->canAddPreset());
+    chooseCool();
+    EXPECT_THAT(model->customizeHelp().toStdString(), testing::HasSubstr("3"));
+    model->createPreset();
+    model->duplicateForEditing();
+    EXPECT_EQ(model->presetName(), u"Cool"_s);
 }
 
 TEST_F(CurvesView, CatchesUpWithTheTemperatureAndTheFanOnceItIsSeenAgain) {

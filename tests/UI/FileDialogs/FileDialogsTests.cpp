@@ -59,6 +59,7 @@ protected:
     static void choose(const QString& path) {
         dialog()->selectFile(path);
         static_cast<QDialog*>(dialog())->accept();
+        ASSERT_TRUE(isClosed());
     }
 
     QTemporaryDir folder;
@@ -77,7 +78,6 @@ TEST_F(WidgetFileDialogsTest, TellsWhatWasChosenAndNothingWhenCancelled) {
     first->setDirectory(folder.path());
     choose(folder.filePath(u"mine"_s));
     EXPECT_EQ(chosen, QStringList{folder.filePath(u"mine.csv"_s)}) << "with the suffix";
-    ASSERT_TRUE(isClosed());
 
     QFile there(folder.filePath(u"there.csv"_s));
     ASSERT_TRUE(there.open(QIODevice::WriteOnly));
@@ -85,12 +85,10 @@ TEST_F(WidgetFileDialogsTest, TellsWhatWasChosenAndNothingWhenCancelled) {
     EXPECT_EQ(dialog()->directory().absolutePath(), folder.path()) << "where the last file was";
     choose(there.fileName());
     EXPECT_EQ(chosen.back(), there.fileName());
-    ASSERT_TRUE(isClosed());
 
     const QTemporaryDir other;
     ask(true);
     choose(other.filePath(u"bad"_s));
-    ASSERT_TRUE(isClosed());
 
     ask(true);
     EXPECT_EQ(dialog()->directory().absolutePath(), folder.path()) << "nothing came of the other";
@@ -101,13 +99,9 @@ TEST_F(WidgetFileDialogsTest, TellsWhatWasChosenAndNothingWhenCancelled) {
     folder.remove();
     ask(true);
     EXPECT_TRUE(dialog()->directory().exists());
-}
-
-TEST_F(WidgetFileDialogsTest, GoesWithItsOwner) {
-    ask(true);
     owner.reset();
-    EXPECT_TRUE(isClosed());
-    EXPECT_EQ(chosen, QStringList());
+    EXPECT_TRUE(isClosed()) << "it goes with its owner";
+    EXPECT_EQ(chosen.size(), 3);
 }
 
 } // namespace

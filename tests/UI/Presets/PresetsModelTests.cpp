@@ -78,23 +78,6 @@ TEST_F(PresetsModelTest, LeavesAloneWhatIsNoPresetOfTheUsers) {
     EXPECT_EQ(state.presets().presets(), before);
 }
 
-TEST_F(PresetsModelTest, TakesTheTrimmedDraftAsTheName) {
-    auto mine = *state.presets().addPreset(u"Mine"_s);
-    for (const QString& draft : {u"  \n Night \u2028"_s, u" \t\n\u2029 "_s}) {
-        model.rename(PresetSlot::preset(mine.id).id());
-        model.setRenameDraftName(draft);
-        model.commitRename();
-        EXPECT_EQ(state.presets().presets().last().name, u"Night"_s);
-    }
-    model.rename(PresetSlot::preset(mine.id).id());
-    EXPECT_EQ(model.renameDraftName(), u"Night"_s);
-    mine.symbolName = u"bolt.fill"_s;
-    state.presets().update(mine);
-    model.commitRename();
-    EXPECT_EQ(state.presets().presets().last().symbolName, u"bolt.fill"_s)
-        << "what changed while the name was typed";
-}
-
 TEST_F(PresetsModelTest, SaysWhyAFileIsNotTakenInOrNotWritten) {
     const QString file = u"taken \u202efrom here.json"_s;
     const QString title = u"“\u2068taken \u202efrom here.json\u2069” could not be imported: "_s;

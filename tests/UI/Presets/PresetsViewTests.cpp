@@ -141,27 +141,33 @@ TEST_F(PresetsViewTest, TheKeyboardReachesEveryCardAndItsCommands) {
 }
 
 TEST_F(PresetsViewTest, TheRenameDialogTakesTheKeyboardAndGivesItBack) {
-    state.presets().addPreset(u"Mine"_s);
+    auto mine = *state.presets().addPreset(u"Mine"_s);
     view.press(Qt::Key_Tab);
     view.press(Qt::Key_Down);
     choose(u"Rename…"_s, u"Mine"_s);
     EXPECT_TRUE(comesBackTo(u"Name"_s));
+    EXPECT_EQ(model.renameDraftName(), u"Mine"_s);
     type(u" Night "_s);
     EXPECT_EQ(model.renameDraftName(), u" Night "_s) << "the old name was selected";
     for (const QString& next : {u"Cancel"_s, u"Rename"_s, u"Name"_s}) {
         view.press(Qt::Key_Tab);
         EXPECT_EQ(view.focused(), next) << "nothing behind the dialog has the focus";
     }
+    mine.symbolName = u"bolt.fill"_s;
+    state.presets().update(mine);
     view.press(Qt::Key_Return);
     EXPECT_FALSE(model.isRenaming());
     EXPECT_EQ(order().last(), u"Night"_s);
-    // Return on Cancel cancels.
-    for (const auto& [before, leave] :
-         {std::pair(Qt::Key_Tab, Qt::Key_Return), {Qt::Key_Shift, Qt::Key_Escape}}) {
+    EXPECT_EQ(model.cards()->rows().last().symbolName, u"bolt.fill"_s)
+        << "what changed while the name was typed";
+    // No name is no change, and Return on Cancel cancels.
+    for (const auto& [text, next, leave] : {std::tuple(u"x"_s, Qt::Key_Tab, Qt::Key_Return),
+                                            {u"x"_s, Qt::Key_Shift, Qt::Key_Escape},
+                                            {u" "_s, Qt::Key_Shift, Qt::Key_Return}}) {
         ASSERT_TRUE(comesBackTo(u"Night"_s));
         view.press(Qt::Key_F2);
-        type(u"x"_s);
-        view.press(before);
+        type(text);
+        view.press(next);
         view.press(leave);
         EXPECT_FALSE(model.isRenaming());
         EXPECT_EQ(order().last(), u"Night"_s);
