@@ -34,15 +34,11 @@ TEST(ControlArithmetic, RisesAtOnceAndFallsSlowly) {
         std::optional<double> elapsed;
         double expected;
     };
-    for (const auto& [previous, measured, elapsed, expected] : {
-             Row{0, 60, std::nullopt, 60},
-             Row{70, 60, 2, 69},
-             Row{70, 75, 2, 75},
-             Row{70, 60, 3600, 60},
-             Row{70, 60, std::nullopt, 70},
-             Row{70, 69.5, 2, 69.5},
-             Row{70, 60, -3600, 70},
-         })
+    const Row rows[] = {
+        {0, 60, std::nullopt, 60},  {70, 60, 2, 69},     {70, 75, 2, 75},     {70, 60, 3600, 60},
+        {70, 60, std::nullopt, 70}, {70, 69.5, 2, 69.5}, {70, 60, -3600, 70},
+    };
+    for (const auto& [previous, measured, elapsed, expected] : rows)
         EXPECT_EQ(ControlArithmetic::smoothedTemperature(previous, measured, elapsed), expected)
             << previous << " " << measured;
 }
@@ -59,17 +55,15 @@ TEST(ControlArithmetic, TurnsDemandIntoSpeed) {
         {50, 1200, nan, 0},     {50, -inf, 6000, 0},  {50, 1200, inf, 0},      {50, 1200, 3e38, 0},
         {10, -9000, 6000, 0},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(ControlArithmetic::target(row.percent, fan(0, row.minRPM, row.maxRPM)),
-                  row.expected)
-            << row.percent << " of " << row.minRPM << " to " << row.maxRPM;
+    for (const auto& [percent, minRPM, maxRPM, expected] : rows)
+        EXPECT_EQ(ControlArithmetic::target(percent, fan(0, minRPM, maxRPM)), expected)
+            << percent << " of " << minRPM << " to " << maxRPM;
     const SMCFanReading fans[] = {fan(0, nan, 2000), fan(1, 1000, 3000)};
     EXPECT_EQ(ControlArithmetic::targets({30, 30, 50}, fans), std::vector<double>({0, 1600}));
 
     const auto cool = FanPreset::builtIns(1)[0];
     EXPECT_EQ(ControlArithmetic::requestedPercents(cool, 45, 10, 2), QList<double>({15, 15}));
     EXPECT_EQ(ControlArithmetic::requestedPercents(cool, 45, 20, 2), QList<double>({20, 20}));
-    EXPECT_EQ(ControlArithmetic::requestedPercents(std::nullopt, 45, 0, 2), QList<double>({0, 0}));
 }
 
 /// A helper that writes down what it is told, and answers when the test lets it.

@@ -140,15 +140,13 @@ TEST_F(PresetStoreTest, StartsAtOnceWhateverAmountItFinds) {
                                .curves = {FanCurve(QList<FanCurvePoint>(points))}};
         return *encodePresets(QList<FanPreset>(count, preset));
     };
-    struct Row {
-        QByteArray content;
-        qsizetype taken;
-    };
     defaults->setStringArray(u"presetSlotOrder"_s, QStringList(100'000, u"automatic"_s));
     for (const auto& [content, taken] :
-         {Row{presets(100, 0), 100}, Row{presets(101, 0), 0}, Row{presets(1, 1000), 1},
-          Row{presets(1, 1001), 0},
-          Row{QByteArray(",{}").repeated(300'000).replace(0, 1, "["), 0}}) {
+         {std::pair(presets(100, 0), 100),
+          {presets(101, 0), 0},
+          {presets(1, 1000), 1},
+          {presets(1, 1001), 0},
+          {QByteArray(",{}").repeated(300'000).replace(0, 1, "["), 0}}) {
         home.write(file, content);
         QElapsedTimer start;
         start.start();
