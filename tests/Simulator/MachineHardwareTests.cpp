@@ -35,7 +35,7 @@ TEST(MachineHardware, IsSettledUnderItsLoadSettlesUnderAnotherAndIsCooledByItsFa
     EXPECT_LT(mac.read("Tp01"), before - 10) << "in fifteen seconds of full speed";
 }
 
-TEST(MachineHardware, LetsAFanBeTakenOnlyAfterItsUnlockTime) {
+TEST(MachineHardware, LetsAFanBeTakenOnlyAfterItsUnlockTimeAndRefusesNonsense) {
     SimulatedHardware mac(0.05);
     SMCConnection& smc = *mac.connection;
     EXPECT_FALSE(smc.writeUInt8("F0Md", 1)) << "locked";
@@ -52,11 +52,7 @@ TEST(MachineHardware, LetsAFanBeTakenOnlyAfterItsUnlockTime) {
     ASSERT_TRUE(smc.writeUInt8("Ftst", 1));
     mac.run(1);
     EXPECT_FALSE(smc.writeUInt8("F0Md", 1)) << "the time starts anew";
-}
 
-TEST(MachineHardware, RefusesWritesThatTheFirmwareWouldRefuse) {
-    SimulatedHardware mac(0.05);
-    SMCConnection& smc = *mac.connection;
     const auto refused = [](const SMCResult<void>& result, const std::string& key) {
         const SMCError error = SMCKeyError{key, SimulatedSMC::resultRefused};
         return !result && result.error() == error;
