@@ -155,6 +155,7 @@ TEST_F(Window, InstallsAndRemovesTheHelperAndDrivesByACurveThatWasDrawnInIt) {
     quit();
     EXPECT_TRUE(modes.areAllSystem());
     start({});
+    EXPECT_TRUE(isOpen());
     EXPECT_TRUE(app->waitFor(asksForTheDrawnCurve, 40s));
 }
 
