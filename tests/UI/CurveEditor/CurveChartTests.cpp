@@ -324,7 +324,7 @@ TEST_F(CurveGestures, EndAsIfTheyHadNotBegun) {
         EXPECT_EQ(chart.draggedPoint(), 1);
     };
     startDragging();
-    QTest::keyClick(&view, Qt::Key_Delete); // one hand at a time
+    EXPECT_TRUE(chart.pressKey(1, Qt::Key_Delete, Qt::NoModifier)) << "one hand at a time";
     chart.setPercent(1, 30);
     chart.addPointAnywhere();
     QSignalSpy motion(&chart, &FanCurveChartModel::motionChanged);
@@ -371,9 +371,13 @@ TEST_F(CurveGestures, WorkByTouch) {
     EXPECT_FALSE(chart.ghost().isShown) << "a finger does not hover";
 
     touch().press(0, at(70, 70));
-    touch().move(0, at(70, 70) + QPoint(6, 0)); // not as steady as a mouse
-    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.size() == 1; }, 3000)) << "a finger that rests";
+    touch().move(0, at(70, 70) + QPoint(6, 0));
     touch().release(0, at(70, 70) + QPoint(6, 0));
+    EXPECT_TRUE(takeEdits().isEmpty()) << "it is not as steady as a mouse";
+
+    touch().press(0, at(70, 70));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return menu.size() == 1; }, 3000)) << "a finger that rests";
+    touch().release(0, at(70, 70));
     EXPECT_TRUE(takeEdits().isEmpty());
 }
 

@@ -5,6 +5,7 @@
 #include "UI/Presets/PresetsModel.h"
 #include "UI/TestState.h"
 
+#include <QSignalSpy>
 #include <gmock/gmock.h>
 
 namespace kestrowind {
@@ -55,6 +56,13 @@ TEST_F(PresetsModelTest, ShowsTheSlotsInTheUsersOrder) {
     EXPECT_EQ(model.activeRow(), 1) << "there is no such place";
     model.moveBy(1, 2);
     EXPECT_EQ(model.activeRow(), 3);
+}
+
+TEST_F(PresetsModelTest, AsksTheEngineToPushWhatIsActivated) {
+    state.boost(0);
+    QSignalSpy pushed(&state.engine(), &ControlEngine::requestedPercentsChanged);
+    model.activate(PresetSlot::preset(FanPreset::fullSpeedID).id());
+    EXPECT_TRUE(pushed.wait(2000));
 }
 
 TEST_F(PresetsModelTest, LeavesAloneWhatIsNoPresetOfTheUsers) {
