@@ -85,6 +85,7 @@ TEST_F(CurvesScreen, ChoosesWhatIsChosenElseActiveElseTheUsersElseCool) {
     EXPECT_FALSE(chart->isEditable());
     state->presets().setActivePresetID(FanPreset::coolID);
     EXPECT_EQ(model->presetName(), u"Cool"_s) << "what was chosen is gone";
+    EXPECT_EQ(chart->curve().points().size(), 6);
 }
 
 TEST_F(CurvesScreen, StoresAndPushesADragOnceItIsLetGo) {
@@ -354,6 +355,11 @@ TEST_F(CurvesView, CatchesUpWithTheTemperatureAndTheFanOnceItIsSeenAgain) {
     sample(70, 0);
     EXPECT_EQ(chart->live().text, u"70 °C"_s);
     EXPECT_EQ(chart->callout().text, u"55 °C · 30%"_s);
+    view->rootObject()->setVisible(false);
+    sample(80, 2);
+    EXPECT_EQ(chart->live().text, u"70 °C"_s);
+    model->setView(nullptr);
+    EXPECT_EQ(chart->live().text, u"80 °C"_s);
 }
 
 TEST_F(CurvesView, GivesAHighWindowToTheChart) {
