@@ -61,7 +61,9 @@ TEST(PresetPillsModelTest, ShowsTheSlotsInOrderAndTheRestInTheMenu) {
     EXPECT_EQ(model.shown()->count(), 0);
 
     model.setAvailableWidth(2000);
-    const auto mine = state.presets().addPreset(u"Performance"_s);
+    auto mine = state.presets().addPreset(u"Mine"_s);
+    mine->name = u"Performance"_s;
+    state.presets().update(*mine);
     EXPECT_THAT(titles(model.shown()),
                 ElementsAre(u"Automatic"_s, u"Cool"_s, u"Full Speed"_s, u"Performan…"_s));
     EXPECT_EQ(model.shown()->rows().last().fullName, u"Performance"_s);

@@ -82,6 +82,7 @@ TEST_F(PresetsViewTest, AClickActivatesACardAndMakesAPreset) {
     view.press(Qt::Key_Escape);
     EXPECT_FALSE(model.isRenaming());
     ASSERT_TRUE(view.isGone(u"Cancel"_s));
+    EXPECT_TRUE(comesBackTo(u"New Preset"_s));
     EXPECT_EQ(view.named(u"New Preset"_s)->property("isChosen"), false)
         << "the card now, not the button";
     EXPECT_THAT(RoomView::description(*view.named(u"No Room for More"_s)).toStdString(),
