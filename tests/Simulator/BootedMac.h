@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Shared/HelperShared/HelperConstants.h"
+#include "Shared/HelperShared/Linux/HelperWire.h"
 #include "Shared/SMCKit/SMCConnection.h"
-#include "Simulator/Link/HelperWire.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
 
@@ -105,10 +105,7 @@ class HelperCaller {
 public:
     HelperCaller(const BootedMac& mac, const QString& name)
         : m_name(name)
-        , m_connection(
-              QDBusConnection::connectToPeer(HelperWire::busAddress(SimulatedMac::serviceSocket(
-                                                 mac.root(), HelperConstants::machServiceName)),
-                                             name)) {}
+        , m_connection(QDBusConnection::connectToPeer(address(mac), name)) {}
     ~HelperCaller() { hangUp(); }
     HelperCaller(const HelperCaller&) = delete;
     HelperCaller& operator=(const HelperCaller&) = delete;
@@ -119,6 +116,11 @@ public:
         QDBusConnection::disconnectFromPeer(m_name);
     }
     [[nodiscard]] bool isConnected() const { return m_connection.isConnected(); }
+
+    [[nodiscard]] static QString address(const BootedMac& mac) {
+        return QString::fromStdString(HelperWire::busAddress(
+            SimulatedMac::serviceSocket(mac.root(), HelperConstants::machServiceName)));
+    }
 
     [[nodiscard]] QDBusMessage call(const QString& method, const QVariantList& arguments = {},
                                     int patienceMilliseconds = 5'000) {

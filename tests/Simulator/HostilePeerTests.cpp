@@ -97,7 +97,7 @@ TEST_F(HostilePeerTest, WhoHangsTakesNobodysPlace) {
 
 TEST_F(HostilePeerTest, WhoFloodsIsHungUpOn) {
     {
-        auto peer = QDBusConnection::connectToPeer(HelperWire::busAddress(socket), u"flood"_s);
+        auto peer = QDBusConnection::connectToPeer(HelperCaller::address(mac), u"flood"_s);
         auto message = QDBusMessage::createMethodCall(
             QString(), QLatin1StringView(HelperWire::objectPath),
             QLatin1StringView(HelperWire::interfaceName), u"ReleaseControl"_s);

@@ -1,4 +1,4 @@
-#include "Simulator/SimulatedHardware.h"
+#include "Support/SimulatedHardware.h"
 
 #include <limits>
 

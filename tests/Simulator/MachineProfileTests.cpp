@@ -1,6 +1,6 @@
 #include "Shared/SMCKit/SMCTemperatureSensors.h"
 #include "Simulator/Hardware/ProfileLibrary.h"
-#include "Simulator/SimulatedHardware.h"
+#include "Support/SimulatedHardware.h"
 
 #include <QFile>
 #include <nlohmann/json.hpp>

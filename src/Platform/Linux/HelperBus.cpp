@@ -1,6 +1,6 @@
 #include "Platform/Linux/HelperBus.h"
 
-#include "Simulator/Link/HelperWire.h"
+#include "Shared/HelperShared/Linux/HelperWire.h"
 #include "Simulator/Link/SimulatedMac.h"
 
 #include <QDBusArgument>
@@ -50,7 +50,7 @@ bool HelperBus::connectToService() {
     const QString name = u"kestrowind-helper-%1"_s.arg(++connections);
     const auto address =
         HelperWire::busAddress(SimulatedMac::serviceSocket(root, m_machServiceName.toStdString()));
-    const auto peer = QDBusConnection::connectToPeer(address, name);
+    const auto peer = QDBusConnection::connectToPeer(QString::fromStdString(address), name);
     m_peerName = name;
     if (peer.isConnected())
         return true;

@@ -5,7 +5,7 @@
 #include "Platform/macOS/AppServiceLoginItem.h"
 #include "Platform/macOS/BundleSystemInformation.h"
 #include "Platform/macOS/DockActivationPolicy.h"
-#include "Platform/macOS/IOKitUserClient.h"
+#include "Shared/SMCKit/macOS/IOKitUserClient.h"
 #include "Platform/macOS/NativeDefaults.h"
 #include "Platform/macOS/SystemLog.h"
 #include "Platform/macOS/UserNotifications.h"

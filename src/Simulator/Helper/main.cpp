@@ -1,7 +1,10 @@
+#include "Helper/FanController.h"
+#include "Helper/HangWatchdog.h"
+#include "Helper/HelperService.h"
+#include "Helper/Linux/ActivatedServer.h"
+#include "Shared/HelperShared/HelperConstants.h"
 #include "Shared/Process/TerminationSignals.h"
-#include "Simulator/Helper/ActivatedServer.h"
-#include "Simulator/Helper/HangWatchdog.h"
-#include "Simulator/Helper/HelperService.h"
+#include "Simulator/Helper/MisbehavingListener.h"
 #include "Simulator/Link/SMCLink.h"
 #include "Simulator/Link/SimulatedMac.h"
 
@@ -10,34 +13,40 @@
 #include <QTextStream>
 #include <QTimer>
 
+/// The helper, as a process of a simulated Mac.
 int main(int argc, char** argv) {
-    kestrowind::TerminationSignals signalsToEnd;
+    using namespace kestrowind;
+
+    TerminationSignals signalsToEnd;
     const QCoreApplication application(argc, argv);
     QTextStream errors(stderr);
 
-    const auto root = kestrowind::SimulatedMac::root();
+    const auto root = SimulatedMac::root();
     if (!root) {
         errors << "kestrowind-simulated-helper: only runs inside a simulated Mac\n";
         return 2;
     }
-    kestrowind::FanController controller([socket = kestrowind::SimulatedMac::smcSocket(*root)] {
-        return std::make_shared<kestrowind::SMCLink>(socket);
-    });
+    FanController controller(
+        [socket = SimulatedMac::smcSocket(*root)] { return std::make_shared<SMCLink>(socket); });
 
-    kestrowind::ActivatedServer activated;
-    kestrowind::HelperService service(controller, activated.server(), *root);
+    ActivatedServer activated;
+    MisbehavingListener listener(activated.server(), controller, *root);
+    HelperService service(controller, listener,
+                          {SimulatedMac::systemPath(*root, HelperConstants::daemonPlistPath),
+                           SimulatedMac::systemPath(*root, HelperConstants::helperInstallPath)});
+    listener.setService(service);
     if (!activated.open()) {
         errors << "kestrowind-simulated-helper: only launchd can start this program\n";
         return 2;
     }
-    QObject::connect(&service, &kestrowind::HelperService::finished, &application,
-                     &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(&listener, &BusListener::finished, &application, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
     const QSocketNotifier ending(signalsToEnd.descriptor(), QSocketNotifier::Read);
     QObject::connect(&ending, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
 
-    kestrowind::HangWatchdog watchdog;
+    HangWatchdog watchdog;
     QTimer signsOfLife;
     QObject::connect(&signsOfLife, &QTimer::timeout, &application, [&] { watchdog.rearm(); });
-    signsOfLife.start(kestrowind::HangWatchdog::interval);
+    signsOfLife.start(HangWatchdog::interval);
     return QCoreApplication::exec();
 }

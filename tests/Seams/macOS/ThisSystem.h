@@ -2,7 +2,7 @@
 
 #include "Platform/macOS/AppServiceLoginItem.h"
 #include "Platform/macOS/BundleSystemInformation.h"
-#include "Platform/macOS/IOKitUserClient.h"
+#include "Shared/SMCKit/macOS/IOKitUserClient.h"
 #include "Platform/macOS/NativeDefaults.h"
 #include "Platform/macOS/WorkspaceApplications.h"
 #include "Platform/macOS/XPCHelperConnection.h"

@@ -1,4 +1,4 @@
-#include "Simulator/Helper/ActivatedServer.h"
+#include "Helper/Linux/ActivatedServer.h"
 
 #include <QDBusConnection>
 

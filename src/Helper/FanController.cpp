@@ -1,4 +1,4 @@
-#include "Simulator/Helper/FanController.h"
+#include "Helper/FanController.h"
 
 #include "Shared/HelperShared/FanTargets.h"
 #include "Shared/HelperShared/HelperConstants.h"

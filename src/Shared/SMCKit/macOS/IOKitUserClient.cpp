@@ -1,4 +1,4 @@
-#include "Platform/macOS/IOKitUserClient.h"
+#include "Shared/SMCKit/macOS/IOKitUserClient.h"
 
 #include <IOKit/IOKitLib.h>
 

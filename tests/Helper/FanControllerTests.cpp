@@ -1,5 +1,5 @@
-#include "Simulator/Helper/FanController.h"
-#include "Simulator/SimulatedHardware.h"
+#include "Helper/FanController.h"
+#include "Support/SimulatedHardware.h"
 
 #include <cmath>
 

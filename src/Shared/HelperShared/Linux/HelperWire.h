@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-
 #include <filesystem>
+#include <string>
 
 /// The helper protocol as it travels inside a simulated Mac: D-Bus, peer to peer, over the socket
 /// that launchd holds for the Mach service.
@@ -23,9 +21,6 @@ inline constexpr char objectPath[] = "/";
 inline constexpr char interfaceName[] = "app.kestrowind.Helper";
 
 /// The D-Bus address of a service's socket: what the path may not hold in one is escaped.
-[[nodiscard]] inline QString busAddress(const std::filesystem::path& socket) {
-    const auto path = QByteArray::fromStdString(socket.string());
-    return QString::fromLatin1("unix:path=" + path.toPercentEncoding("/", "~"));
-}
+[[nodiscard]] std::string busAddress(const std::filesystem::path& socket);
 
 } // namespace kestrowind::HelperWire

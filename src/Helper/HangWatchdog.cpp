@@ -1,4 +1,4 @@
-#include "Simulator/Helper/HangWatchdog.h"
+#include "Helper/HangWatchdog.h"
 
 #include "Shared/HelperShared/HelperConstants.h"
 
