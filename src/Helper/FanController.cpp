@@ -96,12 +96,15 @@ FanController::Result<void> FanController::takeFans() {
             return std::unexpected(description(written.error()));
     }
     m_lastError.reset();
+    m_isHandBackDue = false;
     m_phase = HelperControlPhase::unlocking;
     m_unlockSince = m_now();
     return {};
 }
 
 void FanController::tick() {
+    if (m_isHandBackDue)
+        handBack();
     if (!isHolding())
         return;
     if (m_now() - m_lastWord > HelperConstants::heartbeatTimeout) {
@@ -174,15 +177,16 @@ void FanController::fail(const std::string& why) {
 void FanController::handBack() {
     if (!m_smc)
         return;
-    // Each write is worth trying whatever became of the others, and there is nobody else to turn to
-    // when one fails: a fan that cannot be reached stays as it is.
+    // Each write is worth trying whatever became of the others. A fan that cannot be reached stays
+    // as it is until it can: see tick().
+    m_isHandBackDue = false;
     for (Fan& fan : m_fans) {
         fan.target = 0;
-        if (!fan.modeKey.empty())
-            (void)m_smc->writeUInt8(fan.modeKey, systemMode);
+        if (!fan.modeKey.empty() && !m_smc->writeUInt8(fan.modeKey, systemMode))
+            m_isHandBackDue = true;
     }
-    if (m_smc->keyExists(unlockKey))
-        (void)m_smc->writeUInt8(unlockKey, 0);
+    if (m_smc->keyExists(unlockKey) && !m_smc->writeUInt8(unlockKey, 0))
+        m_isHandBackDue = true;
 }
 
 double FanController::floorRPM(const Fan& fan) const {

@@ -50,13 +50,16 @@ public:
     /// Gives the fans back and reports this as the reason.
     void fail(const std::string& why);
 
-    /// Does what is due by now: next attempt to unlock, new floors, end of patience.
+    /// Does what is due by now: next attempt to unlock, new floors, end of patience, and handing
+    /// back what could not be reached when it was to be.
     void tick();
 
     [[nodiscard]] HelperStatus status();
     [[nodiscard]] HelperControlPhase phase() const { return m_phase; }
     /// Whether fans are held, or about to be.
     [[nodiscard]] bool isHolding() const;
+    /// Whether tick() has anything to do: fans are held, or could not all be handed back.
+    [[nodiscard]] bool needsTicks() const { return isHolding() || m_isHandBackDue; }
 
 private:
     struct Fan {
@@ -85,6 +88,7 @@ private:
     std::optional<SMCTemperatureSensors> m_sensors;
     std::vector<Fan> m_fans;
     HelperControlPhase m_phase = HelperControlPhase::idle;
+    bool m_isHandBackDue = false; ///< a write of the last hand-back failed
     std::optional<std::string> m_lastError;
     double m_hottest; ///< degrees Celsius; not a number without any reading
     std::optional<TimePoint> m_temperatureReadAt;

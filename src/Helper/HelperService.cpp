@@ -1,5 +1,7 @@
 #include "Helper/HelperService.h"
 
+#include "Helper/HelperLog.h"
+
 #include <algorithm>
 #include <system_error>
 #include <tuple>
@@ -48,6 +50,7 @@ bool HelperService::admitCall(CallerID id) {
     caller.lastWord = now;
     if (++caller.callsThisSecond <= mostCallsPerSecond)
         return true;
+    HelperLog::fault("hung up on a caller that floods");
     hangUp(id);
     return false;
 }
@@ -98,7 +101,17 @@ bool HelperService::uninstall() {
 
 void HelperService::tick() {
     m_controller.tick();
-    m_listener.setTicking(m_controller.isHolding());
+    m_listener.setTicking(m_controller.needsTicks());
+    logPhase();
+}
+
+void HelperService::logPhase() {
+    if (std::exchange(m_loggedPhase, m_controller.phase()) == m_controller.phase())
+        return;
+    if (m_loggedPhase == HelperControlPhase::failed)
+        HelperLog::fault(m_controller.status().lastError.value_or(""));
+    else
+        HelperLog::note(text(m_loggedPhase));
 }
 
 void HelperService::systemWillSleep() {

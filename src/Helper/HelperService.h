@@ -68,6 +68,7 @@ private:
 
     void makeRoom();
     void hangUp(CallerID caller);
+    void logPhase();
 
     FanController& m_controller;
     HelperListener& m_listener;
@@ -75,6 +76,7 @@ private:
     Clock m_now;
     std::map<CallerID, Caller> m_callers;
     std::optional<CallerID> m_holder; ///< who set the targets
+    HelperControlPhase m_loggedPhase = HelperControlPhase::idle;
     bool m_isAsleep = false;
 };
 

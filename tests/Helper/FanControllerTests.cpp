@@ -134,6 +134,22 @@ TEST_F(FanControllerTest, HandsBackWhatAPredecessorHeldAndWhatItHoldsItself) {
     EXPECT_TRUE(areFansWithTheSystem()) << "and so does a controller that ends in good order";
 }
 
+TEST_F(FanControllerTest, HandsBackAFanThatCouldNotBeReachedOnceItCan) {
+    hold({3000, 3000}, 4s);
+    for (const auto fault : {SimulatedSMC::Fault::timesOut, SimulatedSMC::Fault::missing}) {
+        mac->smc->setFault("F1md", fault);
+        controller->releaseControl();
+        pass(1s);
+        EXPECT_TRUE(controller->needsTicks());
+        mac->smc->setFault("F1md", std::nullopt);
+        pass(1s);
+        EXPECT_TRUE(areFansWithTheSystem());
+        EXPECT_FALSE(controller->needsTicks());
+        hold({3000, 3000}, 4s);
+        ASSERT_EQ(controller->phase(), Phase::controlling);
+    }
+}
+
 TEST_F(FanControllerTest, ReportsWhyItFailedHoldsNothingThenAndTriesAgainWhenAsked) {
     mac->smc->setFault("F1md", SimulatedSMC::Fault::fails);
     hold({3000, 3000}, 12s);

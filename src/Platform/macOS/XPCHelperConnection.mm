@@ -1,34 +1,12 @@
 #include "Platform/macOS/XPCHelperConnection.h"
 
+#import "Shared/HelperShared/FanSpeedArray.h"
 #import "Shared/HelperShared/KestrowindHelperProtocol.h"
+#include "Shared/HelperShared/SigningRequirements.h"
 
 namespace kestrowind {
-namespace {
 
 using namespace Qt::StringLiterals;
-
-NSArray<NSNumber*>* boxed(const std::vector<double>& numbers) {
-    NSMutableArray<NSNumber*>* array = [NSMutableArray arrayWithCapacity:numbers.size()];
-    for (const double number : numbers)
-        [array addObject:@(number)];
-    return array;
-}
-
-/// Absent when it is no list of numbers: the wire lets every kind of property list through.
-std::optional<std::vector<double>> unboxed(NSArray<NSNumber*>* array) {
-    if (!array)
-        return std::nullopt;
-    std::vector<double> numbers;
-    numbers.reserve(array.count);
-    for (NSNumber* number in array) {
-        if (![number isKindOfClass:[NSNumber class]])
-            return std::nullopt;
-        numbers.push_back(number.doubleValue);
-    }
-    return numbers;
-}
-
-} // namespace
 
 struct XPCHelperConnection::Link : std::enable_shared_from_this<Link> {
     explicit Link(NSXPCConnection* connection)
@@ -68,6 +46,8 @@ XPCHelperConnection::XPCHelperConnection(const QString& machServiceName)
           initWithMachServiceName:machServiceName.toNSString()
                           options:NSXPCConnectionPrivileged])) {
     m_link->connection.remoteObjectInterface = makeHelperInterface();
+    if (*SigningRequirements::helper != '\0')
+        [m_link->connection setCodeSigningRequirement:@(SigningRequirements::helper)];
 }
 
 XPCHelperConnection::~XPCHelperConnection() {
@@ -87,9 +67,9 @@ void XPCHelperConnection::setTargets(const std::vector<double>& targets,
                                      Reply<std::vector<double>> reply, ErrorHandler error) {
     const auto replied = m_link->guarded(std::move(reply));
     const auto failed = m_link->guarded(error);
-    [m_link->proxy(error) setTargets:boxed(targets)
+    [m_link->proxy(error) setTargets:fanSpeedArray(targets)
                                reply:^(NSArray<NSNumber*>* applied) {
-                                   if (auto numbers = unboxed(applied))
+                                   if (auto numbers = fanSpeeds(applied))
                                        replied(std::move(*numbers));
                                    else
                                        failed(u"the reply is no list of numbers"_s);

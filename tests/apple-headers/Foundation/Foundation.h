@@ -1,5 +1,6 @@
 #pragma once
 
+#include <dispatch/dispatch.h>
 #include <stddef.h>
 #include <stdint.h>
 
@@ -54,10 +55,12 @@ typedef struct {
 @end
 
 @interface NSString : NSObject
++ (instancetype)stringWithUTF8String:(const char*)bytes; // @( )
 - (BOOL)isEqualToString:(NSString*)string;
 @end
 
 @interface NSData : NSObject
++ (instancetype)dataWithBytes:(const void*)bytes length:(NSUInteger)length;
 @end
 
 @interface NSNumber : NSObject
@@ -102,8 +105,28 @@ typedef NS_OPTIONS(NSUInteger, NSXPCConnectionOptions) {
 @interface NSXPCConnection : NSObject
 - (instancetype)initWithMachServiceName:(NSString*)name options:(NSXPCConnectionOptions)options;
 @property(strong) NSXPCInterface* remoteObjectInterface;
+@property(strong) NSXPCInterface* exportedInterface;
+@property(strong) id exportedObject;
 @property(copy) void (^invalidationHandler)(void);
 - (id)remoteObjectProxyWithErrorHandler:(void (^)(NSError* error))handler;
+- (void)resume;
+- (void)invalidate;
+- (void)scheduleSendBarrierBlock:(void (^)(void))block;
+- (void)setCodeSigningRequirement:(NSString*)requirement
+    __attribute__((availability(macos, introduced = 13.0)));
+@end
+
+@class NSXPCListener;
+@protocol NSXPCListenerDelegate <NSObject>
+@optional
+- (BOOL)listener:(NSXPCListener*)listener shouldAcceptNewConnection:(NSXPCConnection*)newConnection;
+@end
+
+@interface NSXPCListener : NSObject
+- (instancetype)initWithMachServiceName:(NSString*)name;
+@property(weak) id<NSXPCListenerDelegate> delegate;
+- (void)setConnectionCodeSigningRequirement:(NSString*)requirement
+    __attribute__((availability(macos, introduced = 13.0)));
 - (void)resume;
 - (void)invalidate;
 @end

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <dispatch/dispatch.h>
 #include <mach/mach.h>
 
 #include <stddef.h>
@@ -14,6 +15,10 @@ typedef io_object_t io_service_t;
 
 #define IO_OBJECT_NULL ((io_object_t)0)
 
+typedef struct IONotificationPort* IONotificationPortRef;
+typedef void (*IOServiceInterestCallback)(void* refcon, io_service_t service, uint32_t messageType,
+                                          void* messageArgument);
+
 extern "C" {
 extern const mach_port_t kIOMainPortDefault __attribute__((availability(macos, introduced = 12.0)));
 
@@ -26,4 +31,5 @@ kern_return_t IOObjectRelease(io_object_t object);
 kern_return_t IOConnectCallStructMethod(mach_port_t connection, uint32_t selector,
                                         const void* inputStruct, size_t inputStructCnt,
                                         void* outputStruct, size_t* outputStructCnt);
+void IONotificationPortSetDispatchQueue(IONotificationPortRef port, dispatch_queue_t queue);
 }
