@@ -1,6 +1,7 @@
 #include "UI/Dashboard/LineChartPainter.h"
 
 #include "UI/DesignSystem/Palette.h"
+#include "UI/DesignSystem/TabularLine.h"
 #include "UI/DesignSystem/Typography.h"
 
 #include <QFontMetricsF>
@@ -27,31 +28,11 @@ double sharp(double coordinate) {
     return std::floor(coordinate) + 0.5;
 }
 
-double tabularWidth(const QString& text, const QFontMetricsF& metrics, double digitWidth) {
-    double width = 0;
-    for (const QChar character : text)
-        width += character.isDigit() ? digitWidth : metrics.horizontalAdvance(character);
-    return width;
-}
-
-/// Every digit has the same width, so that labels above each other and new ones line up.
-void drawTabular(QPainter& painter, QPointF start, const QString& text,
-                 const QFontMetricsF& metrics, double digitWidth) {
-    for (const QChar character : text) {
-        const double advance = metrics.horizontalAdvance(character);
-        const double width = character.isDigit() ? digitWidth : advance;
-        painter.drawText(start + QPointF((width - advance) / 2, 0), QString(character));
-        start.rx() += width;
-    }
-}
-
 void paintAxes(QPainter& painter, const LineChart& chart, const Look& look) {
     const QFont font = Typography::caption2();
     const QFontMetricsF metrics(font);
-    const double digitWidth = Typography::digitWidth(font);
     const QRectF plot = look.plot();
     const double base = std::round((metrics.ascent() - metrics.descent()) / 2);
-    painter.setFont(font);
     const QPen grid(Palette::colors(look.scheme).separator, 1);
     const QPen text(Palette::colors(look.scheme).tertiaryText);
 
@@ -60,9 +41,9 @@ void paintAxes(QPainter& painter, const LineChart& chart, const Look& look) {
         painter.setPen(grid);
         painter.drawLine(QPointF(plot.left(), sharp(y)), QPointF(plot.right(), sharp(y)));
         painter.setPen(text);
-        const double width = tabularWidth(tick.label, metrics, digitWidth);
-        drawTabular(painter, {std::round(plot.left() - labelGap - width), std::floor(y) + base},
-                    tick.label, metrics, digitWidth);
+        const TabularLine label(tick.label, font);
+        label.draw(painter,
+                   {std::round(plot.left() - labelGap - label.width()), std::floor(y) + base});
     }
     for (const LineChart::Tick& tick : chart.timeTicks) {
         const double x = look.position({tick.position, 0}, chart).x();
@@ -70,11 +51,11 @@ void paintAxes(QPainter& painter, const LineChart& chart, const Look& look) {
         painter.drawLine(QPointF(sharp(x), plot.top()), QPointF(sharp(x), plot.bottom()));
         painter.setPen(text);
         // Centred below its line, but never cut off.
-        const double width = tabularWidth(tick.label, metrics, digitWidth);
+        const TabularLine label(tick.label, font);
+        const double width = label.width();
         const double left =
             std::clamp(x - width / 2, 0.0, std::max(look.size.width() - width, 0.0));
-        drawTabular(painter, {std::round(left), look.size.height() - 4}, tick.label, metrics,
-                    digitWidth);
+        label.draw(painter, {std::round(left), look.size.height() - 4});
     }
 }
 

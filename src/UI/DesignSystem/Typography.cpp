@@ -1,10 +1,7 @@
 #include "UI/DesignSystem/Typography.h"
 
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QGuiApplication>
-
-#include <algorithm>
 
 namespace kestrowind {
 
@@ -41,14 +38,6 @@ QFont Typography::sectionCaption() {
 QFont Typography::weighted(QFont font, int weight) {
     font.setWeight(static_cast<QFont::Weight>(weight));
     return font;
-}
-
-double Typography::digitWidth(const QFont& font) {
-    const QFontMetricsF metrics(font);
-    double widest = 0;
-    for (char16_t digit = u'0'; digit <= u'9'; ++digit)
-        widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
-    return widest;
 }
 
 } // namespace kestrowind

@@ -55,9 +55,6 @@ public:
 
     /// The same font in another weight (Font.Medium, Font.DemiBold, ...).
     [[nodiscard]] Q_INVOKABLE static QFont weighted(QFont font, int weight);
-
-    /// The width that every digit gets so that a changing number stands still.
-    [[nodiscard]] Q_INVOKABLE static double digitWidth(const QFont& font);
 };
 
 } // namespace kestrowind
