@@ -570,6 +570,9 @@
     <message id="settings.general.hideDockIcon.title">
         <translation>Hide the Dock icon while the window is closed</translation>
     </message>
+    <message id="settings.general.launchAtLogin.approvalNotice">
+        <translation>Launching at login is switched off in the system's settings. Allow Kestrowind there, in General › Login Items.</translation>
+    </message>
     <message id="settings.general.launchAtLogin.subtitle">
         <translation>Kestrowind starts by itself when you log in.</translation>
     </message>
@@ -578,6 +581,9 @@
     </message>
     <message id="settings.general.sectionTitle">
         <translation>General</translation>
+    </message>
+    <message id="settings.helper.approvalNotice">
+        <translation>The helper is switched off in the system's settings. Allow Kestrowind there to run in the background, in General › Login Items.</translation>
     </message>
     <message id="settings.helper.error.adminScriptFailed">
         <extracomment>%1: what the script runner said</extracomment>

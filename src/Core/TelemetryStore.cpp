@@ -4,6 +4,7 @@
 #include "Core/TemperatureSource.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace kestrowind {
@@ -21,16 +22,22 @@ double smoothed(double previous, double measured) {
 TelemetryStore::TelemetryStore(const UserDefaults& userDefaults,
                                SMCUserClientFactory makeUserClient)
     : m_userDefaults(userDefaults)
-    , m_sampler(std::move(makeUserClient)) {}
+    , m_sampler(std::in_place, std::move(makeUserClient)) {}
 
 TelemetryStore::~TelemetryStore() = default;
 
 void TelemetryStore::start(std::chrono::milliseconds interval) {
-    m_sampler.start(interval, [this](const TelemetrySample& sample) {
+    if (!m_sampler)
+        return;
+    m_sampler->start(interval, [this](const TelemetrySample& sample) {
         // Posted to this object, so a sample that arrives after it is gone is dropped.
         QMetaObject::invokeMethod(
             this, [this, sample] { ingest(sample); }, Qt::QueuedConnection);
     });
+}
+
+void TelemetryStore::endSampling() {
+    m_sampler.reset();
 }
 
 void TelemetryStore::onSample(const QObject* context, const SampleHandler& handler, Turn turn) {

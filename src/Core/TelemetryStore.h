@@ -43,6 +43,9 @@ public:
 
     /// Starts sampling. Until the first sample, `latest` is absent and `smcAvailable` true.
     void start(std::chrono::milliseconds interval = sampleInterval);
+    /// For good, on the way to the process's end: some systems end it without leaving main(), and
+    /// the sampler's thread must not outlive what it reads. Waits for the call under way.
+    void endSampling();
     /// Adds a handler that is called with every sample, on the main thread, for as long as
     /// `context` lives; handlers of one turn in the order in which they came.
     void onSample(const QObject* context, const SampleHandler& handler,
@@ -85,7 +88,8 @@ private:
     double m_peakGPU = 0;
     double m_cpuHottestSmoothed = 0;
     double m_gpuHottestSmoothed = 0;
-    TelemetrySampler m_sampler; ///< last, so that its thread has ended before anything else goes
+    /// Absent after endSampling(). Last, so that its thread has ended before anything else goes.
+    std::optional<TelemetrySampler> m_sampler;
 };
 
 } // namespace kestrowind

@@ -44,8 +44,10 @@ QCoro::Task<void> AppDelegate::quit(AppState& appState) {
     if (!self)
         co_return;
     co_await appState.helper().shutDownDaemon();
-    if (self)
-        Q_EMIT self->replyToShouldTerminate();
+    if (!self)
+        co_return;
+    appState.telemetry().endSampling();
+    Q_EMIT self->replyToShouldTerminate();
 }
 
 void AppDelegate::replaceAnyOtherRunningInstance() {

@@ -33,8 +33,8 @@ public:
     void applicationDidFinishLaunching();
     /// True in every case: the application may go on as it would.
     bool applicationShouldHandleReopen(bool hasVisibleWindows) override;
-    /// `later` starts the quit path: the fans are released, then the helper is shut down, and then
-    /// replyToShouldTerminate follows. Asking again meanwhile starts nothing.
+    /// `later` starts the quit path: the fans are released, the helper is shut down, sampling ends,
+    /// and then replyToShouldTerminate follows. Asking again meanwhile starts nothing.
     TerminateReply applicationShouldTerminate() override;
 
 Q_SIGNALS:

@@ -27,6 +27,9 @@ KestrowindApp::KestrowindApp(Platform platform, const LaunchOptions& options, Sc
     registerAlertDefaults(*m_platform.userDefaults);
     connect(&m_delegate, &AppDelegate::replyToShouldTerminate, this,
             [this] { m_platform.application->replyToShouldTerminate(); });
+    const ControlEngine& engine = m_appState.engine();
+    connect(&engine, &ControlEngine::isOverridingChanged, this,
+            [this, &engine] { m_platform.activity->setUnderWay(engine.isOverriding()); });
     if (options.readings) {
         m_readingsPrinter = std::make_unique<ReadingsPrinter>(m_appState, *options.readings);
         // Nobody reads any more: what ran for its readings is done.
@@ -49,7 +52,8 @@ void KestrowindApp::start() {
     });
     m_scenes = std::make_unique<Scenes>(m_appState, m_platform, m_setup);
     connect(m_scenes.get(), &Scenes::quitRequested, this, &KestrowindApp::terminate);
-    m_scenes->present();
+    m_platform.application->whenLaunched(
+        [this](bool isLoginItem) { m_scenes->present(isLoginItem); });
     // Set from the start, not with the first window: a hidden start has fans to hand back as well.
     m_delegate.setAppState(&m_appState);
     m_delegate.applicationDidFinishLaunching();

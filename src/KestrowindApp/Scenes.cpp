@@ -87,9 +87,9 @@ Scenes::Scenes(AppState& appState, Platform& platform, const ScenesSetup& setup)
 
 Scenes::~Scenes() = default;
 
-void Scenes::present() {
+void Scenes::present(bool isQuiet) {
     m_statusItem->start();
-    if (!m_startsHidden) {
+    if (!m_startsHidden && !isQuiet) {
         m_mainWindow.show();
         return;
     }

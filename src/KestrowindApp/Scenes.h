@@ -37,9 +37,9 @@ public:
     Scenes(AppState& appState, Platform& platform, const ScenesSetup& setup = {});
     ~Scenes() override;
 
-    /// Presents the status item and the main window; with the launch option "StartHidden" only
-    /// where no tray comes up.
-    void present();
+    /// Presents the status item and the main window; for a quiet start, which the launch option
+    /// "StartHidden" asks for as well, the window only where no tray comes up.
+    void present(bool isQuiet);
 
 Q_SIGNALS:
     void quitRequested();

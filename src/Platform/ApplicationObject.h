@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 namespace kestrowind {
 
 /// Whom the application object asks about being opened again and about its end. Main thread.
@@ -28,6 +30,12 @@ public:
     /// The delegate is not owned and must live as long as the event loop runs; without one, being
     /// asked to end ends the process.
     virtual void setDelegate(ApplicationDelegate& delegate) = 0;
+    /// Calls back, once, when the system has said how the application was started: at once where it
+    /// says nothing, else when the event loop begins. A start of the system's own at login is to
+    /// be a quiet one.
+    virtual void whenLaunched(const std::function<void(bool isLoginItem)>& launched) {
+        launched(false);
+    }
     /// Asks the application to end, as its quit command and the system do: the delegate decides.
     virtual void terminate() = 0;
     /// Lets a process end whose delegate had put that off. May not return.

@@ -17,6 +17,8 @@ public:
     virtual ~LoginItem() = default;
 
     [[nodiscard]] virtual bool isEnabled() const = 0;
+    /// Added, but switched off in the system's settings, where alone it can be allowed again.
+    [[nodiscard]] virtual bool needsApproval() const { return false; }
     /// Adds the application to what is started at login, or takes it out. The error is the system's
     /// reason, for people.
     [[nodiscard]] virtual std::expected<void, QString> registerApplication() = 0;

@@ -9,6 +9,7 @@
 #include "Platform/RunningApplications.h"
 #include "Platform/SystemAppearance.h"
 #include "Platform/SystemInformation.h"
+#include "Platform/UserActivity.h"
 #include "Platform/UserDefaults.h"
 #include "Shared/SMCKit/SMCUserClient.h"
 
@@ -22,6 +23,7 @@ namespace kestrowind {
 struct Platform {
     std::unique_ptr<ApplicationObject> application;
     std::unique_ptr<SystemInformation> information;
+    std::unique_ptr<UserActivity> activity;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<RunningApplications> runningApplications;
     std::unique_ptr<ActivationPolicy> activationPolicy;

@@ -28,6 +28,10 @@ public:
     /// Whether a file exists at an absolute path of the machine ("/Library/...").
     [[nodiscard]] virtual bool fileExists(const QString& machinePath) const = 0;
 
+    /// Whether a job description at an absolute path of the machine is there, but its job switched
+    /// off in the system's settings, where alone it can be allowed again.
+    [[nodiscard]] virtual bool needsApproval(const QString& /*jobPath*/) const { return false; }
+
     /// The folder for the application's own files; created by whoever writes the first of them.
     [[nodiscard]] virtual QString applicationSupportFolder() const = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "Core/LocalizedText.h"
 #include "Platform/Linux/RememberedActivationPolicy.h"
+#include "Platform/Linux/RememberedActivity.h"
 #include "Shared/HelperShared/HelperConstants.h"
 #include "Simulator/SimulatedSMC.h"
 #include "Support/FakeHelperConnection.h"
@@ -53,10 +54,14 @@ public:
 class FakeApplication final : public ApplicationObject {
 public:
     ApplicationDelegate* delegate = nullptr;
+    bool isLoginItem = false;
     int terminations = 0;
     bool hasEnded = false;
 
     void setDelegate(ApplicationDelegate& newDelegate) override { delegate = &newDelegate; }
+    void whenLaunched(const std::function<void(bool isLoginItem)>& launched) override {
+        launched(isLoginItem);
+    }
     void terminate() override {
         ++terminations;
         hasEnded = delegate && delegate->applicationShouldTerminate() ==
@@ -99,6 +104,7 @@ protected:
         Platform platform;
         platform.application = kept(application)();
         platform.information = kept(information)();
+        platform.activity = kept(activity)();
         platform.userDefaults = home.defaults(arguments);
         platform.runningApplications = std::make_unique<NoCopies>();
         platform.activationPolicy = kept(policy)();
@@ -157,6 +163,7 @@ protected:
     // The application has them.
     FakeApplication* application = nullptr;
     FakeSystemInformation* information = nullptr;
+    RememberedActivity* activity = nullptr;
     RememberedActivationPolicy* policy = nullptr;
     FakeLoginItem* loginItem = nullptr;
     FakeAppearance* appearance = nullptr;
@@ -244,8 +251,25 @@ TEST_F(KestrowindAppTest, EveryWayToTheEndTakesTheQuitPath) {
             helper.calls.back().reply();
         }
         EXPECT_TRUE(QTest::qWaitFor([this] { return application->hasEnded; }));
+        EXPECT_EQ(smc->openConnections(), 0U) << "the sampler's thread has ended";
+        EXPECT_FALSE(activity->isUnderWay());
     }
     EXPECT_EQ(helper.methods().count(u"releaseControl"_s), 1) << "once, however often it is asked";
+}
+
+TEST_F(KestrowindAppTest, IsAtWorkInTheSystemsEyesWhileItDrivesTheFans) {
+    start({u"-ActivatePreset"_s, u"Full Speed"_s});
+    const auto reply = [this](const QString& method, const auto& answer) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return helper.methods().contains(method); }));
+        answer(*std::ranges::find(helper.calls, method, &FakeHelper::Call::method));
+    };
+    EXPECT_FALSE(activity->isUnderWay());
+    reply(u"setTargets"_s, [](const auto& call) { call.replyTargets({6000}); });
+    EXPECT_TRUE(QTest::qWaitFor([this] { return activity->isUnderWay(); }));
+    reader.look(*mainWindow());
+    reader.act(u"Automatic"_s, RadioButton);
+    reply(u"releaseControl"_s, [](const auto& call) { call.reply(); });
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !activity->isUnderWay(); }));
 }
 
 TEST_F(KestrowindAppTest, GivesBackWhatClosedWindowsWereMadeOf) {
@@ -274,7 +298,10 @@ TEST_F(KestrowindAppTest, FollowsTheSystemsColours) {
 
 TEST_F(KestrowindAppTest, StaysHiddenOnlyWhereThereIsATray) {
     for (const bool comesLate : {true, false}) {
-        start({u"-StartHidden"_s, u"YES"_s}, false);
+        const bool isLoginItem = comesLate;
+        make(isLoginItem ? QStringList() : QStringList{u"-StartHidden"_s, u"YES"_s}, {}, false);
+        application->isLoginItem = isLoginItem;
+        app->start();
         EXPECT_EQ(mainWindow(), nullptr) << "a tray may still come";
         item->hasPlace = comesLate;
         ASSERT_TRUE(QTest::qWaitFor([this] { return item->looks == 1; }));

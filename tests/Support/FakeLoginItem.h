@@ -7,9 +7,11 @@ namespace kestrowind {
 class FakeLoginItem final : public LoginItem {
 public:
     bool enabled = false;
-    QString failure; ///< of every change, unless empty
+    bool isSwitchedOff = false; ///< in the system's settings
+    QString failure;            ///< of every change, unless empty
 
     bool isEnabled() const override { return enabled; }
+    bool needsApproval() const override { return isSwitchedOff; }
     std::expected<void, QString> registerApplication() override { return change(true); }
     std::expected<void, QString> unregisterApplication() override { return change(false); }
 

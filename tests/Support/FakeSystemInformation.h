@@ -14,6 +14,7 @@ public:
     QHash<QString, QString> bundleTexts;
     QHash<QString, QString> resources;
     QSet<QString> files;
+    bool isJobSwitchedOff = false; ///< in the system's settings
     QString supportFolder;
 
     std::optional<QString> sysctl(const QByteArray& name) const override {
@@ -33,6 +34,9 @@ public:
     }
     bool fileExists(const QString& machinePath) const override {
         return files.contains(machinePath);
+    }
+    bool needsApproval(const QString& jobPath) const override {
+        return isJobSwitchedOff && jobPath.endsWith(u".helper.plist");
     }
     QString applicationSupportFolder() const override { return supportFolder; }
 

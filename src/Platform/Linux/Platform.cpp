@@ -8,6 +8,7 @@
 #include "Platform/Linux/LinuxSystemInformation.h"
 #include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/RememberedActivationPolicy.h"
+#include "Platform/Linux/RememberedActivity.h"
 #include "Platform/Linux/SessionBus.h"
 #include "Platform/Linux/SettingsFile.h"
 #include "Simulator/Link/SMCLink.h"
@@ -58,6 +59,7 @@ Platform makePlatform(const QStringList& arguments) {
     return {
         .application = std::make_unique<EventLoopApplication>(),
         .information = std::make_unique<LinuxSystemInformation>(),
+        .activity = std::make_unique<RememberedActivity>(),
         .userDefaults = std::make_unique<UserDefaults>(
             arguments, [settings] { return openSettingsFile(settings); }),
         .runningApplications = std::make_unique<LinuxRunningApplications>(),

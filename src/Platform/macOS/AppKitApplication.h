@@ -14,12 +14,14 @@ public:
     ~AppKitApplication() override;
 
     void setDelegate(ApplicationDelegate& delegate) override;
+    void whenLaunched(const std::function<void(bool isLoginItem)>& launched) override;
     void terminate() override;
     void replyToShouldTerminate() override;
 
 private:
     struct Joint;
-    std::unique_ptr<Joint> m_joint; ///< NSApp does not keep its delegate
+    std::unique_ptr<Joint> m_joint;                   ///< NSApp does not keep its delegate
+    std::function<void(bool isLoginItem)> m_launched; ///< until it was called
 };
 
 } // namespace kestrowind

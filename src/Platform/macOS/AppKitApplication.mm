@@ -2,7 +2,29 @@
 
 #import <AppKit/AppKit.h>
 
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <chrono>
+#include <utility>
+
 using kestrowind::ApplicationDelegate;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// A system that has not said by now how the application was started will not.
+constexpr std::chrono::milliseconds launchPatience = 3s;
+
+/// While the system tells that the launch is over, the event that asked for it is the current one.
+bool isLaunchAsLoginItem() {
+    NSAppleEventDescriptor* event = NSAppleEventManager.sharedAppleEventManager.currentAppleEvent;
+    return event.eventID == kAEOpenApplication &&
+           [event paramDescriptorForKeyword:keyAEPropData].enumCodeValue ==
+               keyAELaunchedAsLogInItem;
+}
+
+} // namespace
 
 @interface KestrowindApplicationDelegate : NSObject <NSApplicationDelegate>
 - (instancetype)initWithDelegate:(ApplicationDelegate&)delegate
@@ -57,6 +79,22 @@ void AppKitApplication::setDelegate(ApplicationDelegate& delegate) {
     m_joint = std::make_unique<Joint>(
         [[KestrowindApplicationDelegate alloc] initWithDelegate:delegate toolkit:NSApp.delegate]);
     NSApp.delegate = m_joint->delegate;
+}
+
+void AppKitApplication::whenLaunched(const std::function<void(bool isLoginItem)>& launched) {
+    m_launched = launched;
+    const auto tell = [this](bool isLoginItem) {
+        if (const auto waiting = std::exchange(m_launched, nullptr))
+            waiting(isLoginItem);
+    };
+    [NSNotificationCenter.defaultCenter
+        addObserverForName:NSApplicationDidFinishLaunchingNotification
+                    object:NSApp
+                     queue:nil
+                usingBlock:^(NSNotification* /*notification*/) {
+                    tell(isLaunchAsLoginItem());
+                }];
+    QTimer::singleShot(launchPatience, QCoreApplication::instance(), [tell] { tell(false); });
 }
 
 void AppKitApplication::terminate() {

@@ -8,6 +8,7 @@ namespace kestrowind {
 class AppServiceLoginItem final : public LoginItem {
 public:
     [[nodiscard]] bool isEnabled() const override;
+    [[nodiscard]] bool needsApproval() const override;
     [[nodiscard]] std::expected<void, QString> registerApplication() override;
     [[nodiscard]] std::expected<void, QString> unregisterApplication() override;
 };

@@ -8,6 +8,10 @@ bool AppServiceLoginItem::isEnabled() const {
     return SMAppService.mainAppService.status == SMAppServiceStatusEnabled;
 }
 
+bool AppServiceLoginItem::needsApproval() const {
+    return SMAppService.mainAppService.status == SMAppServiceStatusRequiresApproval;
+}
+
 std::expected<void, QString> AppServiceLoginItem::registerApplication() {
     NSError* error = nil;
     if ([SMAppService.mainAppService registerAndReturnError:&error])

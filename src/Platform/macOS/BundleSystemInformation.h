@@ -13,6 +13,7 @@ public:
     [[nodiscard]] std::optional<QString> bundleIdentifier() const override;
     [[nodiscard]] std::optional<QString> bundleResource(const QString& fileName) const override;
     [[nodiscard]] bool fileExists(const QString& machinePath) const override;
+    [[nodiscard]] bool needsApproval(const QString& jobPath) const override;
     [[nodiscard]] QString applicationSupportFolder() const override;
 };
 

@@ -1,6 +1,7 @@
 #include "Platform/macOS/BundleSystemInformation.h"
 
 #import <Foundation/Foundation.h>
+#import <ServiceManagement/ServiceManagement.h>
 
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -49,6 +50,11 @@ std::optional<QString> BundleSystemInformation::bundleResource(const QString& fi
 
 bool BundleSystemInformation::fileExists(const QString& machinePath) const {
     return QFileInfo::exists(machinePath);
+}
+
+bool BundleSystemInformation::needsApproval(const QString& jobPath) const {
+    NSURL* job = [NSURL fileURLWithPath:jobPath.toNSString()];
+    return [SMAppService statusForLegacyURL:job] == SMAppServiceStatusRequiresApproval;
 }
 
 QString BundleSystemInformation::applicationSupportFolder() const {

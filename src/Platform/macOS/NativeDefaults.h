@@ -6,8 +6,9 @@
 
 namespace kestrowind {
 
-/// The user's preferences of the domain with a bundle's identifier ("app.kestrowind"), where the
-/// system's own tools look for them.
-[[nodiscard]] std::unique_ptr<QSettings> openNativeDefaults(const QString& bundleIdentifier);
+/// The user's preferences of a domain, where the system's own tools look for them: that of the
+/// bundle which runs ("app.kestrowind"), or any that ends like an internet domain turned round
+/// ("com.example.tests").
+[[nodiscard]] std::unique_ptr<QSettings> openNativeDefaults(const QString& domain);
 
 } // namespace kestrowind

@@ -5,12 +5,13 @@
 #include "Platform/macOS/AppServiceLoginItem.h"
 #include "Platform/macOS/BundleSystemInformation.h"
 #include "Platform/macOS/DockActivationPolicy.h"
-#include "Shared/SMCKit/macOS/IOKitUserClient.h"
 #include "Platform/macOS/NativeDefaults.h"
+#include "Platform/macOS/ProcessActivity.h"
 #include "Platform/macOS/SystemLog.h"
 #include "Platform/macOS/UserNotifications.h"
 #include "Platform/macOS/WorkspaceApplications.h"
 #include "Platform/macOS/XPCHelperConnection.h"
+#include "Shared/SMCKit/macOS/IOKitUserClient.h"
 
 #include <malloc/malloc.h>
 
@@ -26,6 +27,7 @@ Platform makePlatform(const QStringList& arguments) {
     return {
         .application = std::make_unique<AppKitApplication>(),
         .information = std::make_unique<BundleSystemInformation>(),
+        .activity = std::make_unique<ProcessActivity>(),
         .userDefaults = std::make_unique<UserDefaults>(
             arguments,
             [] { return openNativeDefaults(QString::fromLatin1(BundleInformation::identifier)); }),

@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 
 GeneralSettings::GeneralSettings(UserDefaults& userDefaults, LoginItem& loginItem)
     : m_loginItem(loginItem)
-    , m_launchesAtLogin(loginItem.isEnabled()) {
+    , m_launchesAtLogin(loginItem.isEnabled())
+    , m_needsApproval(loginItem.needsApproval()) {
     const auto add = [&](const QString& key, const char* title, const char* subtitle) {
         m_switches.append(
             new SettingSwitch(userDefaults, key, localized(title), localized(subtitle), this));
@@ -33,12 +34,19 @@ void GeneralSettings::setLaunchesAtLogin(bool wanted) {
     const auto changed =
         wanted ? m_loginItem.registerApplication() : m_loginItem.unregisterApplication();
     showError(changed ? QString() : changed.error());
+    askForApproval();
     if (!changed)
         showLaunchesAtLogin(m_loginItem.isEnabled());
 }
 
 void GeneralSettings::appear() {
     showLaunchesAtLogin(m_loginItem.isEnabled());
+    askForApproval();
+}
+
+void GeneralSettings::askForApproval() {
+    if (assignIfChanged(m_needsApproval, m_loginItem.needsApproval()))
+        Q_EMIT needsApprovalChanged();
 }
 
 void GeneralSettings::showLaunchesAtLogin(bool launches) {

@@ -17,6 +17,7 @@ class GeneralSettings final : public QObject {
     Q_PROPERTY(bool launchesAtLogin READ launchesAtLogin NOTIFY launchesAtLoginChanged FINAL)
     Q_PROPERTY(
         QString launchAtLoginError READ launchAtLoginError NOTIFY launchAtLoginErrorChanged FINAL)
+    Q_PROPERTY(bool needsApproval READ needsApproval NOTIFY needsApprovalChanged FINAL)
     Q_PROPERTY(QQmlListProperty<kestrowind::SettingSwitch> switches READ switches CONSTANT FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")
@@ -30,6 +31,8 @@ public:
     Q_INVOKABLE void setLaunchesAtLogin(bool wanted);
     /// Why that could not be changed; empty otherwise.
     [[nodiscard]] const QString& launchAtLoginError() const { return m_launchAtLoginError; }
+    /// The user asked for it, and the system's settings do not allow it.
+    [[nodiscard]] bool needsApproval() const { return m_needsApproval; }
     /// In the order in which they stand.
     [[nodiscard]] QQmlListProperty<SettingSwitch> switches() { return {this, &m_switches}; }
 
@@ -39,14 +42,17 @@ public:
 Q_SIGNALS:
     void launchesAtLoginChanged();
     void launchAtLoginErrorChanged();
+    void needsApprovalChanged();
 
 private:
     void showLaunchesAtLogin(bool launches);
+    void askForApproval();
     void showError(const QString& error);
 
     LoginItem& m_loginItem;
     bool m_launchesAtLogin;
     QString m_launchAtLoginError;
+    bool m_needsApproval;
     QList<SettingSwitch*> m_switches; ///< children of this
 };
 

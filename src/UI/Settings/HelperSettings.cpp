@@ -2,16 +2,20 @@
 
 #include "Core/AssignIfChanged.h"
 #include "Core/ControlState.h"
+#include "Platform/SystemInformation.h"
+#include "Shared/HelperShared/HelperConstants.h"
 
 #include <QPointer>
 
 namespace kestrowind {
 
 HelperSettings::HelperSettings(HelperControlling& helper, const ControlState& control,
-                               HelperOperation& operation, std::chrono::milliseconds interval)
+                               HelperOperation& operation, const SystemInformation& information,
+                               std::chrono::milliseconds interval)
     : m_helper(helper)
     , m_control(control)
-    , m_operation(operation) {
+    , m_operation(operation)
+    , m_information(information) {
     connect(&control, &ControlState::changed, this, &HelperSettings::changed);
     m_nextQuestion.setSingleShot(true);
     m_nextQuestion.setTimerType(Qt::PreciseTimer);
@@ -61,9 +65,17 @@ void HelperSettings::setSeen(bool isSeen) {
 QCoro::Task<void> HelperSettings::askForStatus() {
     const QPointer<HelperSettings> self(this);
     const int appearance = m_appearance;
+    askForApproval();
     co_await m_helper.fetchStatus();
     if (self && m_isSeen && m_appearance == appearance)
         m_nextQuestion.start();
+}
+
+void HelperSettings::askForApproval() {
+    const auto job = QString::fromLatin1(HelperConstants::daemonPlistPath);
+    if (assignIfChanged(m_needsApproval,
+                        m_helper.isInstalled() && m_information.needsApproval(job)))
+        Q_EMIT changed();
 }
 
 } // namespace kestrowind

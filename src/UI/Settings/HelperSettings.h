@@ -12,6 +12,7 @@
 namespace kestrowind {
 
 class ControlState;
+class SystemInformation;
 
 /// What the helper section shows. While somebody can see it, it keeps the helper's status fresh.
 class HelperSettings final : public QObject {
@@ -23,6 +24,7 @@ class HelperSettings final : public QObject {
     Q_PROPERTY(bool hasFailure READ hasFailure NOTIFY changed FINAL)
     Q_PROPERTY(QString failure READ failure NOTIFY changed FINAL)
     Q_PROPERTY(bool isUnlocking READ isUnlocking NOTIFY changed FINAL)
+    Q_PROPERTY(bool needsApproval READ needsApproval NOTIFY changed FINAL)
     Q_PROPERTY(kestrowind::HelperOperation* operation READ operation CONSTANT FINAL)
     QML_ELEMENT
     QML_UNCREATABLE("made with the application's state")
@@ -33,7 +35,7 @@ public:
 
     /// The references must outlive this.
     HelperSettings(HelperControlling& helper, const ControlState& control,
-                   HelperOperation& operation,
+                   HelperOperation& operation, const SystemInformation& information,
                    std::chrono::milliseconds interval = defaultInterval);
     ~HelperSettings() override;
 
@@ -48,6 +50,8 @@ public:
     [[nodiscard]] bool hasFailure() const;
     [[nodiscard]] QString failure() const;
     [[nodiscard]] bool isUnlocking() const;
+    /// The helper is installed, and the system's settings do not allow it to run.
+    [[nodiscard]] bool needsApproval() const { return m_needsApproval; }
     [[nodiscard]] HelperOperation* operation() const { return &m_operation; }
 
     void setSeen(bool isSeen);
@@ -57,10 +61,13 @@ Q_SIGNALS:
 
 private:
     QCoro::Task<void> askForStatus();
+    void askForApproval();
 
     HelperControlling& m_helper;
     const ControlState& m_control;
     HelperOperation& m_operation;
+    const SystemInformation& m_information;
+    bool m_needsApproval = false;
     QTimer m_nextQuestion;
     bool m_isSeen = false;
     int m_appearance = 0; ///< counts; a question of an earlier one leads to no other

@@ -16,7 +16,7 @@ QString versionOf(const SystemInformation& information) {
 } // namespace
 
 SettingsModel::SettingsModel(const SettingsServices& services)
-    : m_helper(services.helper, services.control, services.helperOperation)
+    : m_helper(services.helper, services.control, services.helperOperation, services.information)
     , m_fanBoost(services.userDefaults)
     , m_general(services.userDefaults, services.loginItem)
     , m_version(versionOf(services.information)) {

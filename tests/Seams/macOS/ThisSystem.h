@@ -2,11 +2,11 @@
 
 #include "Platform/macOS/AppServiceLoginItem.h"
 #include "Platform/macOS/BundleSystemInformation.h"
-#include "Shared/SMCKit/macOS/IOKitUserClient.h"
 #include "Platform/macOS/NativeDefaults.h"
 #include "Platform/macOS/WorkspaceApplications.h"
 #include "Platform/macOS/XPCHelperConnection.h"
 #include "Shared/HelperShared/HelperConstants.h"
+#include "Shared/SMCKit/macOS/IOKitUserClient.h"
 
 #include <QFileInfo>
 
@@ -42,7 +42,7 @@ public:
     Defaults() { open()->clear(); }
     ~Defaults() { open()->clear(); }
     std::unique_ptr<QSettings> open() {
-        return openNativeDefaults(QStringLiteral("app.kestrowind.seam-tests"));
+        return openNativeDefaults(QStringLiteral("com.kestrowind-tests.seams"));
     }
 };
 

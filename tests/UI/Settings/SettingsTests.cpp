@@ -93,7 +93,7 @@ struct SettingsMachine {
 TEST(HelperSettings, AsksForTheStatusAgainAndAgainWhileItIsSeen) {
     SettingsMachine machine;
     WaitingHelper& helper = machine.helper;
-    HelperSettings settings(helper, machine.control, machine.operation, 20ms);
+    HelperSettings settings(helper, machine.control, machine.operation, machine.information, 20ms);
     std::size_t before = 0;
     const auto asks = [&](std::size_t more) {
         before += more;
@@ -177,7 +177,7 @@ TEST_F(SettingsScreen, SaysHowTheHelperIsAndWhatCanBeDoneAboutIt) {
 TEST_F(SettingsScreen, WorksOnTheHelperOnceAtATimeAndShowsItsFailureUntilTheNextOrItIsLeft) {
     const QString spinner = localized("settings.helper.workingSpinner");
     const auto leaveScreen = [this] {
-        HelperSettings(machine.helper, machine.control, machine.operation);
+        HelperSettings(machine.helper, machine.control, machine.operation, machine.information);
     };
     EXPECT_FALSE(says(spinner, QAccessible::ProgressBar));
     click("settings.helper.reinstallButton");
@@ -213,6 +213,23 @@ TEST_F(SettingsScreen, ReadsWhatOthersMayHaveChangedWhenItComesOnScreen) {
     view.show();
     ASSERT_TRUE(QTest::qWaitFor([&] { return machine.helper.questions.size() == 2; }));
     EXPECT_TRUE(model.general()->launchesAtLogin());
+
+    const auto areSwitchedOff = [this] {
+        return std::pair(says(localized("settings.general.launchAtLogin.approvalNotice")),
+                         says(localized("settings.helper.approvalNotice")));
+    };
+    EXPECT_EQ(areSwitchedOff(), std::pair(false, false));
+    for (const bool isOff : {true, false}) {
+        view.hide();
+        machine.loginItem.isSwitchedOff = machine.information.isJobSwitchedOff = isOff;
+        view.show();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return areSwitchedOff() == std::pair(isOff, isOff); }));
+    }
+    machine.information.isJobSwitchedOff = true;
+    machine.helper.setState(HelperState::notInstalled);
+    view.hide();
+    view.show();
+    EXPECT_EQ(areSwitchedOff().second, false) << "there is none";
 }
 
 TEST_F(SettingsScreen, AddsTheApplicationToTheLoginItemsByAClickAnywhereInTheRow) {

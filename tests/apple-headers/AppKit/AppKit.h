@@ -33,6 +33,7 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 @end
 
 extern "C" NSApplication* NSApp;
+extern "C" NSString* const NSApplicationDidFinishLaunchingNotification;
 
 @interface NSRunningApplication : NSObject
 + (NSArray<NSRunningApplication*>*)runningApplicationsWithBundleIdentifier:(NSString*)identifier;

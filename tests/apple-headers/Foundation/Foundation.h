@@ -59,6 +59,10 @@ typedef struct {
 - (BOOL)isEqualToString:(NSString*)string;
 @end
 
+@interface NSURL : NSObject
++ (NSURL*)fileURLWithPath:(NSString*)path;
+@end
+
 @interface NSData : NSObject
 + (instancetype)dataWithBytes:(const void*)bytes length:(NSUInteger)length;
 @end
@@ -89,9 +93,50 @@ typedef struct {
 - (NSString*)pathForResource:(NSString*)name ofType:(NSString*)extension;
 @end
 
+typedef NS_OPTIONS(uint64_t, NSActivityOptions) {
+    NSActivityUserInitiatedAllowingIdleSystemSleep = 0x00efffffULL,
+};
+
 @interface NSProcessInfo : NSObject
 @property(class, readonly, strong) NSProcessInfo* processInfo;
 @property(readonly, copy) NSString* operatingSystemVersionString;
+- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason;
+- (void)endActivity:(id<NSObject>)activity;
+@end
+
+@interface NSNotification : NSObject
+@end
+
+@class NSOperationQueue;
+@interface NSNotificationCenter : NSObject
+@property(class, readonly, strong) NSNotificationCenter* defaultCenter;
+- (id<NSObject>)addObserverForName:(NSString*)name
+                            object:(id)object
+                             queue:(NSOperationQueue*)queue
+                        usingBlock:(void (^)(NSNotification* notification))block;
+@end
+
+typedef uint32_t FourCharCode;
+enum : FourCharCode {
+    kAEOpenApplication = 'oapp',
+    keyAEPropData = 'prdt',
+    keyAELaunchedAsLogInItem = 'lgit',
+};
+
+@interface NSAppleEventDescriptor : NSObject
+@property(readonly) FourCharCode eventID;
+@property(readonly) FourCharCode enumCodeValue;
+- (NSAppleEventDescriptor*)paramDescriptorForKeyword:(FourCharCode)keyword;
+@end
+
+@interface NSAppleEventManager : NSObject
++ (NSAppleEventManager*)sharedAppleEventManager;
+@property(readonly, retain) NSAppleEventDescriptor* currentAppleEvent;
+@end
+
+@interface NSUserDefaults : NSObject
+- (instancetype)initWithSuiteName:(NSString*)suiteName;
+- (NSString*)stringForKey:(NSString*)key;
 @end
 
 @interface NSXPCInterface : NSObject

@@ -5,12 +5,14 @@
 typedef NS_ENUM(NSInteger, SMAppServiceStatus) {
     SMAppServiceStatusNotRegistered,
     SMAppServiceStatusEnabled,
+    SMAppServiceStatusRequiresApproval,
 };
 
 __attribute__((availability(macos, introduced = 13.0)))
 @interface SMAppService : NSObject
 @property(class, readonly) SMAppService* mainAppService;
 @property(readonly) SMAppServiceStatus status;
++ (SMAppServiceStatus)statusForLegacyURL:(NSURL*)url;
 - (BOOL)registerAndReturnError:(NSError**)error;
 - (BOOL)unregisterAndReturnError:(NSError**)error;
 @end

@@ -21,6 +21,12 @@ SettingsSection {
         text: root.model.launchAtLoginError
     }
 
+    SettingsNoticeRow {
+        visible: root.model.needsApproval
+        symbolColor: AppColors.warning
+        text: qsTrId("settings.general.launchAtLogin.approvalNotice")
+    }
+
     Repeater {
         model: root.model.switches
         delegate: SettingsToggleRow {

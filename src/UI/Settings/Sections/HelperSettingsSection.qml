@@ -26,6 +26,12 @@ SettingsSection {
     }
 
     SettingsNoticeRow {
+        visible: root.model.needsApproval
+        symbolColor: AppColors.warning
+        text: qsTrId("settings.helper.approvalNotice")
+    }
+
+    SettingsNoticeRow {
         visible: root.model.hasFailure
         symbolColor: AppColors.warning
         text: root.model.failure
