@@ -6,7 +6,6 @@
 
 #include <QBitmap>
 #include <QGuiApplication>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QQuickItem>
 #include <QScreen>
@@ -18,11 +17,6 @@ using namespace Qt::StringLiterals;
 
 /// The corners of the panel, as MenuBarView draws them.
 constexpr double cornerRadius = 12;
-
-/// Clicks on the desktop and on panels move no focus: X11 tells of them only who holds the pointer.
-bool isX11() {
-    return QGuiApplication::platformName() == "xcb"_L1;
-}
 
 const QScreen* screenAt(const QPoint& point) {
     const QScreen* screen = QGuiApplication::screenAt(point);
@@ -74,14 +68,14 @@ void MenuBarPanel::open(const QRect& icon) {
     // The keyboard starts on the panel itself, which tells assistive technology what came up.
     view()->rootObject()->forceActiveFocus(Qt::PopupFocusReason);
     view()->show();
+    m_window->setOpen(true);
     view()->requestActivate();
 }
 
 void MenuBarPanel::close() {
     if (!isOpen())
         return;
-    if (isX11())
-        view()->setMouseGrabEnabled(false);
+    m_window->setOpen(false);
     view()->hide();
     m_model.setIsFollowing(false);
 }
@@ -100,7 +94,8 @@ void MenuBarPanel::makeView() {
     view.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                   Qt::NoDropShadowWindowHint);
     view.setResizeMode(QQuickView::SizeViewToRootObject);
-    view.installEventFilter(this);
+    m_window = PanelWindow::make(view);
+    connect(m_window, &PanelWindow::clickedElsewhere, this, &MenuBarPanel::closeFromOutside);
     m_scene.load(QUrl(u"qrc:/qt/qml/Kestrowind/MenuBar/MenuBarView.qml"_s), m_model);
     connect(&view, &QWindow::heightChanged, this, &MenuBarPanel::place);
     connect(&view, &QWindow::activeChanged, this, [this, &view] {
@@ -128,19 +123,6 @@ QColor MenuBarPanel::background(ColorScheme scheme) const {
     return m_isComposited ? Qt::transparent
                           : Palette::composited(Palette::colors(scheme).controlBorder,
                                                 Palette::colors(scheme).panelBackground);
-}
-
-bool MenuBarPanel::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Expose && isOpen() && view()->isExposed() && isX11())
-        view()->setMouseGrabEnabled(true);
-    if (event->type() == QEvent::MouseButtonPress) {
-        const QPointF position = static_cast<QMouseEvent*>(event)->position();
-        if (!QRectF(QPointF(), QSizeF(view()->size())).contains(position)) {
-            closeFromOutside();
-            return true;
-        }
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 } // namespace kestrowind

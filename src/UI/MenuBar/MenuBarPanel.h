@@ -3,9 +3,11 @@
 #include "UI/DesignSystem/DesktopCompositing.h"
 #include "UI/DesignSystem/LateScene.h"
 #include "UI/MenuBar/MenuBarModel.h"
+#include "UI/MenuBar/PanelWindow.h"
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPointer>
 #include <QRect>
 
 #include <chrono>
@@ -39,8 +41,6 @@ public:
     /// Absent while there is no scene.
     [[nodiscard]] QQuickView* view() const { return m_scene.view(); }
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 Q_SIGNALS:
     void quitRequested();
     /// What the closed panel was made of is gone.
@@ -58,7 +58,8 @@ private:
     bool m_isComposited = true; ///< the desktop, when the scene was made
     bool m_wasActive = false;
     QElapsedTimer m_sinceClosedFromOutside;
-    LateScene m_scene; ///< goes before the model that it shows
+    QPointer<PanelWindow> m_window; ///< goes with the view
+    LateScene m_scene;              ///< goes before the model that it shows
 };
 
 } // namespace kestrowind

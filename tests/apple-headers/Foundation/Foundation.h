@@ -22,7 +22,10 @@ typedef unsigned long NSUInteger;
 #define NS_ENUM(type, name)                                                                        \
     enum name : type name;                                                                         \
     enum name : type
-#define NS_OPTIONS(type, name) NS_ENUM(type, name)
+// In C++ what is combined stays a number.
+#define NS_OPTIONS(type, name)                                                                     \
+    type name;                                                                                     \
+    enum : type
 
 typedef struct objc_selector* SEL;
 
@@ -74,6 +77,7 @@ typedef struct {
 
 @interface NSArray<__covariant ObjectType> : NSObject <NSFastEnumeration>
 @property(readonly) NSUInteger count;
+@property(readonly) ObjectType firstObject;
 + (instancetype)arrayWithObjects:(const ObjectType[])objects count:(NSUInteger)count; // @[ ]
 @end
 

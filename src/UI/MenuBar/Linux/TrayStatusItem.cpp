@@ -1,13 +1,9 @@
-#include "UI/MenuBar/TrayStatusItem.h"
+#include "UI/MenuBar/Linux/TrayStatusItem.h"
 
 #include "Core/Logging.h"
 #include "Platform/Notifications.h"
 
-#include <QGuiApplication>
-
 namespace kestrowind {
-
-using namespace Qt::StringLiterals;
 
 std::unique_ptr<StatusItem> makeStatusItem() {
     return std::make_unique<TrayStatusItem>();
@@ -22,11 +18,6 @@ TrayStatusItem::TrayStatusItem(SystemTrayWatch::Look isTrayThere)
 
 TrayStatusItem::~TrayStatusItem() = default;
 
-/// A Mac's menu bar takes pictures as wide as their text and colours them itself.
-StatusItem::Style TrayStatusItem::style() const {
-    return QGuiApplication::platformName() == "cocoa"_L1 ? Style::templateLabel : Style::square;
-}
-
 void TrayStatusItem::show() {
     m_icon = std::make_unique<QSystemTrayIcon>(this);
     connect(m_icon.get(), &QSystemTrayIcon::activated, this, &TrayStatusItem::activated);
@@ -36,9 +27,6 @@ void TrayStatusItem::show() {
 }
 
 void TrayStatusItem::setCommands(const QList<Command>& commands) {
-    // Items of a Mac's menu bar have no menu beside what a click opens.
-    if (style() == Style::templateLabel)
-        return;
     m_menu = std::make_unique<QMenu>();
     for (const Command& command : commands) {
         m_menu->addAction(command.title, this, command.run);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "UI/MenuBar/Linux/SystemTrayWatch.h"
 #include "UI/MenuBar/StatusItem.h"
-#include "UI/MenuBar/SystemTrayWatch.h"
 
 #include <QMenu>
 #include <QSystemTrayIcon>
@@ -10,8 +10,7 @@
 
 namespace kestrowind {
 
-/// The toolkit's tray icon, made once there is a tray: a status-notifier host, an XEmbed tray, or a
-/// Mac's menu bar.
+/// The toolkit's tray icon, made once there is a tray: a status-notifier host or an XEmbed tray.
 class TrayStatusItem final : public StatusItem {
     Q_OBJECT
 
@@ -23,7 +22,7 @@ public:
     void start() override { m_watch.start(); }
     void lookNow() override { m_watch.lookNow(); }
     [[nodiscard]] bool isPlaced() const override { return m_icon != nullptr; }
-    [[nodiscard]] Style style() const override;
+    [[nodiscard]] Style style() const override { return Style::square; }
     [[nodiscard]] QRect geometry() const override { return m_icon->geometry(); }
     void setCommands(const QList<Command>& commands) override;
     void setPicture(const QIcon& picture, const QString& toolTip) override;
