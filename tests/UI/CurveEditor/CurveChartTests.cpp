@@ -116,7 +116,7 @@ TEST_F(CurveChart, TakesEditsFromTheKeyboard) {
              {Qt::Key_Insert, Qt::NoModifier, "add: 95 100"}, // half of the flat part at the end
              {Qt::Key_Backspace, Qt::NoModifier, "delete 3"},
          }) {
-        EXPECT_TRUE(chart.pressKey(chart.currentPoint(), key, modifiers));
+        EXPECT_TRUE(chart.pressKey(chart.currentPoint(), key, Qt::KeyboardModifiers(modifiers)));
         EXPECT_EQ(takeEdits(), QStringList{QString::fromLatin1(edit)});
     }
     EXPECT_EQ(chart.currentPoint(), 2) << "the last point is the one before the deleted one";
