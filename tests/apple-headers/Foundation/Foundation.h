@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Availability.h>
 #include <dispatch/dispatch.h>
 #include <stddef.h>
 #include <stdint.h>
@@ -162,7 +163,7 @@ typedef NS_OPTIONS(NSUInteger, NSXPCConnectionOptions) {
 - (void)invalidate;
 - (void)scheduleSendBarrierBlock:(void (^)(void))block;
 - (void)setCodeSigningRequirement:(NSString*)requirement
-    __attribute__((availability(macos, introduced = 13.0)));
+    API_AVAILABLE(macos(13.0));
 @end
 
 @class NSXPCListener;
@@ -175,7 +176,7 @@ typedef NS_OPTIONS(NSUInteger, NSXPCConnectionOptions) {
 - (instancetype)initWithMachServiceName:(NSString*)name;
 @property(weak) id<NSXPCListenerDelegate> delegate;
 - (void)setConnectionCodeSigningRequirement:(NSString*)requirement
-    __attribute__((availability(macos, introduced = 13.0)));
+    API_AVAILABLE(macos(13.0));
 - (void)resume;
 - (void)invalidate;
 @end

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Availability.h>
 #include <dispatch/dispatch.h>
 #include <mach/mach.h>
 
@@ -20,7 +21,7 @@ typedef void (*IOServiceInterestCallback)(void* refcon, io_service_t service, ui
                                           void* messageArgument);
 
 extern "C" {
-extern const mach_port_t kIOMainPortDefault __attribute__((availability(macos, introduced = 12.0)));
+extern const mach_port_t kIOMainPortDefault API_AVAILABLE(macos(12.0));
 
 CFMutableDictionaryRef IOServiceMatching(const char* name);
 io_service_t IOServiceGetMatchingService(mach_port_t mainPort, CFDictionaryRef matching);

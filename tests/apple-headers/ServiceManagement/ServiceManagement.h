@@ -8,7 +8,7 @@ typedef NS_ENUM(NSInteger, SMAppServiceStatus) {
     SMAppServiceStatusRequiresApproval,
 };
 
-__attribute__((availability(macos, introduced = 13.0)))
+API_AVAILABLE(macos(13.0))
 @interface SMAppService : NSObject
 @property(class, readonly) SMAppService* mainAppService;
 @property(readonly) SMAppServiceStatus status;

@@ -14,7 +14,9 @@ typedef dispatch_object_t dispatch_queue_t;
 typedef dispatch_object_t dispatch_source_t;
 typedef const struct dispatch_source_type_s* dispatch_source_type_t;
 typedef uint64_t dispatch_time_t;
+#ifdef __BLOCKS__
 typedef void (^dispatch_block_t)(void);
+#endif
 typedef void (*dispatch_function_t)(void*);
 
 #define DISPATCH_TIME_NOW (0ull)
@@ -24,8 +26,6 @@ extern struct dispatch_queue_s _dispatch_main_q;
 extern const struct dispatch_source_type_s _dispatch_source_type_read;
 extern const struct dispatch_source_type_s _dispatch_source_type_timer;
 
-void dispatch_after(dispatch_time_t when, dispatch_queue_t queue, dispatch_block_t block);
-void dispatch_async(dispatch_queue_t queue, dispatch_block_t block);
 [[noreturn]] void dispatch_main(void);
 void dispatch_resume(dispatch_object_t object);
 void dispatch_set_context(dispatch_object_t object, void* context);
@@ -33,10 +33,14 @@ dispatch_time_t dispatch_time(dispatch_time_t when, int64_t delta);
 dispatch_source_t dispatch_source_create(dispatch_source_type_t type, uintptr_t handle,
                                          uintptr_t mask, dispatch_queue_t queue);
 void dispatch_source_cancel(dispatch_source_t source);
-void dispatch_source_set_event_handler(dispatch_source_t source, dispatch_block_t handler);
 void dispatch_source_set_event_handler_f(dispatch_source_t source, dispatch_function_t handler);
 void dispatch_source_set_timer(dispatch_source_t source, dispatch_time_t start, uint64_t interval,
                                uint64_t leeway);
+#ifdef __BLOCKS__
+void dispatch_after(dispatch_time_t when, dispatch_queue_t queue, dispatch_block_t block);
+void dispatch_async(dispatch_queue_t queue, dispatch_block_t block);
+void dispatch_source_set_event_handler(dispatch_source_t source, dispatch_block_t handler);
+#endif
 }
 
 #define DISPATCH_SOURCE_TYPE_READ (&_dispatch_source_type_read)
