@@ -8,8 +8,11 @@
 
 #include <QCoroTask>
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QPromise>
 #include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <gmock/gmock.h>
 
@@ -272,6 +275,60 @@ cp '/it'\''s.plist' '/Library/LaunchDaemons/app.kestrowind.helper.plist'
 chown root:wheel '/Library/LaunchDaemons/app.kestrowind.helper.plist'
 chmod 644 '/Library/LaunchDaemons/app.kestrowind.helper.plist'
 launchctl bootstrap system '/Library/LaunchDaemons/app.kestrowind.helper.plist')"_s);
+}
+
+TEST(HelperInstallation, SaysTheSameToEveryShell) {
+    // Commands that note the words they are given, and nobody else's.
+    const QTemporaryDir commands;
+    for (const auto& name :
+         {u"mkdir"_s, u"launchctl"_s, u"cp"_s, u"chown"_s, u"chmod"_s, u"rm"_s}) {
+        QFile command(commands.filePath(name));
+        ASSERT_TRUE(command.open(QIODevice::WriteOnly));
+        command.write("#!/bin/sh\nprintf '%s\\037' \"${0##*/}\" \"$@\"\nprintf '\\036'\n");
+        command.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    QString program = u"/ä€𝄞\n\t"_s;
+    for (char16_t character = u' '; character <= u'~'; ++character)
+        program += QChar(character);
+    const QString job = u"/$(id) `id` \\' \"${HOME}\" 'Fan\\\\"_s;
+    const QList<QStringList> expected{
+        {u"mkdir"_s, u"-p"_s, u"/Library/PrivilegedHelperTools"_s},
+        {u"launchctl"_s, u"bootout"_s, u"system/app.kestrowind.helper"_s},
+        {u"cp"_s, program, executable},
+        {u"chown"_s, u"root:wheel"_s, executable},
+        {u"chmod"_s, u"755"_s, executable},
+        {u"cp"_s, job, plist},
+        {u"chown"_s, u"root:wheel"_s, plist},
+        {u"chmod"_s, u"644"_s, plist},
+        {u"launchctl"_s, u"bootstrap"_s, u"system"_s, plist},
+        {u"launchctl"_s, u"bootout"_s, u"system/app.kestrowind.helper"_s},
+        {u"rm"_s, u"-f"_s, plist, executable}};
+    const QString script = HelperInstallation::installScript(program, job) + u'\n' +
+                           HelperInstallation::removalScript();
+    int shells = 0;
+    for (QStringList shell : {QStringList{u"dash"_s},
+                              {u"bash"_s, u"--posix"_s},
+                              {u"mksh"_s},
+                              {u"busybox"_s, u"sh"_s}}) {
+        const QString name = shell.front();
+        const QString path = QStandardPaths::findExecutable(shell.takeFirst());
+        if (path.isEmpty())
+            continue;
+        QProcess process;
+        QProcessEnvironment environment;
+        environment.insert(u"PATH"_s, commands.path());
+        process.setProcessEnvironment(environment);
+        process.start(path, shell + QStringList{u"-c"_s, script});
+        ASSERT_TRUE(process.waitForFinished()) << name.toStdString();
+        QList<QStringList> said;
+        for (const QString& words :
+             QString::fromUtf8(process.readAll()).split(u'\036', Qt::SkipEmptyParts))
+            said.append(words.chopped(1).split(u'\037'));
+        EXPECT_EQ(said, expected) << name.toStdString();
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+        ++shells;
+    }
+    EXPECT_GE(shells, 2) << "of those every system has";
 }
 
 } // namespace
