@@ -18,12 +18,15 @@
 #include <thread>
 #endif
 
+#include <errno.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <pthread.h>
 #include <sched.h>
 #include <signal.h>
+#include <stdio.h>
 #include <stdlib.h>
+#include <string.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <time.h>
@@ -43,3 +46,5 @@
 #pragma GCC poison fdatasync sync_file_range renameat2 fallocate posix_fallocate memfd_create
 #pragma GCC poison gettid pthread_setaffinity_np sched_getcpu sched_setaffinity
 #pragma GCC poison sigwaitinfo sigtimedwait clock_nanosleep
+#pragma GCC poison memrchr mempcpy rawmemchr strchrnul
+#pragma GCC poison program_invocation_name program_invocation_short_name

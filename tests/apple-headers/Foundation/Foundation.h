@@ -162,8 +162,7 @@ typedef NS_OPTIONS(NSUInteger, NSXPCConnectionOptions) {
 - (void)resume;
 - (void)invalidate;
 - (void)scheduleSendBarrierBlock:(void (^)(void))block;
-- (void)setCodeSigningRequirement:(NSString*)requirement
-    API_AVAILABLE(macos(13.0));
+- (void)setCodeSigningRequirement:(NSString*)requirement API_AVAILABLE(macos(13.0));
 @end
 
 @class NSXPCListener;
@@ -175,8 +174,7 @@ typedef NS_OPTIONS(NSUInteger, NSXPCConnectionOptions) {
 @interface NSXPCListener : NSObject
 - (instancetype)initWithMachServiceName:(NSString*)name;
 @property(weak) id<NSXPCListenerDelegate> delegate;
-- (void)setConnectionCodeSigningRequirement:(NSString*)requirement
-    API_AVAILABLE(macos(13.0));
+- (void)setConnectionCodeSigningRequirement:(NSString*)requirement API_AVAILABLE(macos(13.0));
 - (void)resume;
 - (void)invalidate;
 @end
