@@ -90,9 +90,7 @@ void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
         << " temperature=" << QString::number(m_smoothedTemperature, 'f', 6)
         << " percents=" << listText(requested);
 
-    const bool isAnythingRequested =
-        std::ranges::any_of(requested, [](double percent) { return percent > 0; });
-    if (isAnythingRequested)
+    if (isAnythingRequested())
         push(ControlArithmetic::targets(requested, fans));
     else
         push(std::nullopt);
@@ -126,6 +124,14 @@ QCoro::Task<void> ControlEngine::shutDown() {
     co_await m_helper.releaseControl();
     if (engine)
         setApplied(std::nullopt);
+}
+
+bool ControlEngine::isAtWork() const {
+    return m_isOverriding || isAnythingRequested();
+}
+
+bool ControlEngine::isAnythingRequested() const {
+    return std::ranges::any_of(m_requestedPercents, [](double percent) { return percent > 0; });
 }
 
 void ControlEngine::setRequestedPercents(const QList<double>& percents) {

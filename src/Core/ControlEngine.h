@@ -50,6 +50,10 @@ public:
     [[nodiscard]] const std::vector<double>& effectiveTargets() const { return m_effectiveTargets; }
     /// Whether the application drives the fans.
     [[nodiscard]] bool isOverriding() const { return m_isOverriding; }
+    /// Whether it drives the fans or tries to: a call that the helper did not answer leaves its
+    /// targets standing, and the next one has to be in time for them. Changes with
+    /// requestedPercents and isOverriding.
+    [[nodiscard]] bool isAtWork() const;
     /// The temperature at which the curves are evaluated, degrees Celsius.
     [[nodiscard]] double smoothedTemperature() const { return m_smoothedTemperature; }
 
@@ -73,6 +77,7 @@ private:
     void pushTargets(const std::vector<SMCFanReading>& fans);
     QCoro::Task<void> push(std::optional<HelperControlling::Targets> targets);
 
+    [[nodiscard]] bool isAnythingRequested() const;
     void setRequestedPercents(const QList<double>& percents);
     /// Nothing, or an empty list, means that the application does not control.
     void setApplied(std::optional<HelperControlling::Targets> applied);

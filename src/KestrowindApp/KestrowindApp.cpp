@@ -25,11 +25,16 @@ KestrowindApp::KestrowindApp(Platform platform, const LaunchOptions& options, Sc
     , m_delegate(m_platform) {
     m_platform.userDefaults->registerDefault(u"hideDockIconWhenWindowClosed"_s, true);
     registerAlertDefaults(*m_platform.userDefaults);
-    connect(&m_delegate, &AppDelegate::replyToShouldTerminate, this,
-            [this] { m_platform.application->replyToShouldTerminate(); });
+    connect(&m_delegate, &AppDelegate::replyToShouldTerminate, this, [this] {
+        m_platform.activity->setUnderWay(false);
+        m_platform.application->replyToShouldTerminate();
+    });
     const ControlEngine& engine = m_appState.engine();
-    connect(&engine, &ControlEngine::isOverridingChanged, this,
-            [this, &engine] { m_platform.activity->setUnderWay(engine.isOverriding()); });
+    const auto showActivity = [this, &engine] {
+        m_platform.activity->setUnderWay(engine.isAtWork());
+    };
+    connect(&engine, &ControlEngine::requestedPercentsChanged, this, showActivity);
+    connect(&engine, &ControlEngine::isOverridingChanged, this, showActivity);
     if (options.readings) {
         m_readingsPrinter = std::make_unique<ReadingsPrinter>(m_appState, *options.readings);
         // Nobody reads any more: what ran for its readings is done.
