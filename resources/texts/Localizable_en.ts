@@ -204,6 +204,10 @@
         <extracomment>%1: the fan’s name, %2: revolutions per minute</extracomment>
         <translation>%1: %2 revolutions per minute</translation>
     </message>
+    <message id="dashboard.fans.target">
+        <extracomment>What the helper applies. %1: revolutions per minute</extracomment>
+        <translation>Target: %1 rpm</translation>
+    </message>
     <message id="dashboard.fans.title">
         <translation>Fans</translation>
     </message>
@@ -533,6 +537,80 @@
     </message>
     <message id="presets.rename.title">
         <translation>Name of the Preset</translation>
+    </message>
+    <message id="reason.curve">
+        <extracomment>%1: percent, %2: whole degrees Celsius, %3: the preset’s name</extracomment>
+        <translation>%1% for %2 °C on “%3”</translation>
+    </message>
+    <message id="reason.notConfirmed">
+        <translation>Not confirmed by the helper</translation>
+    </message>
+    <message id="reason.quickBoost">
+        <extracomment>%1: percent</extracomment>
+        <translation>Quick boost, %1%</translation>
+    </message>
+    <message id="reason.safetyFloor">
+        <extracomment>The helper keeps the fan above what was asked for. %1: whole degrees Celsius</extracomment>
+        <translation>Safety floor: %1 °C</translation>
+    </message>
+    <message id="reason.step.automatic">
+        <translation>“Automatic” leaves the fans to the system.</translation>
+    </message>
+    <message id="reason.step.boost">
+        <extracomment>%1: percent</extracomment>
+        <translation>The quick boost asks for %1%.</translation>
+    </message>
+    <message id="reason.step.coolingDown">
+        <extracomment>%1: measured, %2: at which the curve is read; formatted degrees Celsius</extracomment>
+        <translation>Temperature: %1 °C, held at %2 °C while it cools</translation>
+    </message>
+    <message id="reason.step.curve">
+        <extracomment>%1: the preset’s name, %2: percent</extracomment>
+        <translation>“%1” asks for %2%.</translation>
+    </message>
+    <message id="reason.step.noDemand">
+        <translation>Nothing is asked for: the system controls the fan.</translation>
+    </message>
+    <message id="reason.step.noHelper">
+        <translation>Without the helper the system controls the fans.</translation>
+    </message>
+    <message id="reason.step.notApplied">
+        <extracomment>%1: asked for, %2: measured, revolutions per minute</extracomment>
+        <translation>%1 rpm asked for, %2 measured</translation>
+    </message>
+    <message id="reason.step.notConfirmed">
+        <translation>The helper does not say that it applies this.</translation>
+    </message>
+    <message id="reason.step.safetyFloor">
+        <extracomment>%1: whole degrees Celsius</extracomment>
+        <translation>At %1 °C the helper keeps the fan above that.</translation>
+    </message>
+    <message id="reason.step.slowingDown">
+        <translation>The fan is slowing down.</translation>
+    </message>
+    <message id="reason.step.smallerBoost">
+        <extracomment>%1: percent</extracomment>
+        <translation>The quick boost of %1% is less.</translation>
+    </message>
+    <message id="reason.step.speedingUp">
+        <translation>The fan is speeding up.</translation>
+    </message>
+    <message id="reason.step.speeds">
+        <extracomment>%1: asked for, %2: applied by the helper, %3: measured, revolutions per minute</extracomment>
+        <translation>%1 rpm asked for, %2 applied, %3 measured</translation>
+    </message>
+    <message id="reason.step.temperature">
+        <extracomment>%1: formatted degrees Celsius</extracomment>
+        <translation>Temperature: %1 °C</translation>
+    </message>
+    <message id="reason.step.waitingForControl">
+        <translation>The fans have yet to be handed over.</translation>
+    </message>
+    <message id="reason.system">
+        <translation>System control</translation>
+    </message>
+    <message id="reason.waitingForControl">
+        <translation>Waiting for control</translation>
     </message>
     <message id="settings.about.applicationName">
         <translation>Kestrowind</translation>

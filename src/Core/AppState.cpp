@@ -48,6 +48,17 @@ void AppState::activate(const QString& slotID) {
     m_engine->pushSoon();
 }
 
+QList<FanReason> AppState::fanReasons() const {
+    const auto& sample = m_telemetry->latest();
+    if (!sample)
+        return {};
+    QList<FanReason> reasons;
+    for (std::size_t fan = 0; fan < sample->fans.size(); ++fan)
+        reasons.append(FanReason::of(m_control.facts(), m_engine->answeredDemand(),
+                                     m_engine->effectiveTargets(), *sample, fan));
+    return reasons;
+}
+
 void AppState::setOpenMainWindow(OpenMainWindow openMainWindow) {
     m_openMainWindow = std::move(openMainWindow);
     Q_EMIT openMainWindowChanged();

@@ -2,6 +2,7 @@
 
 #include "Core/ControlEngine.h"
 #include "Core/ControlState.h"
+#include "Core/FanReason.h"
 #include "Core/HelperControlling.h"
 #include "Core/PresetStore.h"
 #include "Core/TelemetryStore.h"
@@ -36,6 +37,9 @@ public:
     [[nodiscard]] PresetStore& presets() const { return *m_presets; }
     [[nodiscard]] ControlEngine& engine() const { return *m_engine; }
     [[nodiscard]] const ControlState& control() const { return m_control; }
+
+    /// Why each fan of the latest sample runs as it does, in the sample's order; empty without one.
+    [[nodiscard]] QList<FanReason> fanReasons() const;
 
     /// Opens the main window; absent until somebody can.
     [[nodiscard]] const OpenMainWindow& openMainWindow() const { return m_openMainWindow; }

@@ -77,6 +77,7 @@ void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
         qCDebug(engineLog).nospace()
             << "not pushing: fans=" << fans.size() << " helperInstalled=" << m_helper.isInstalled();
         setRequestedPercents({});
+        m_answeredDemand = {};
         setIsOverriding(false);
         m_watch.clear();
         return;
@@ -90,27 +91,30 @@ void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
         << " temperature=" << QString::number(m_smoothedTemperature, 'f', 6)
         << " percents=" << listText(requested);
 
-    if (isAnythingRequested())
-        push(ControlArithmetic::targets(requested, fans));
-    else
-        push(std::nullopt);
+    push({.preset = preset,
+          .temperature = m_smoothedTemperature,
+          .measuredTemperature = m_telemetry.systemTemperature().value_or(0),
+          .boostPercent = m_quickBoostPercent,
+          .targets = isAnythingRequested() ? ControlArithmetic::targets(requested, fans)
+                                           : HelperControlling::Targets()});
 }
 
-QCoro::Task<void> ControlEngine::push(std::optional<HelperControlling::Targets> targets) {
+QCoro::Task<void> ControlEngine::push(ControlDemand demand) {
     // While a call is awaited the engine, and the helper with it, may go.
     const QPointer<ControlEngine> engine(this);
-    const bool isRequested = targets.has_value();
+    const bool isRequested = !demand.targets.empty();
     m_watch.expect();
-    if (targets) {
-        auto applied = co_await m_helper.setTargets(std::move(*targets));
+    if (isRequested) {
+        auto applied = co_await m_helper.setTargets(demand.targets);
         if (!engine)
             co_return;
-        setApplied(std::move(applied));
-    } else if (m_isOverriding) {
-        co_await m_helper.releaseControl();
+        setApplied(std::move(applied), demand);
+    } else {
+        if (m_isOverriding)
+            co_await m_helper.releaseControl();
         if (!engine)
             co_return;
-        setApplied(std::nullopt);
+        setApplied(std::nullopt, demand);
     }
     const auto status = co_await m_helper.fetchStatus();
     if (engine && !isRequested && status)
@@ -139,13 +143,16 @@ void ControlEngine::setRequestedPercents(const QList<double>& percents) {
         Q_EMIT requestedPercentsChanged();
 }
 
-void ControlEngine::setApplied(std::optional<HelperControlling::Targets> applied) {
+void ControlEngine::setApplied(std::optional<HelperControlling::Targets> applied,
+                               const ControlDemand& demand) {
+    m_answeredDemand = demand;
     const auto isDriven = [](double target) { return target > 0; };
     if (applied && std::ranges::any_of(*applied, isDriven))
         m_watch.clear();
     if (assignIfChanged(m_effectiveTargets, applied.value_or(HelperControlling::Targets())))
         Q_EMIT effectiveTargetsChanged();
     setIsOverriding(!m_effectiveTargets.empty());
+    Q_EMIT demandAnswered();
 }
 
 void ControlEngine::setIsOverriding(bool isOverriding) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Core/ControlDemand.h"
 #include "Core/ControlWatch.h"
 #include "Core/HelperControlling.h"
 #include "Shared/SMCKit/SMCFanReading.h"
@@ -48,6 +49,9 @@ public:
     [[nodiscard]] const QList<double>& requestedPercents() const { return m_requestedPercents; }
     /// What the helper applies since the last push (RPM); empty while it does not control.
     [[nodiscard]] const std::vector<double>& effectiveTargets() const { return m_effectiveTargets; }
+    /// What was asked for when the helper said what it applies; kept together with
+    /// effectiveTargets, while the next demand may be under way already.
+    [[nodiscard]] const ControlDemand& answeredDemand() const { return m_answeredDemand; }
     /// Whether the application drives the fans.
     [[nodiscard]] bool isOverriding() const { return m_isOverriding; }
     /// Whether it drives the fans or tries to: a call that the helper did not answer leaves its
@@ -71,16 +75,19 @@ Q_SIGNALS:
     void requestedPercentsChanged();
     void effectiveTargetsChanged();
     void isOverridingChanged();
+    /// With every answer, whether or not anything is another than before.
+    void demandAnswered();
 
 private:
     void updateSmoothedTemperature(std::chrono::system_clock::time_point now);
     void pushTargets(const std::vector<SMCFanReading>& fans);
-    QCoro::Task<void> push(std::optional<HelperControlling::Targets> targets);
+    QCoro::Task<void> push(ControlDemand demand);
 
     [[nodiscard]] bool isAnythingRequested() const;
     void setRequestedPercents(const QList<double>& percents);
     /// Nothing, or an empty list, means that the application does not control.
-    void setApplied(std::optional<HelperControlling::Targets> applied);
+    void setApplied(std::optional<HelperControlling::Targets> applied,
+                    const ControlDemand& demand = {});
     void setIsOverriding(bool isOverriding);
 
     TelemetryStore& m_telemetry;
@@ -90,6 +97,7 @@ private:
     double m_quickBoostPercent = 0;
     QList<double> m_requestedPercents;
     std::vector<double> m_effectiveTargets;
+    ControlDemand m_answeredDemand;
     bool m_isOverriding = false;
     double m_smoothedTemperature = 0;
     std::optional<std::chrono::system_clock::time_point> m_lastTickDate;

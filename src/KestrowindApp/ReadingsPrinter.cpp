@@ -33,15 +33,29 @@ std::optional<std::string> phaseText(const ControlState::Facts& control) {
     return phase ? std::optional(std::string(text(*phase))) : std::nullopt;
 }
 
-Json fanReadings(const TelemetrySample& sample) {
+Json reasonRecord(const FanReason& reason) {
+    return {{"cause", FanReason::word(reason.cause)},
+            {"temperature", reason.temperature},
+            {"measuredTemperature", reason.measuredTemperature},
+            {"curvePercent", reason.curvePercent},
+            {"boostPercent", reason.boostPercent},
+            {"askedRPM", reason.askedSpeed},
+            {"appliedRPM", orNull(reason.appliedSpeed)}};
+}
+
+Json fanReadings(const AppState& appState, const TelemetrySample& sample) {
+    const QList<FanReason> reasons = appState.fanReasons();
     Json fans = Json::array();
     for (const SMCFanReading& fan : sample.fans) {
-        fans.push_back({{"index", fan.index},
-                        {"actualRPM", fan.actualRPM},
-                        {"targetRPM", fan.targetRPM},
-                        {"minRPM", fan.minRPM},
-                        {"maxRPM", fan.maxRPM},
-                        {"mode", orNull(fan.modeRaw)}});
+        const auto position = static_cast<qsizetype>(fans.size());
+        fans.push_back(
+            {{"index", fan.index},
+             {"actualRPM", fan.actualRPM},
+             {"targetRPM", fan.targetRPM},
+             {"minRPM", fan.minRPM},
+             {"maxRPM", fan.maxRPM},
+             {"mode", orNull(fan.modeRaw)},
+             {"reason", position < reasons.size() ? reasonRecord(reasons[position]) : Json()}});
     }
     return fans;
 }
@@ -83,7 +97,7 @@ std::string ReadingsPrinter::json(const AppState& appState, const TelemetrySampl
         {"hottest", orNull(known(temperatures.hottest))},
         {"systemTemperature", orNull(known(appState.telemetry().systemTemperature().value_or(0)))},
         {"smoothedTemperature", engine.smoothedTemperature()},
-        {"fans", fanReadings(sample)},
+        {"fans", fanReadings(appState, sample)},
         {"preset", preset ? Json(preset->name.toStdString()) : Json()},
         {"quickBoostPercent", engine.quickBoostPercent()},
         {"requestedPercents",

@@ -109,6 +109,7 @@ protected:
         platform.runningApplications = std::make_unique<NoCopies>();
         platform.activationPolicy = kept(policy)();
         platform.loginItem = kept(loginItem)();
+        platform.scriptRunner = std::make_unique<ProcessScriptRunner>(QString());
         platform.helperConnection = helper.factory();
         platform.smc = [this] { return smc; };
         platform.systemAppearance = kept(appearance);

@@ -16,6 +16,8 @@ DashboardModel::DashboardModel(AppState& appState, FileDialogs& fileDialogs, QOb
     appState.telemetry().onSample(this, [this](const TelemetrySample&) { takeSample(); });
     connect(&appState.control(), &ControlState::changed, this,
             &DashboardModel::helperMissingChanged);
+    connect(&appState.control(), &ControlState::changed, this, &DashboardModel::refreshFans);
+    connect(&appState.engine(), &ControlEngine::demandAnswered, this, &DashboardModel::refreshFans);
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &DashboardModel::refreshIfSeen);
     takeSample();
 }
@@ -43,13 +45,24 @@ bool DashboardModel::helperMissing() const {
     return m_appState.control().facts().isHelperMissing();
 }
 
+bool DashboardModel::isRefreshWanted() const {
+    return (!m_visibility.item() || m_visibility.isSeen()) &&
+           select(m_appState.telemetry()) == State::Content;
+}
+
 void DashboardModel::refreshIfSeen() {
-    const TelemetryStore& telemetry = m_appState.telemetry();
-    if ((m_visibility.item() && !m_visibility.isSeen()) || select(telemetry) != State::Content)
+    if (!isRefreshWanted())
         return;
-    m_fans.setRows(FanGaugeFacts::of(telemetry.latest()->fans));
+    refreshFans();
     refreshTemperatures();
     refreshHistory();
+}
+
+void DashboardModel::refreshFans() {
+    if (!isRefreshWanted())
+        return;
+    const TelemetryStore& telemetry = m_appState.telemetry();
+    m_fans.setRows(FanGaugeFacts::of(telemetry.latest()->fans, m_appState.fanReasons()));
 }
 
 void DashboardModel::refreshTemperatures() {

@@ -74,7 +74,9 @@ Q_SIGNALS:
 
 private:
     void takeSample();
+    [[nodiscard]] bool isRefreshWanted() const;
     void refreshIfSeen();
+    void refreshFans();
     void refreshTemperatures();
     void refreshHistory();
 

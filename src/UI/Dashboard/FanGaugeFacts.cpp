@@ -1,8 +1,11 @@
 #include "UI/Dashboard/FanGaugeFacts.h"
 
+#include "Core/FanReasonText.h"
 #include "Core/LocalizedText.h"
+#include "Core/WholeNumberText.h"
 #include "UI/Dashboard/FanSpeedHistory.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kestrowind {
@@ -13,11 +16,14 @@ constexpr double fastestSpin = 2.2;
 
 } // namespace
 
-FanGaugeFacts FanGaugeFacts::of(const SMCFanReading& fan, qsizetype position,
-                                qsizetype totalFanCount) {
+FanGaugeFacts FanGaugeFacts::of(const SMCFanReading& fan, const FanReason& reason,
+                                qsizetype position, qsizetype totalFanCount) {
     const FanFacts facts = FanFacts::of(fan, totalFanCount);
+    const double applied = reason.isDriven() ? reason.appliedSpeed.value_or(0) : 0;
+    const bool hasTarget = applied > 0 && facts.hasFraction;
     // Smaller changes would move the gauge without anybody seeing more.
-    const double fraction = std::round(facts.fraction * 1000) / 1000;
+    const auto rounded = [](double part) { return std::round(part * 1000) / 1000; };
+    const double fraction = rounded(facts.fraction);
     return {
         .index = facts.index,
         .name = facts.name,
@@ -26,6 +32,12 @@ FanGaugeFacts FanGaugeFacts::of(const SMCFanReading& fan, qsizetype position,
         .spoken = facts.isStill
                       ? localized("dashboard.fans.spokenParked").arg(facts.name)
                       : localized("dashboard.fans.spokenSpeed").arg(facts.name, facts.speed),
+        .reason = FanReasonText::sentence(reason),
+        .explanation = FanReasonText::chain(reason).join(u'\n'),
+        .targetText =
+            hasTarget ? localized("dashboard.fans.target").arg(WholeNumberText::rounded(applied))
+                      : QString(),
+        .targetFraction = hasTarget ? rounded(std::min(applied / fan.maxRPM, 1.0)) : -1,
         .fraction = fraction,
         .revolutionsPerSecond = fastestSpin * fraction,
         .isParked = !(fraction > 0),
@@ -33,10 +45,11 @@ FanGaugeFacts FanGaugeFacts::of(const SMCFanReading& fan, qsizetype position,
     };
 }
 
-QList<FanGaugeFacts> FanGaugeFacts::of(const std::vector<SMCFanReading>& fans) {
+QList<FanGaugeFacts> FanGaugeFacts::of(const std::vector<SMCFanReading>& fans,
+                                       const QList<FanReason>& reasons) {
     QList<FanGaugeFacts> all;
     for (const SMCFanReading& fan : fans)
-        all.append(of(fan, all.size(), static_cast<qsizetype>(fans.size())));
+        all.append(of(fan, reasons.at(all.size()), all.size(), reasons.size()));
     return all;
 }
 

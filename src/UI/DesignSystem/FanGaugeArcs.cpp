@@ -16,6 +16,8 @@ namespace {
 
 /// How far a tick reaches inwards and outwards from the ring's middle line, in points.
 constexpr double tickReach = 6.5;
+/// The same of the mark where the fan is to be.
+constexpr double targetReach = 5;
 
 /// The left end of the opening at the bottom, in degrees as painters have them: 0 at three o'clock,
 /// counter-clockwise.
@@ -103,6 +105,8 @@ void FanGaugeArcs::paint(QPainter& painter) {
     painter.setPen(QPen(Palette::faded(ink, 0.35), m_diameter * 0.003 * std::numbers::pi,
                         Qt::SolidLine, Qt::FlatCap));
     painter.translate(ring.center());
+    if (m_target >= 0)
+        paintTarget(painter, sweep * std::min(m_target, 1.0) - start);
     for (const double fraction : {0.25, 0.5, 0.75}) {
         painter.save();
         painter.rotate(sweep * fraction - start);
@@ -110,6 +114,19 @@ void FanGaugeArcs::paint(QPainter& painter) {
                          QPointF(m_diameter / 2 + tickReach, 0));
         painter.restore();
     }
+}
+
+/// A bar across the ring, set off from the filled arc, which it may lie on.
+void FanGaugeArcs::paintTarget(QPainter& painter, double degrees) const {
+    const bool isDark = colorScheme() == ColorScheme::dark;
+    painter.save();
+    painter.rotate(degrees);
+    const QLineF bar(m_diameter / 2 - targetReach, 0, m_diameter / 2 + targetReach, 0);
+    painter.setPen(QPen(isDark ? Qt::black : Qt::white, 5, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(bar);
+    painter.setPen(QPen(isDark ? Qt::white : Qt::black, 2, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(bar);
+    painter.restore();
 }
 
 void FanGaugeArcs::display(double fraction) {

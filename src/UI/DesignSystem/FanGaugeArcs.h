@@ -15,6 +15,8 @@ class FanGaugeArcs : public kestrowind::PaintedItem {
     Q_PROPERTY(double lineWidth MEMBER m_lineWidth NOTIFY lookChanged FINAL)
     Q_PROPERTY(double gapDegrees MEMBER m_gapDegrees NOTIFY lookChanged FINAL)
     Q_PROPERTY(double fraction READ fraction WRITE setFraction NOTIFY fractionChanged FINAL)
+    /// Where the fan is on its way to, as a mark on the ring; none below 0.
+    Q_PROPERTY(double target MEMBER m_target NOTIFY lookChanged FINAL)
     Q_PROPERTY(double animationDuration READ animationDuration WRITE setAnimationDuration NOTIFY
                    animationDurationChanged FINAL)
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
@@ -48,6 +50,7 @@ protected:
     [[nodiscard]] QRectF paintedBounds() const override;
 
 private:
+    void paintTarget(QPainter& painter, double degrees) const;
     void display(double fraction);
     void stopUnseen();
     [[nodiscard]] bool mayMove() const;
@@ -57,6 +60,7 @@ private:
     double m_gapDegrees = 0; ///< the opening, centred at the bottom
     double m_fraction = 0;
     double m_displayedFraction = 0;
+    double m_target = -1;
     double m_animationDuration = 0.6;
     bool m_isActive = true;
     VisibilityWatch m_visibility;

@@ -18,9 +18,9 @@ double widestDigit(const QFontMetricsF& metrics) {
 
 } // namespace
 
-TabularLine::TabularLine(QString text, QFont font)
+TabularLine::TabularLine(QString text, const QFont& font)
     : m_text(std::move(text))
-    , m_font(std::move(font))
+    , m_font(font)
     , m_digitWidth(widestDigit(QFontMetricsF(m_font))) {}
 
 double TabularLine::width() const {

@@ -12,7 +12,7 @@ namespace kestrowind {
 /// changes and numbers above each other line up. In points of the layout.
 class TabularLine {
 public:
-    TabularLine(QString text, QFont font);
+    TabularLine(QString text, const QFont& font);
 
     [[nodiscard]] double width() const;
     /// With the painter's pen; start is on the base line.

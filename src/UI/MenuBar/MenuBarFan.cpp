@@ -1,11 +1,13 @@
 #include "UI/MenuBar/MenuBarFan.h"
 
 #include "Core/FanFacts.h"
+#include "Core/FanReasonText.h"
 #include "Core/LocalizedText.h"
 
 namespace kestrowind {
 
-MenuBarFan MenuBarFan::of(const SMCFanReading& fan, qsizetype totalFanCount) {
+MenuBarFan MenuBarFan::of(const SMCFanReading& fan, const FanReason& reason,
+                          qsizetype totalFanCount) {
     const FanFacts facts = FanFacts::of(fan, totalFanCount);
     const QString parked = localized("menuBar.fan.parked");
     const bool showsBar = facts.hasFraction && !facts.isStill;
@@ -18,6 +20,7 @@ MenuBarFan MenuBarFan::of(const SMCFanReading& fan, qsizetype totalFanCount) {
                     .arg(facts.name, facts.isStill
                                          ? parked
                                          : localized("menuBar.fan.spokenSpeed").arg(facts.speed)),
+            .reason = FanReasonText::sentence(reason),
             .showsBar = showsBar,
             .fraction = showsBar ? facts.fraction : 0};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Shared/SMCKit/SMCFanReading.h"
+#include "Core/FanReason.h"
 #include "UI/DesignSystem/RowListModel.h"
 
 #include <QObject>
@@ -16,6 +16,7 @@ struct MenuBarFan {
     Q_PROPERTY(bool isParked MEMBER isParked CONSTANT FINAL)
     Q_PROPERTY(QString speedText MEMBER speedText CONSTANT FINAL)
     Q_PROPERTY(QString spokenText MEMBER spokenText CONSTANT FINAL)
+    Q_PROPERTY(QString reason MEMBER reason CONSTANT FINAL)
     Q_PROPERTY(bool showsBar MEMBER showsBar CONSTANT FINAL)
     Q_PROPERTY(double fraction MEMBER fraction CONSTANT FINAL)
     QML_VALUE_TYPE(menuBarFan)
@@ -26,10 +27,12 @@ public:
     bool isParked = false;
     QString speedText;  ///< digits, or that the fan is parked
     QString spokenText; ///< the whole row in one line
+    QString reason;     ///< why the fan runs as it does, in a line
     bool showsBar = false;
     double fraction = 0; ///< of the highest speed, 0 to 1
 
-    [[nodiscard]] static MenuBarFan of(const SMCFanReading& fan, qsizetype totalFanCount);
+    [[nodiscard]] static MenuBarFan of(const SMCFanReading& fan, const FanReason& reason,
+                                       qsizetype totalFanCount);
 
     bool operator==(const MenuBarFan&) const = default;
 };

@@ -3,7 +3,7 @@ import Kestrowind.DesignSystem
 import Kestrowind.MenuBar
 
 // One fan: its name, its speed, and how much of its highest speed that is.
-Item {
+PointerWatch {
     id: root
 
     required property menuBarFan row
@@ -11,6 +11,9 @@ Item {
     implicitHeight: bar.y + bar.height
     Accessible.role: Accessible.StaticText
     Accessible.name: row.spokenText
+    Accessible.description: row.reason
+
+    Tooltip { text: root.row.reason; shown: root.hovered }
 
     FanGlyph {
         x: 0

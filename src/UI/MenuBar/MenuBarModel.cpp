@@ -55,8 +55,9 @@ void MenuBarModel::refreshReadings() {
         readings = {.isWaiting = false,
                     .cpu = MenuBarTemperature::cpu(sample->temperatures.cpuMax),
                     .gpu = MenuBarTemperature::gpu(sample->temperatures.gpuMax)};
+        const QList<FanReason> reasons = m_appState.fanReasons();
         for (const SMCFanReading& fan : sample->fans)
-            fans.append(MenuBarFan::of(fan, static_cast<qsizetype>(sample->fans.size())));
+            fans.append(MenuBarFan::of(fan, reasons.at(fans.size()), reasons.size()));
     }
     m_fans.setRows(fans);
     if (assignIfChanged(m_readings, readings))

@@ -35,7 +35,8 @@ TEST(FanGaugeFacts, ShowsSpeedAndSpin) {
         {infinity, infinity, u"--"_s, false, 0}, {1e300, 1e300, u"1000000000000000"_s, false, 1},
     };
     for (const Row& row : rows) {
-        const auto facts = FanGaugeFacts::of({.actualRPM = row.actual, .maxRPM = row.most}, 0, 1);
+        const auto facts =
+            FanGaugeFacts::of({.actualRPM = row.actual, .maxRPM = row.most}, {}, 0, 1);
         EXPECT_EQ(facts.readout, row.readout);
         EXPECT_EQ(facts.caption,
                   localized(row.showsParkedCaption ? "gauge.readout.parked" : "gauge.readout.rpm"))

@@ -58,6 +58,33 @@ TEST_F(DashboardViewTest, IsAsHighAsItsContentAndKeepsItsGauges) {
     EXPECT_EQ(height(), loading);
 }
 
+TEST_F(DashboardViewTest, SaysWhyAFanRunsAsItDoesAndHowThatCameAbout) {
+    view.showActive();
+    ingest(sampleAt(0, 50, 50, {2000}));
+    QQuickItem* reason = view.awaited(u"System control"_s, QAccessible::Button);
+    ASSERT_NE(reason, nullptr);
+    state.boost(40);
+    ASSERT_NE(view.awaited(u"Quick boost, 40%"_s, QAccessible::Button), nullptr);
+    EXPECT_EQ(gauges().first()->property("target"), 0.52) << "3120 of 6000";
+
+    const QString chain = u"The quick boost asks for 40%.\n"
+                          "3120 rpm asked for, 3120 applied, 2000 measured\n"
+                          "The fan is speeding up."_s;
+    EXPECT_EQ(view.description(*reason), chain);
+    const auto isOpen = [&] { return view.named(chain, QAccessible::StaticText) != nullptr; };
+    EXPECT_FALSE(isOpen());
+    view.click(u"Quick boost, 40%"_s);
+    EXPECT_TRUE(QTest::qWaitFor(isOpen));
+    view.press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isOpen(); }));
+    reason->forceActiveFocus(Qt::TabFocusReason);
+    view.press(Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor(isOpen));
+    QTest::mouseClick(&view, Qt::LeftButton, {}, {5, 5});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isOpen(); }));
+    EXPECT_TRUE(reason->hasActiveFocus()) << "it has the keyboard again";
+}
+
 TEST_F(DashboardViewTest, AChartSpeaksUnderThePointer) {
     view.showActive();
     ingest(sampleAt(0, 50, 40, {2000}));

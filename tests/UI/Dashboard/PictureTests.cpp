@@ -63,15 +63,20 @@ TEST(PictureTests, AGaugeStandsAroundItsSpeedAndAboveItsName) {
                 ChartLegendEntry { text: 'Right'; LineSample { isDashed: true } }
             }
         })",
-                {292, 204});
+                {292, 224});
     scene.item().setProperty(
-        "leftFan",
-        QVariant::fromValue(FanGaugeFacts{
-            .name = u"Left"_s, .readout = u"2317"_s, .caption = u"rpm"_s, .fraction = 0.35}));
-    scene.item().setProperty(
-        "rightFan",
-        QVariant::fromValue(FanGaugeFacts{
-            .name = u"Right"_s, .readout = u"0"_s, .caption = u"parked"_s, .isParked = true}));
+        "leftFan", QVariant::fromValue(FanGaugeFacts{.name = u"Left"_s,
+                                                     .readout = u"2317"_s,
+                                                     .caption = u"rpm"_s,
+                                                     .reason = u"57% for 67 °C on “Cool”"_s,
+                                                     .targetFraction = 0.6,
+                                                     .fraction = 0.35}));
+    scene.item().setProperty("rightFan",
+                             QVariant::fromValue(FanGaugeFacts{.name = u"Right"_s,
+                                                               .readout = u"0"_s,
+                                                               .caption = u"parked"_s,
+                                                               .reason = u"System control"_s,
+                                                               .isParked = true}));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&scene.window()));
     EXPECT_TRUE(looksLike(u"Dashboard/gauges"_s, scene.inBothSchemes()));
 }

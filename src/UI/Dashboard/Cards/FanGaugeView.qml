@@ -2,7 +2,8 @@ import QtQuick
 import Kestrowind.DesignSystem
 import Kestrowind.Dashboard
 
-// One fan: the ring, the speed in it and the turning glyph in the ring's opening.
+// One fan: the ring with what the helper applies as a mark on it, the speed in it, the turning glyph in
+// its opening, and below it why the fan runs as it does.
 Item {
     id: root
 
@@ -12,7 +13,7 @@ Item {
     readonly property real diameter: 110
 
     implicitWidth: diameter
-    implicitHeight: diameter + (showsName ? Spacing.small + nameLabel.implicitHeight : 0)
+    implicitHeight: reason.y + reason.height
     Accessible.role: Accessible.StaticText
     Accessible.name: row.spoken
 
@@ -22,6 +23,16 @@ Item {
         gapDegrees: 90
         animationDuration: 0.8
         fraction: root.row.fraction
+        target: root.row.targetFraction
+    }
+
+    PointerWatch {
+        id: pointer
+
+        width: root.diameter
+        height: root.diameter
+
+        Tooltip { text: root.row.targetText; shown: pointer.hovered; gap: -4 }
     }
 
     TabularText {
@@ -63,5 +74,16 @@ Item {
         text: root.row.name
         font: Typography.weighted(Typography.subheadline, Font.Medium)
         color: AppColors.secondaryText
+    }
+
+    // Wider than the gauge, but not into the next one's.
+    FanReasonLine {
+        id: reason
+
+        anchors.horizontalCenter: arcsCentre.horizontalCenter
+        y: root.showsName ? nameLabel.y + nameLabel.height + Spacing.hair : root.diameter + Spacing.small
+        width: Math.min(implicitWidth, root.diameter + 54)
+        text: root.row.reason
+        explanation: root.row.explanation
     }
 }
