@@ -79,6 +79,8 @@ void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
         setRequestedPercents({});
         m_answeredDemand = {};
         setIsOverriding(false);
+        if (!m_helper.isInstalled())
+            setIsWanted(false);
         m_watch.clear();
         return;
     }
@@ -91,12 +93,13 @@ void ControlEngine::pushTargets(const std::vector<SMCFanReading>& fans) {
         << " temperature=" << QString::number(m_smoothedTemperature, 'f', 6)
         << " percents=" << listText(requested);
 
+    setIsWanted(std::ranges::any_of(requested, [](double percent) { return percent > 0; }));
     push({.preset = preset,
           .temperature = m_smoothedTemperature,
           .measuredTemperature = m_telemetry.systemTemperature().value_or(0),
           .boostPercent = m_quickBoostPercent,
-          .targets = isAnythingRequested() ? ControlArithmetic::targets(requested, fans)
-                                           : HelperControlling::Targets()});
+          .targets = m_isWanted ? ControlArithmetic::targets(requested, fans)
+                                : HelperControlling::Targets()});
 }
 
 QCoro::Task<void> ControlEngine::push(ControlDemand demand) {
@@ -130,14 +133,6 @@ QCoro::Task<void> ControlEngine::shutDown() {
         setApplied(std::nullopt);
 }
 
-bool ControlEngine::isAtWork() const {
-    return m_isOverriding || isAnythingRequested();
-}
-
-bool ControlEngine::isAnythingRequested() const {
-    return std::ranges::any_of(m_requestedPercents, [](double percent) { return percent > 0; });
-}
-
 void ControlEngine::setRequestedPercents(const QList<double>& percents) {
     if (assignIfChanged(m_requestedPercents, percents))
         Q_EMIT requestedPercentsChanged();
@@ -156,8 +151,15 @@ void ControlEngine::setApplied(std::optional<HelperControlling::Targets> applied
 }
 
 void ControlEngine::setIsOverriding(bool isOverriding) {
-    if (assignIfChanged(m_isOverriding, isOverriding))
-        Q_EMIT isOverridingChanged();
+    if (!assignIfChanged(m_isOverriding, isOverriding))
+        return;
+    Q_EMIT isOverridingChanged();
+    Q_EMIT isAtWorkChanged();
+}
+
+void ControlEngine::setIsWanted(bool isWanted) {
+    if (assignIfChanged(m_isWanted, isWanted))
+        Q_EMIT isAtWorkChanged();
 }
 
 } // namespace kestrowind

@@ -54,10 +54,9 @@ public:
     [[nodiscard]] const ControlDemand& answeredDemand() const { return m_answeredDemand; }
     /// Whether the application drives the fans.
     [[nodiscard]] bool isOverriding() const { return m_isOverriding; }
-    /// Whether it drives the fans or tries to: a call that the helper did not answer leaves its
-    /// targets standing, and the next one has to be in time for them. Changes with
-    /// requestedPercents and isOverriding.
-    [[nodiscard]] bool isAtWork() const;
+    /// Whether it drives the fans or tries to. Neither a call that the helper did not answer nor a
+    /// sample without fans ends that: targets stand, and the next ones have to be in time for them.
+    [[nodiscard]] bool isAtWork() const { return m_isOverriding || m_isWanted; }
     /// The temperature at which the curves are evaluated, degrees Celsius.
     [[nodiscard]] double smoothedTemperature() const { return m_smoothedTemperature; }
 
@@ -75,6 +74,7 @@ Q_SIGNALS:
     void requestedPercentsChanged();
     void effectiveTargetsChanged();
     void isOverridingChanged();
+    void isAtWorkChanged();
     /// With every answer, whether or not anything is another than before.
     void demandAnswered();
 
@@ -83,12 +83,12 @@ private:
     void pushTargets(const std::vector<SMCFanReading>& fans);
     QCoro::Task<void> push(ControlDemand demand);
 
-    [[nodiscard]] bool isAnythingRequested() const;
     void setRequestedPercents(const QList<double>& percents);
     /// Nothing, or an empty list, means that the application does not control.
     void setApplied(std::optional<HelperControlling::Targets> applied,
                     const ControlDemand& demand = {});
     void setIsOverriding(bool isOverriding);
+    void setIsWanted(bool isWanted);
 
     TelemetryStore& m_telemetry;
     PresetStore& m_presets;
@@ -99,6 +99,7 @@ private:
     std::vector<double> m_effectiveTargets;
     ControlDemand m_answeredDemand;
     bool m_isOverriding = false;
+    bool m_isWanted = false; ///< the last sample with fans asked for targets
     double m_smoothedTemperature = 0;
     std::optional<std::chrono::system_clock::time_point> m_lastTickDate;
     QTimer m_pushTimer;

@@ -30,11 +30,8 @@ KestrowindApp::KestrowindApp(Platform platform, const LaunchOptions& options, Sc
         m_platform.application->replyToShouldTerminate();
     });
     const ControlEngine& engine = m_appState.engine();
-    const auto showActivity = [this, &engine] {
-        m_platform.activity->setUnderWay(engine.isAtWork());
-    };
-    connect(&engine, &ControlEngine::requestedPercentsChanged, this, showActivity);
-    connect(&engine, &ControlEngine::isOverridingChanged, this, showActivity);
+    connect(&engine, &ControlEngine::isAtWorkChanged, this,
+            [this, &engine] { m_platform.activity->setUnderWay(engine.isAtWork()); });
     if (options.readings) {
         m_readingsPrinter = std::make_unique<ReadingsPrinter>(m_appState, *options.readings);
         // Nobody reads any more: what ran for its readings is done.

@@ -177,6 +177,7 @@ TEST_F(ControlEngineTest, DrivesNothingWithoutFansHelperOrAnswer) {
         helper.answer = answer;
         sample(50, fans);
         EXPECT_EQ(engine->isOverriding(), isOverriding) << what;
+        EXPECT_EQ(engine->isAtWork(), state != HelperState::notInstalled) << what;
         EXPECT_EQ(helper.takeLog().isEmpty(), demands == 0) << what;
         EXPECT_EQ(engine->requestedPercents().size(), demands) << what;
         EXPECT_TRUE(demands == 0 || engine->effectiveTargets() == answer.value_or(Targets()))
