@@ -49,6 +49,10 @@
         <extracomment>%1: 0 to 100</extracomment>
         <translation>%1%</translation>
     </message>
+    <message id="curves.chart.boost">
+        <extracomment>At a dashed line in the plot. %1: percent</extracomment>
+        <translation>Quick boost %1%</translation>
+    </message>
     <message id="curves.chart.callout.automaticSpeed">
         <extracomment>%1: whole degrees Celsius, %2: whole percent; the fan is left to the Mac</extracomment>
         <translation>%1 °C · %2% · automatic speed</translation>
@@ -87,6 +91,10 @@
     </message>
     <message id="curves.chart.readOnlyHelp">
         <translation>The curve of a built-in preset cannot be changed. Customize it to get a copy of your own.</translation>
+    </message>
+    <message id="curves.chart.safetyFloor">
+        <extracomment>In the shaded region that the helper does not let the fans go below</extracomment>
+        <translation>Safety floor</translation>
     </message>
     <message id="curves.customizeButton">
         <translation>Customize</translation>

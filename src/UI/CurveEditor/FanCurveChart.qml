@@ -30,6 +30,14 @@ FocusScope {
         chart: root.model
     }
 
+    DemandFloors {
+        x: root.model.plot.x
+        y: root.model.plot.y
+        width: root.model.plot.width
+        height: root.model.plot.height
+        chart: root.model
+    }
+
     CurveShape {
         x: root.model.plot.x - bleed
         y: root.model.plot.y - bleed

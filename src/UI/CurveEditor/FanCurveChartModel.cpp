@@ -43,6 +43,11 @@ void FanCurveChartModel::setIsEditable(bool isEditable) {
     updateMarks();
 }
 
+void FanCurveChartModel::setBoostPercent(double percent) {
+    if (assignIfChanged(m_boostPercent, percent))
+        Q_EMIT boostPercentChanged();
+}
+
 void FanCurveChartModel::setLiveTemperature(const std::optional<double>& temperature) {
     if (!assignIfChanged(m_liveTemperature, temperature))
         return;

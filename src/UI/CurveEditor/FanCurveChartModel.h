@@ -52,6 +52,9 @@ public:
     // What is shown; the owner's.
     void setCurve(const FanCurve& curve);
     void setIsEditable(bool isEditable);
+    /// The quick boost in percent; 0 is none. No curve's demand counts below it.
+    [[nodiscard]] double boostPercent() const { return m_boostPercent; }
+    void setBoostPercent(double percent);
     /// The temperature that drives the curve, degrees Celsius; absent hides the live marker.
     void setLiveTemperature(const std::optional<double>& temperature);
     /// A fan to estimate speeds for.
@@ -134,6 +137,7 @@ Q_SIGNALS:
 
     void curveChanged();
     void isEditableChanged();
+    void boostPercentChanged();
     void plotChanged();
     void motionChanged();
     void draggedPointChanged();
@@ -162,6 +166,7 @@ private:
     FanCurve m_curve;
     bool m_isEditable = false;
     std::optional<double> m_liveTemperature;
+    double m_boostPercent = 0;
     std::optional<SMCFanReading> m_fan;
     QRectF m_plot;
     CurvePointIdentities m_identities;

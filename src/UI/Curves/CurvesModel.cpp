@@ -31,6 +31,10 @@ CurvesModel::CurvesModel(AppState& appState, CurveEditHistory& history,
     connect(&presets, &PresetStore::presetsChanged, this, &CurvesModel::refresh);
     connect(&presets, &PresetStore::activePresetIDChanged, this, &CurvesModel::refresh);
     appState.telemetry().onSample(this, [this](const TelemetrySample&) { refreshTelemetry(); });
+    const ControlEngine& engine = appState.engine();
+    const auto showBoost = [this, &engine] { m_chart.setBoostPercent(engine.quickBoostPercent()); };
+    connect(&engine, &ControlEngine::quickBoostPercentChanged, this, showBoost);
+    showBoost();
     connect(&m_visibility, &VisibilityWatch::isSeenChanged, this, &CurvesModel::refreshTelemetry);
     connect(&m_chart, &FanCurveChartModel::movePoint, this, &CurvesModel::movePoint);
     connect(&m_chart, &FanCurveChartModel::nudgePoint, this, &CurvesModel::nudgePoint);

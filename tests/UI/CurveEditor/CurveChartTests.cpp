@@ -480,6 +480,7 @@ TEST(CurveChartPictures, ShowTheAxesTheCurveAndWhatIsPointedAt) {
                       isEditable ? chartSize : QSize(270 + 64, 120 + 44));
         view.showActive();
         view.press(Qt::Key_Tab);
+        chart.setBoostPercent(isEditable ? 40 : 0);
         chart.setHoverLocation(QPointF(150, 60));
         const auto items = view.rootObject()->findChildren<QQuickItem*>();
         ASSERT_TRUE(QTest::qWaitFor([&] {

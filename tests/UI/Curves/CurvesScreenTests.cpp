@@ -362,6 +362,15 @@ TEST_F(CurvesView, CatchesUpWithTheTemperatureAndTheFanOnceItIsSeenAgain) {
     EXPECT_EQ(chart->live().text, u"80 °C"_s);
 }
 
+TEST_F(CurvesScreen, ShowsTheBoostThatIsAndThatComes) {
+    open();
+    state->engine().setQuickBoostPercent(30);
+    reopen();
+    EXPECT_EQ(chart->boostPercent(), 30);
+    state->engine().setQuickBoostPercent(0);
+    EXPECT_EQ(chart->boostPercent(), 0);
+}
+
 TEST_F(CurvesView, GivesAHighWindowToTheChart) {
     const double height = chart->plot().height();
     const double natural = view->rootObject()->implicitHeight();
