@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 
 namespace kestrowind {
 
@@ -31,31 +30,28 @@ inline TelemetrySample sampleAt(double seconds, double cpu, double gpu,
     return sample;
 }
 
-/// The application's state with a helper that applies whatever it is asked for.
-class TestState {
+/// A helper that applies whatever it is asked for.
+class ObedientHelper final : public PreviewHelperClient {
 public:
-    class ObedientHelper final : public PreviewHelperClient {
-    public:
-        QCoro::Task<std::optional<Targets>> setTargets(Targets targets) override {
-            co_return targets;
-        }
-        QCoro::Task<std::expected<void, InstallError>> install() override {
-            setState(HelperState::installed);
-            co_return std::expected<void, InstallError>();
-        }
-    };
+    QCoro::Task<std::optional<Targets>> setTargets(Targets targets) override { co_return targets; }
+    QCoro::Task<std::expected<void, InstallError>> install() override {
+        setState(HelperState::installed);
+        co_return std::expected<void, InstallError>();
+    }
+};
 
-    using Furnish = std::function<void(const QString& folder)>;
-
-    /// `furnish` puts into the presets' folder what is to be found there.
-    explicit TestState(const QStringList& arguments = {}, const Furnish& furnish = {})
+/// The application's state with a helper of the test's.
+template <class Helper>
+class StateWith {
+public:
+    explicit StateWith(const QStringList& arguments = {},
+                       std::chrono::milliseconds controlPatience = ControlWatch::defaultPatience)
         : defaults(home.defaults(arguments)) {
-        if (furnish)
-            furnish(home.path());
         auto telemetry = std::make_unique<TelemetryStore>(*defaults, SMCUserClientFactory());
         auto store = std::make_unique<PresetStore>(2, *defaults,
                                                    PresetStore::Storage{.folder = home.path()});
-        auto engine = std::make_unique<ControlEngine>(*telemetry, *store, *helper);
+        auto engine = std::make_unique<ControlEngine>(
+            *telemetry, *store, *helper, &std::chrono::system_clock::now, controlPatience);
         appState = std::make_unique<AppState>(std::move(telemetry),
                                               std::unique_ptr<HelperControlling>(helper),
                                               std::move(store), std::move(engine));
@@ -77,9 +73,11 @@ public:
 
     TestHome home;
     std::unique_ptr<UserDefaults> defaults;
-    ObedientHelper* helper = new ObedientHelper;
+    Helper* helper = new Helper;
     std::unique_ptr<AppState> appState;
     FakeFileDialogs fileDialogs;
 };
+
+using TestState = StateWith<ObedientHelper>;
 
 } // namespace kestrowind

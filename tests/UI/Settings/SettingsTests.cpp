@@ -1,17 +1,12 @@
-#include "Core/ControlEngine.h"
-#include "Core/ControlState.h"
 #include "Core/LocalizedText.h"
-#include "Core/PresetStore.h"
-#include "Core/PreviewHelperClient.h"
-#include "Core/TelemetryStore.h"
 #include "Core/TemperatureSource.h"
 #include "Shared/HelperShared/HelperConstants.h"
 #include "Support/FakeLoginItem.h"
 #include "Support/FakeSystemInformation.h"
 #include "Support/QtPrinters.h"
-#include "Support/TestDefaults.h"
 #include "UI/RoomView.h"
 #include "UI/Settings/SettingsModel.h"
+#include "UI/TestState.h"
 
 #include <QCoroFuture>
 #include <QPromise>
@@ -61,39 +56,35 @@ public:
 };
 
 // What the settings work on.
-struct SettingsMachine {
+struct SettingsMachine : StateWith<WaitingHelper> {
+    // What a launch argument says counts, whatever is chosen.
+    SettingsMachine()
+        : StateWith({u"-notifiesStandingFan"_s, u"YES"_s}, 20ms) {}
     // A question that nobody answered would keep its asker.
     ~SettingsMachine() {
-        for (std::size_t i = 0; i < helper.questions.size(); ++i)
-            helper.answer(i);
+        for (std::size_t i = 0; i < helper->questions.size(); ++i)
+            helper->answer(i);
     }
 
     SettingsServices services() {
-        return {.helper = helper,
-                .control = control,
+        return {.helper = *helper,
+                .control = appState->control(),
                 .helperOperation = operation,
                 .userDefaults = *defaults,
                 .loginItem = loginItem,
                 .information = information};
     }
 
-    TestHome home;
-    // What a launch argument says counts, whatever is chosen.
-    std::unique_ptr<UserDefaults> defaults = home.defaults({u"-notifiesStandingFan"_s, u"YES"_s});
-    WaitingHelper helper;
-    TelemetryStore telemetry{*defaults, SMCUserClientFactory()};
-    PresetStore presets{2, *defaults, {.folder = home.path()}};
-    ControlEngine engine{telemetry, presets, helper, &std::chrono::system_clock::now, 20ms};
-    ControlState control{helper, engine};
-    HelperOperation operation{helper};
+    HelperOperation operation{*helper};
     FakeLoginItem loginItem;
     FakeSystemInformation information;
 };
 
 TEST(HelperSettings, AsksForTheStatusAgainAndAgainWhileItIsSeen) {
     SettingsMachine machine;
-    WaitingHelper& helper = machine.helper;
-    HelperSettings settings(helper, machine.control, machine.operation, machine.information, 20ms);
+    WaitingHelper& helper = *machine.helper;
+    HelperSettings settings(helper, machine.appState->control(), machine.operation,
+                            machine.information, 20ms);
     std::size_t before = 0;
     const auto asks = [&](std::size_t more) {
         before += more;
@@ -153,14 +144,14 @@ TEST_F(SettingsScreen, SaysHowTheHelperIsAndWhatCanBeDoneAboutIt) {
           std::tuple(unreachable, "unreachable", u"orange"_s, "reinstallHelperButton", true, true),
           std::tuple(installed, "installed", u"green"_s, "reinstallButton", false, true)}) {
         SCOPED_TRACE(text);
-        machine.helper.setState(state);
+        machine.helper->setState(state);
         // Of a fan, and nothing is done for it; or there is none.
         const bool isDenied = QByteArray(text) == "denied";
         ASSERT_TRUE(QTest::qWaitFor([&] {
-            machine.telemetry.ingest({.timestamp = {},
-                                      .temperatures = {},
-                                      .fans = std::vector<SMCFanReading>(isDenied ? 1 : 0)});
-            return machine.control.facts().isDenied == isDenied;
+            machine.telemetry().ingest({.timestamp = {},
+                                        .temperatures = {},
+                                        .fans = std::vector<SMCFanReading>(isDenied ? 1 : 0)});
+            return machine.appState->control().facts().isDenied == isDenied;
         }));
         const QByteArray key = QByteArray("settings.helper.status.") + text;
         const QQuickItem* words = view.named(localized(key + ".title"));
@@ -177,18 +168,19 @@ TEST_F(SettingsScreen, SaysHowTheHelperIsAndWhatCanBeDoneAboutIt) {
 TEST_F(SettingsScreen, WorksOnTheHelperOnceAtATimeAndShowsItsFailureUntilTheNextOrItIsLeft) {
     const QString spinner = localized("settings.helper.workingSpinner");
     const auto leaveScreen = [this] {
-        HelperSettings(machine.helper, machine.control, machine.operation, machine.information);
+        HelperSettings(*machine.helper, machine.appState->control(), machine.operation,
+                       machine.information);
     };
     EXPECT_FALSE(says(spinner, QAccessible::ProgressBar));
     click("settings.helper.reinstallButton");
     machine.operation.install();
     machine.operation.uninstall();
-    EXPECT_EQ(machine.helper.installations.size(), 1U);
-    EXPECT_EQ(machine.helper.removals, 0);
+    EXPECT_EQ(machine.helper->installations.size(), 1U);
+    EXPECT_EQ(machine.helper->removals, 0);
     EXPECT_EQ(button("settings.helper.reinstallButton"), nullptr);
     EXPECT_TRUE(says(spinner, QAccessible::ProgressBar));
     const double before = view.rootObject()->implicitHeight();
-    machine.helper.failInstallation(u"no runner"_s);
+    machine.helper->failInstallation(u"no runner"_s);
     EXPECT_TRUE(says(u"no runner"_s));
     EXPECT_TRUE(QTest::qWaitFor([&] { return view.rootObject()->implicitHeight() > before; }));
 
@@ -197,21 +189,21 @@ TEST_F(SettingsScreen, WorksOnTheHelperOnceAtATimeAndShowsItsFailureUntilTheNext
     EXPECT_FALSE(says(u"no runner"_s));
     leaveScreen();
     EXPECT_TRUE(machine.operation.isWorking());
-    machine.helper.failInstallation(u"User canceled. (-128)"_s);
+    machine.helper->failInstallation(u"User canceled. (-128)"_s);
     EXPECT_TRUE(says(u"User canceled. (-128)"_s));
     leaveScreen();
     EXPECT_FALSE(says(u"User canceled. (-128)"_s));
     click("settings.helper.uninstallButton");
-    EXPECT_EQ(machine.helper.removals, 1);
+    EXPECT_EQ(machine.helper->removals, 1);
     EXPECT_FALSE(says(spinner, QAccessible::ProgressBar));
 }
 
 TEST_F(SettingsScreen, ReadsWhatOthersMayHaveChangedWhenItComesOnScreen) {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return machine.helper.questions.size() == 1; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return machine.helper->questions.size() == 1; }));
     view.hide();
     machine.loginItem.enabled = true;
     view.show();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return machine.helper.questions.size() == 2; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return machine.helper->questions.size() == 2; }));
     EXPECT_TRUE(model.general()->launchesAtLogin());
 
     const auto areSwitchedOff = [this] {
@@ -226,7 +218,7 @@ TEST_F(SettingsScreen, ReadsWhatOthersMayHaveChangedWhenItComesOnScreen) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return areSwitchedOff() == std::pair(isOff, isOff); }));
     }
     machine.information.isJobSwitchedOff = true;
-    machine.helper.setState(HelperState::notInstalled);
+    machine.helper->setState(HelperState::notInstalled);
     view.hide();
     view.show();
     EXPECT_EQ(areSwitchedOff().second, false) << "there is none";
@@ -300,7 +292,7 @@ TEST_F(SettingsScreen, ShowsVersionsAndWarningsOnlyWhenThereAreSome) {
     constexpr auto text = QAccessible::StaticText;
     const auto report = [&](HelperControlPhase phase, std::optional<std::string> error,
                             const std::string& version) {
-        machine.helper.setLastStatus(
+        machine.helper->setLastStatus(
             HelperStatus{.version = version, .phase = phase, .lastError = std::move(error)});
         // Outdated, unlocking, failed, failed for no reason, the helper's version.
         return Shown{says(localized("settings.helper.outdatedNotice")),
