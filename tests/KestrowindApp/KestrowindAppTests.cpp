@@ -131,8 +131,8 @@ protected:
                                                           .windowRelease = 0ms,
                                                           .panel = {.releaseDelay = 0ms}});
     }
-    void start(const QStringList& arguments = {}, bool hasTray = true) {
-        make(arguments, {}, hasTray);
+    void start(const QStringList& arguments = {}) {
+        make(arguments);
         app->start();
     }
 
@@ -413,9 +413,6 @@ TEST_F(AssistiveTechnologyTest, WorksButtonsMenusFieldsSwitchesPickersAndSliders
     reader.act(localized("curves.chart.label"));
     reader.act(added, QAccessible::Slider, Action::decreaseAction());
     EXPECT_EQ(reader.heard(QAccessible::ValueChanged, added), 1);
-    reader.act(added, QAccessible::Slider);
-    reader.act(localized("curves.chart.deletePoint"), MenuItem);
-    EXPECT_TRUE(reader.isGone(added));
 
     show(u"Settings"_s);
     const QString login = localized("settings.general.launchAtLogin.title");
@@ -444,10 +441,8 @@ TEST_F(AssistiveTechnologyTest, WorksButtonsMenusFieldsSwitchesPickersAndSliders
     reader.act(boost, QAccessible::Slider, Action::decreaseAction());
     EXPECT_EQ(slider->currentValue(), 0);
     EXPECT_EQ(reader.heard(QAccessible::ValueChanged, boost), 2);
-    for (const auto& [wanted, applied] : {std::pair(42, 40.0), {41, 40.0}, {400, 100.0}}) {
-        slider->setCurrentValue(wanted);
-        EXPECT_EQ(slider->currentValue(), applied) << wanted;
-    }
+    slider->setCurrentValue(42);
+    EXPECT_EQ(slider->currentValue(), 40);
 }
 
 } // namespace
