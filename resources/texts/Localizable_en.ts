@@ -78,6 +78,10 @@
     <message id="curves.chart.lowerTemperature">
         <translation>1 °C Cooler</translation>
     </message>
+    <message id="curves.chart.operatingPoint">
+        <extracomment>Beside the dot where the curve is at the temperature now. %1: percent, %2: revolutions per minute</extracomment>
+        <translation>%1% · about %2 rpm</translation>
+    </message>
     <message id="curves.chart.pointAccessibilityLabel">
         <extracomment>Spoken; %1: number of the point, from 1</extracomment>
         <translation>Point %1</translation>

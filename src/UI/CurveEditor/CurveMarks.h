@@ -42,6 +42,9 @@ struct CurveLiveMarker {
     Q_PROPERTY(double labelX MEMBER labelX CONSTANT FINAL)
     Q_PROPERTY(double temperature MEMBER temperature CONSTANT FINAL)
     Q_PROPERTY(QString text MEMBER text CONSTANT FINAL)
+    Q_PROPERTY(QString operatingText MEMBER operatingText CONSTANT FINAL)
+    Q_PROPERTY(bool hasActual MEMBER hasActual CONSTANT FINAL)
+    Q_PROPERTY(double actualY MEMBER actualY CONSTANT FINAL)
     QML_VALUE_TYPE(curveLiveMarker)
 
 public:
@@ -51,8 +54,18 @@ public:
     double labelX = 0;      ///< the label's centre
     double temperature = 0; ///< as measured, degrees Celsius
     QString text = {};
+    QString operatingText = {}; ///< what the curve asks for: percent, and the speed where known
+    bool hasActual = false;
+    double actualY = 0; ///< where the fan's measured speed would be asked for
 
     bool operator==(const CurveLiveMarker&) const = default;
+
+    /// Whole percent, and with a fan the speed that this is.
+    [[nodiscard]] static QString operatingTextOf(double percent,
+                                                 const std::optional<SMCFanReading>& fan);
+    /// The percent that is the fan's measured speed, 0 to 100; absent where nobody can say.
+    [[nodiscard]] static std::optional<double>
+    actualPercent(const std::optional<SMCFanReading>& fan);
 };
 
 } // namespace kestrowind

@@ -156,13 +156,17 @@ CurveLiveMarker FanCurveChartModel::liveMarker() const {
     const double x = plot.x(
         std::clamp(*m_liveTemperature, FanCurve::lowestTemperature, FanCurve::highestTemperature));
     const double rightmost = std::max(m_plot.width() - liveLabelMargin, liveLabelMargin);
+    const double percent = m_curve.percent(*m_liveTemperature);
+    const auto actual = CurveLiveMarker::actualPercent(m_fan);
     return {.isShown = true,
             .x = x,
-            .operatingY =
-                plot.position({*m_liveTemperature, m_curve.percent(*m_liveTemperature)}).y(),
+            .operatingY = plot.position({*m_liveTemperature, percent}).y(),
             .labelX = std::clamp(x, liveLabelMargin, rightmost),
             .temperature = *m_liveTemperature,
-            .text = localized("curves.chart.axisDegrees").arg(std::lround(*m_liveTemperature))};
+            .text = localized("curves.chart.axisDegrees").arg(std::lround(*m_liveTemperature)),
+            .operatingText = CurveLiveMarker::operatingTextOf(percent, m_fan),
+            .hasActual = actual.has_value(),
+            .actualY = plot.y(actual.value_or(0))};
 }
 
 // --- pointers ----------------------------------------------------------------------------------

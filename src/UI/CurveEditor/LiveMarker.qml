@@ -2,7 +2,8 @@ import QtQuick
 import Kestrowind.DesignSystem
 import Kestrowind.CurveEditor
 
-// The temperature now as a dashed line with a label, and a dot where the curve is at it.
+// The temperature now as a dashed line with a label, a dot with its words where the curve is at it, and a
+// ring where the fan really is.
 Item {
     id: root
 
@@ -24,6 +25,33 @@ Item {
         height: root.height
         color: AppColors.temperatureColor(root.live.temperature)
         opacity: 0.45
+    }
+
+    Glide { id: actual; target: root.live.actualY; springs: root.glides; timing: root.timing }
+
+    Rectangle {
+        visible: root.live.hasActual
+        x: line.value - width / 2
+        y: actual.value - height / 2
+        width: 8
+        height: 8
+        radius: 4
+        color: AppColors.popupBackground
+        border.width: 2
+        border.color: AppColors.fanGradientEnd
+    }
+
+    // Beside the dot, in the area under a curve that rises; on its other side near the plot's end.
+    TabularText {
+        id: words
+
+        readonly property bool isLeft: line.value + 12 + width > root.width
+
+        x: Math.round(isLeft ? line.value - 12 - width : line.value + 12)
+        y: Math.round(Math.min(operating.value + 8, root.height - height - 4))
+        text: root.live.operatingText
+        font: Typography.weighted(Typography.caption, Font.Medium)
+        color: AppColors.secondaryText
     }
 
     // Below the label: at 100 % the two meet.

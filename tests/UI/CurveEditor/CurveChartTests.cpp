@@ -89,6 +89,20 @@ TEST_F(CurveChart, ShowsTheTemperatureAndWhatTheCurveMakesOfIt) {
     EXPECT_EQ(motion.size(), 2) << "but glides on";
     EXPECT_EQ(QPointF(chart.live().x, chart.live().operatingY), QPointF(150, 130));
     EXPECT_EQ(chart.live().labelX, 150);
+    EXPECT_EQ(chart.live().operatingText, u"35%"_s);
+    EXPECT_FALSE(chart.live().hasActual);
+    for (const auto& [actualRPM, most, y] : {std::tuple(2400.0, 6000.0, 150.0),
+                                             {7000.0, 6000.0, 0.0},
+                                             {900.0, 6000.0, 200.0},
+                                             {0.0, 6000.0, -1.0},
+                                             {2400.0, 1200.0, -1.0},
+                                             {2400.0, 1e9, -1.0}}) {
+        chart.setFanReading(SMCFanReading{.actualRPM = actualRPM, .minRPM = 1200, .maxRPM = most});
+        EXPECT_EQ(chart.live().hasActual, y >= 0) << actualRPM << " of " << most;
+        EXPECT_TRUE(y < 0 || chart.live().actualY == y) << chart.live().actualY;
+    }
+    chart.setFanReading(SMCFanReading{.actualRPM = 2400, .minRPM = 1200, .maxRPM = 6000});
+    EXPECT_EQ(chart.live().operatingText, u"35% · about 2,880 rpm"_s);
     for (const auto& [temperature, place, labelX, text] :
          {std::tuple(130, QPointF(450, 0), 426, u"130 °C"_s),
           {10, QPointF(0, 200), 24, u"10 °C"_s}}) {
@@ -464,6 +478,7 @@ TEST(CurveChartPictures, ShowTheAxesTheCurveAndWhatIsPointedAt) {
                       isEditable ? chartSize : QSize(270 + 64, 120 + 44));
         view.showActive();
         view.press(Qt::Key_Tab);
+        chart.setFanReading(SMCFanReading{.actualRPM = 3600, .minRPM = 1200, .maxRPM = 6000});
         chart.setBoostPercent(isEditable ? 40 : 0);
         chart.setHoverLocation(QPointF(150, 60));
         const auto items = view.rootObject()->findChildren<QQuickItem*>();
