@@ -4,7 +4,6 @@
 #include "Core/ControlState.h"
 #include "Core/TelemetrySample.h"
 
-#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -42,7 +41,6 @@ struct FanReason {
 
     /// Whether the application drives the fan.
     [[nodiscard]] bool isDriven() const { return cause >= Cause::curve; }
-    [[nodiscard]] double requestedPercent() const { return std::max(curvePercent, boostPercent); }
     /// The curve still sees more than there is.
     [[nodiscard]] bool isCoolingDown() const;
 
